@@ -342,6 +342,12 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
         <translation>Nebyly nalezeny žádné chyby</translation>
     </message>
     <message>
+        <source>Keine Zeile ist ohne Zuweisung.
+Ohne den Haken bei „%1“ sind alle Zeilen zu sehen.</source>
+        <translation>Žádný řádek není bez přiřazení.
+Bez zaškrtnutí „%1“ jsou vidět všechny řádky.</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Klasifikovat</translation>
     </message>

@@ -342,6 +342,12 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
         <translation>Ingen fejl fundet</translation>
     </message>
     <message>
+        <source>Keine Zeile ist ohne Zuweisung.
+Ohne den Haken bei „%1“ sind alle Zeilen zu sehen.</source>
+        <translation>Ingen linje er uden tildeling.
+Uden hak ved „%1“ ses alle linjer.</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Klassificer</translation>
     </message>

@@ -342,6 +342,12 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</tran
         <translation>Keine Fehler gefunden</translation>
     </message>
     <message>
+        <source>Keine Zeile ist ohne Zuweisung.
+Ohne den Haken bei „%1“ sind alle Zeilen zu sehen.</source>
+        <translation>Keine Zeile ist ohne Zuweisung.
+Ohne den Haken bei „%1“ sind alle Zeilen zu sehen.</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Klassifizieren</translation>
     </message>

@@ -342,6 +342,12 @@ The assignment must be changed by 'Edit value range assignment'</translation>
         <translation>No errors found</translation>
     </message>
     <message>
+        <source>Keine Zeile ist ohne Zuweisung.
+Ohne den Haken bei „%1“ sind alle Zeilen zu sehen.</source>
+        <translation>No line is without an assignment.
+Untick “%1” to see all lines.</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Classify</translation>
     </message>

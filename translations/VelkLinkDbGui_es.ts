@@ -342,6 +342,12 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
         <translation>No se han encontrado errores</translation>
     </message>
     <message>
+        <source>Keine Zeile ist ohne Zuweisung.
+Ohne den Haken bei „%1“ sind alle Zeilen zu sehen.</source>
+        <translation>Ninguna fila está sin asignación.
+Sin la marca en «%1» se ven todas las filas.</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Clasificar</translation>
     </message>

@@ -342,6 +342,12 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
         <translation>Virheitä ei löytynyt</translation>
     </message>
     <message>
+        <source>Keine Zeile ist ohne Zuweisung.
+Ohne den Haken bei „%1“ sind alle Zeilen zu sehen.</source>
+        <translation>Mikään rivi ei ole ilman kohdistusta.
+Ilman valintaa ”%1” kaikki rivit näkyvät.</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Luokittele</translation>
     </message>

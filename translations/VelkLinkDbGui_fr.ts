@@ -342,6 +342,12 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
         <translation>Aucune erreur trouvée</translation>
     </message>
     <message>
+        <source>Keine Zeile ist ohne Zuweisung.
+Ohne den Haken bei „%1“ sind alle Zeilen zu sehen.</source>
+        <translation>Aucune ligne n'est sans affectation.
+Décochez « %1 » pour voir toutes les lignes.</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Classer</translation>
     </message>

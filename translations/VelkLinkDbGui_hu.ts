@@ -342,6 +342,12 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
         <translation>Nincs hiba</translation>
     </message>
     <message>
+        <source>Keine Zeile ist ohne Zuweisung.
+Ohne den Haken bei „%1“ sind alle Zeilen zu sehen.</source>
+        <translation>Nincs hozzárendelés nélküli sor.
+A(z) „%1” jelölése nélkül minden sor látszik.</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Osztályozás</translation>
     </message>

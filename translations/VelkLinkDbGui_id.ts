@@ -342,6 +342,12 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
         <translation>Tidak ada kesalahan</translation>
     </message>
     <message>
+        <source>Keine Zeile ist ohne Zuweisung.
+Ohne den Haken bei „%1“ sind alle Zeilen zu sehen.</source>
+        <translation>Tidak ada baris tanpa penetapan.
+Hilangkan centang “%1” untuk melihat semua baris.</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Klasifikasikan</translation>
     </message>

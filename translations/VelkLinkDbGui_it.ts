@@ -342,6 +342,12 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
         <translation>Nessun errore trovato</translation>
     </message>
     <message>
+        <source>Keine Zeile ist ohne Zuweisung.
+Ohne den Haken bei „%1“ sind alle Zeilen zu sehen.</source>
+        <translation>Nessuna riga è senza assegnazione.
+Senza la spunta su «%1» si vedono tutte le righe.</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Classificare</translation>
     </message>

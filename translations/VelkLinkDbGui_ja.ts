@@ -342,6 +342,12 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>エラーはありません</translation>
     </message>
     <message>
+        <source>Keine Zeile ist ohne Zuweisung.
+Ohne den Haken bei „%1“ sind alle Zeilen zu sehen.</source>
+        <translation>割り当てのない行はありません。
+「%1」のチェックを外すと、すべての行が表示されます。</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>分類</translation>
     </message>

@@ -342,6 +342,12 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>오류가 없습니다</translation>
     </message>
     <message>
+        <source>Keine Zeile ist ohne Zuweisung.
+Ohne den Haken bei „%1“ sind alle Zeilen zu sehen.</source>
+        <translation>할당되지 않은 행이 없습니다.
+‘%1’의 선택을 해제하면 모든 행이 표시됩니다.</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>분류</translation>
     </message>

@@ -342,6 +342,12 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
         <translation>Ingen feil funnet</translation>
     </message>
     <message>
+        <source>Keine Zeile ist ohne Zuweisung.
+Ohne den Haken bei „%1“ sind alle Zeilen zu sehen.</source>
+        <translation>Ingen linje er uten tilordning.
+Uten hake ved «%1» vises alle linjene.</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Klassifiser</translation>
     </message>

@@ -342,6 +342,12 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
         <translation>Nie znaleziono błędów</translation>
     </message>
     <message>
+        <source>Keine Zeile ist ohne Zuweisung.
+Ohne den Haken bei „%1“ sind alle Zeilen zu sehen.</source>
+        <translation>Żaden wiersz nie jest bez przypisania.
+Bez zaznaczenia „%1” widać wszystkie wiersze.</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Klasyfikuj</translation>
     </message>

@@ -342,6 +342,12 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
         <translation>Nenhum erro encontrado</translation>
     </message>
     <message>
+        <source>Keine Zeile ist ohne Zuweisung.
+Ohne den Haken bei „%1“ sind alle Zeilen zu sehen.</source>
+        <translation>Nenhuma linha está sem atribuição.
+Sem a marca em «%1» veem-se todas as linhas.</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Classificar</translation>
     </message>

@@ -342,6 +342,12 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>Ошибок не найдено</translation>
     </message>
     <message>
+        <source>Keine Zeile ist ohne Zuweisung.
+Ohne den Haken bei „%1“ sind alle Zeilen zu sehen.</source>
+        <translation>Нет ни одной строки без назначения.
+Без флажка «%1» видны все строки.</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Классифицировать</translation>
     </message>

@@ -342,6 +342,12 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
         <translation>Ni napak</translation>
     </message>
     <message>
+        <source>Keine Zeile ist ohne Zuweisung.
+Ohne den Haken bei „%1“ sind alle Zeilen zu sehen.</source>
+        <translation>Nobena vrstica ni brez dodelitve.
+Brez kljukice pri »%1« so vidne vse vrstice.</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Razvrsti</translation>
     </message>

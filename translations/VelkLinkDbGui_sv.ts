@@ -342,6 +342,12 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
         <translation>Inga fel hittades</translation>
     </message>
     <message>
+        <source>Keine Zeile ist ohne Zuweisung.
+Ohne den Haken bei „%1“ sind alle Zeilen zu sehen.</source>
+        <translation>Ingen rad saknar tilldelning.
+Utan bocken vid ”%1” syns alla rader.</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Klassificera</translation>
     </message>

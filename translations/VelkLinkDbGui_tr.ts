@@ -342,6 +342,12 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
         <translation>Hata bulunamadı</translation>
     </message>
     <message>
+        <source>Keine Zeile ist ohne Zuweisung.
+Ohne den Haken bei „%1“ sind alle Zeilen zu sehen.</source>
+        <translation>Atamasız satır yok.
+“%1” işaretini kaldırınca tüm satırlar görünür.</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>Sınıflandır</translation>
     </message>

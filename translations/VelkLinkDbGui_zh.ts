@@ -342,6 +342,12 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>未发现错误</translation>
     </message>
     <message>
+        <source>Keine Zeile ist ohne Zuweisung.
+Ohne den Haken bei „%1“ sind alle Zeilen zu sehen.</source>
+        <translation>没有未分配的行。
+取消勾选“%1”即可看到所有行。</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>分类</translation>
     </message>

@@ -342,6 +342,12 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>未發現錯誤</translation>
     </message>
     <message>
+        <source>Keine Zeile ist ohne Zuweisung.
+Ohne den Haken bei „%1“ sind alle Zeilen zu sehen.</source>
+        <translation>沒有未指派的列。
+取消勾選「%1」即可看到所有列。</translation>
+    </message>
+    <message>
         <source>Klassifizieren</source>
         <translation>分類</translation>
     </message>

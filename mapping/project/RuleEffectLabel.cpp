@@ -1,5 +1,6 @@
 #include "RuleEffectLabel.h"
 
+#include <core/text/countText.h>
 #include <core/text/PString.h>
 #include <release/effect/RuleEffect.h>
 
@@ -92,8 +93,8 @@ QString RuleEffectLabel::textOf(const VelkRelease::RuleEffect &effect)
         PString::translate("Zeilen: %1 von %2 · offene, die zugewiesen würden: %3 · bestätigte, "
                            "die nicht mehr passten: %4",
                            "VelkLinkDbGui")
-            .arg(QString::number(effect.taken), QString::number(effect.lines),
-                 QString::number(effect.settled), QString::number(effect.misfits.size()));
+            .arg(countText(effect.taken), countText(effect.lines), countText(effect.settled),
+                 countText(qint64(effect.misfits.size())));
     return effect.misfits.isEmpty()
                ? text
                : text + QStringLiteral(" (%1)").arg(numbers(effect.misfits, ShownLines));

@@ -77,9 +77,10 @@ void TableMappingWidget::showAllLines()
     d->onChkFilterNotMappedLines(Qt::Unchecked);
 }
 
-void TableMappingWidget::showOnlyLines(const std::vector<int> &lines)
+void TableMappingWidget::showOnlyLines(const std::vector<int> &lines, const QString &ifNone)
 {
     d->chkFilterSource->setChecked(false);
+    d->sourceView->setEmptyText(ifNone);
     TableLineFilters::showOnly(d->sourceTable, lines);
 }
 

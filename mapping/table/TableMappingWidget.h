@@ -58,7 +58,7 @@ public:
     /// Takes the filter by state away, and the one set from the menu.
     void showAllLines();
     /// In place of such filters: only these source lines, ascending by number.
-    void showOnlyLines(const std::vector<int> &lines);
+    void showOnlyLines(const std::vector<int> &lines, const QString &ifNone);
     /// Called with each condition that was put on the clipboard.
     void setConditionListener(const std::function<void(const QString &condition)> &listener);
 

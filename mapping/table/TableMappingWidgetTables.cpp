@@ -35,6 +35,15 @@ void showText(QPushButton *button, const QString &text)
     button->setShortcut(keys);
 }
 
+/// For a table that has no line without an assignment, while only such lines are shown.
+QString emptyTextOf(const QCheckBox &box)
+{
+    return PString::translate("Keine Zeile ist ohne Zuweisung.\nOhne den Haken bei „%1“ sind alle "
+                              "Zeilen zu sehen.",
+                              "VelkLinkDbGui")
+        .arg(box.text());
+}
+
 } // namespace
 
 void TableMappingWidgetPrivate::loadSourceTable(const VKTab::ContentRef &table,
@@ -332,6 +341,7 @@ void TableMappingWidgetPrivate::onChkFilterNotMappedLines(int state)
 {
     if (!sourceTable.isValid())
         return;
+    sourceView->setEmptyText(emptyTextOf(*chkFilterSource));
     if (state == Qt::Checked)
         TableLineFilters::showUnassigned(sourceTable);
     else
@@ -343,6 +353,7 @@ void TableMappingWidgetPrivate::onChkFilterTargetLines(int state)
     const VKTab::ContentRef table = targetView->getTable();
     if (!sourceTable.isValid() || !table.isValid())
         return;
+    targetView->setEmptyText(emptyTextOf(*chkFilterTarget));
     if (state == Qt::Checked)
         m_filters.showUnused(table, mapping, targetsOf(table));
     else

@@ -1,12 +1,12 @@
 #include "dlgSelectValueRangeVars.h"
 
+#include <core/text/countText.h>
 #include <core/text/PString.h>
 #include <gui/application/PApplication.h>
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QLabel>
-#include <QLocale>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -70,5 +70,5 @@ void dlgSelectValueRangeVars::writeCount()
 {
     if (m_count)
         m_count->setText(PString::translate("Wertkombinationen: %1", "VelkLinkDbGui")
-                             .arg(QLocale().toString(m_counter(selectedNames()))));
+                             .arg(countText(m_counter(selectedNames()))));
 }

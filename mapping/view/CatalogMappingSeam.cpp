@@ -140,10 +140,10 @@ void CatalogMappingWidget::setProjectFilter(
         d->revealShown();
 }
 
-void CatalogMappingWidget::showOnlyLines(const std::vector<int> &lines)
+void CatalogMappingWidget::showOnlyLines(const std::vector<int> &lines, const QString &ifNone)
 {
     if (sourceTable().isValid())
-        d->tableWidget->showOnlyLines(lines);
+        d->tableWidget->showOnlyLines(lines, ifNone);
 }
 
 void CatalogMappingWidget::setComparing(bool on)

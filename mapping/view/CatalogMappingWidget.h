@@ -111,8 +111,9 @@ public:
     /// takes it away. Asked at each change of a filter, not at changes of mappings.
     void setProjectFilter(const std::function<bool(const PrjMappingC &mapping)> &accepts);
     /// The source table shows only these lines, ascending by number, until another project is shown
-    /// or the user chooses another filter of lines; none at all if there are none.
-    void showOnlyLines(const std::vector<int> &lines);
+    /// or the user chooses another filter of lines; none at all if there are none, and \a ifNone in
+    /// their place.
+    void showOnlyLines(const std::vector<int> &lines, const QString &ifNone = QString());
     /// See TableMappingWidget::setComparing().
     void setComparing(bool on);
     /// What the source table says of lines beside what the mapping does, with a mark at the number

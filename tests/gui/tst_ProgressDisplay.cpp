@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QLabel>
+#include <QLocale>
 #include <QProcess>
 #include <QProgressBar>
 #include <QPushButton>
@@ -58,6 +59,7 @@ class tst_ProgressDisplay : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { QLocale::setDefault(QLocale(QLocale::German)); }
     void time_data()
     {
         QTest::addColumn<qint64>("milliseconds");
@@ -68,7 +70,7 @@ private Q_SLOTS:
         QTest::newRow("nearly a minute") << qint64(59001) << "1 min 00 s";
         QTest::newRow("minutes") << qint64(125000) << "2 min 05 s";
         QTest::newRow("hours") << qint64(3 * 3600000 + 59000) << "3 h 00 min";
-        QTest::newRow("many hours") << qint64(1234) * 3600000 << "1 234 h 00 min";
+        QTest::newRow("many hours") << qint64(1234) * 3600000 << "1.234 h 00 min";
     }
     void time()
     {
@@ -83,9 +85,9 @@ private Q_SLOTS:
         QTest::addColumn<qint64>("remaining");
         QTest::addColumn<QString>("expected");
         QTest::newRow("all") << qint64(1234) << qint64(1000000) << 1234.5 << qint64(61000)
-                             << "1 234 von 1 000 000 · 1 235/s · noch 1 min 01 s";
+                             << "1.234 von 1.000.000 · 1.235/s · noch 1 min 01 s";
         QTest::newRow("slow") << qint64(1) << qint64(999) << 0.25 << qint64(8000)
-                              << "1 von 999 · 0.3/s · noch 8 s";
+                              << "1 von 999 · 0,3/s · noch 8 s";
         QTest::newRow("no rate yet") << qint64(0) << qint64(7) << 0.0 << qint64(-1) << "0 von 7";
         QTest::newRow("no end known")
             << qint64(12) << qint64(-1) << 50.0 << qint64(-1) << "12 · 50/s";
@@ -128,7 +130,7 @@ private Q_SLOTS:
                  QString("Zeilen werden <b>neu</b> zugewiesen"));
         QCOMPARE(visibleChildren<QLabel>("progressText").constFirst()->textFormat(), Qt::PlainText);
         QCOMPARE(withPlainBlanks(visibleChildren<QLabel>("progressDetails").constFirst()->text()),
-                 QString("250 von 1 000"));
+                 QString("250 von 1.000"));
         const QProgressBar *bar = visibleChildren<QProgressBar>("progressBar").constFirst();
         QCOMPARE(bar->value() * 4, bar->maximum());
         display.showProgress({sample(1, false)});

@@ -486,9 +486,19 @@ void tst_CatalogMappingSeam::showsOnlyLinesForAHost()
     QCOMPARE(editor.widget->shownLine(0), 1);
     QCOMPARE(editor.widget->shownLine(1), 3);
     QVERIFY(editor.widget->linesAreFiltered());
+    const auto *const empty =
+        editor.widget->findChild<QWidget *>("sourceView")->findChild<QLabel *>("emptyTable");
     editor.widget->showOnlyLines({});
     QCOMPARE(editor.widget->shownLineCount(), 0);
+    QVERIFY(!empty->isVisible()); // the host gave no reason
+    editor.widget->showOnlyLines({}, "because");
+    QVERIFY(empty->isVisible());
+    QCOMPARE(empty->text(), "because");
+    editor.widget->showOnlyLines({2}, "because");
+    QVERIFY(!empty->isVisible());
+    editor.widget->showOnlyLines({}, "because");
     editor.widget->showAllLines();
+    QVERIFY(!empty->isVisible());
     QCOMPARE(editor.widget->shownLineCount(), 3);
     QVERIFY(!editor.widget->linesAreFiltered());
     editor.widget->showOnlyLines({2});

@@ -5,6 +5,7 @@
 #include <geomcoregui/table/VkTableModel.h>
 
 #include <QAction>
+#include <QLabel>
 #include <QMenu>
 #include <QTest>
 
@@ -76,6 +77,11 @@ void tst_TableMappingFilters::filterNotMappedLinesWithoutAny()
     f->tick("chkFilterSource");
     QCOMPARE(visible(f->source), QString());
     QCOMPARE(f->source->model()->rowCount(), 0);
+    const auto *const empty = f->source->findChild<QLabel *>("emptyTable");
+    QVERIFY(!empty->isHidden());
+    QVERIFY2(empty->text().contains(f->box("chkFilterSource")->text()), qPrintable(empty->text()));
+    f->tick("chkFilterSource");
+    QVERIFY(empty->isHidden());
 }
 
 void tst_TableMappingFilters::filterTargetLines()

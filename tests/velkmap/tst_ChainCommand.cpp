@@ -220,7 +220,7 @@ void tst_ChainCommand::writesAFile()
                                    "--second", one, "--into",          into};
     QCOMPARE(run(arguments), ExitStatus::Done);
     QCOMPARE(m_err, QString());
-    QCOMPARE(m_out, QString("2024 to 2026: 1 projects, 1 lines confirmed, 0 assigned, 0 to check, "
+    QCOMPARE(m_out, QString("2024 to 2026: 1 project, 1 line confirmed, 0 assigned, 0 to check, "
                             "0 without target\n"));
     MappingFile file;
     QVERIFY(file.read(into));

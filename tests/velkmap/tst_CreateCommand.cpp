@@ -75,7 +75,7 @@ void tst_CreateCommand::writesMappingFile()
 {
     QCOMPARE(run(places() + QStringList{"--catalog", "old=new"}), ExitStatus::Done);
     QCOMPARE(m_err, QString());
-    QCOMPARE(m_out, "2021-03-01T08:00:00Z to 2022-05-01T10:00:00Z: 1 projects, 1 with the same "
+    QCOMPARE(m_out, "2021-03-01T08:00:00Z to 2022-05-01T10:00:00Z: 1 project, 1 with the same "
                     "path, 0 elsewhere, 0 in several places, 0 without target, 0 unreadable\n");
     MappingFile file;
     QVERIFY(file.read(m_directory->filePath("mapping.json")));

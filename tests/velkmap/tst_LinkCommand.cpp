@@ -202,12 +202,11 @@ void tst_LinkCommand::linkWritesOnce()
                                 "sqlite:" + path("link.db")};
     Result result = run(arguments);
     QCOMPARE(result.status, ExitStatus::Done);
-    QCOMPARE(result.out, "cat/screw.prj v1: 3 links\n3 links of 1 projects written, 0 links of 0 "
+    QCOMPARE(result.out, "cat/screw.prj v1: 3 links\n3 links of 1 project written, 0 links of 0 "
                          "projects are there already\n");
     QCOMPARE(result.err, "");
     result = run(arguments);
-    QCOMPARE(result.out,
-             "0 links of 0 projects written, 3 links of 1 projects are there already\n");
+    QCOMPARE(result.out, "0 links of 0 projects written, 3 links of 1 project are there already\n");
     QCOMPARE(value(path("link.db"), "SELECT COUNT(*) FROM linkdb_links"), "3");
     QCOMPARE(
         value(path("link.db"),
@@ -229,7 +228,7 @@ void tst_LinkCommand::dryRunWritesNothing()
     addDocuments({});
     result = run(arguments);
     QCOMPARE(result.status, ExitStatus::Done);
-    QCOMPARE(result.out, "cat/screw.prj v1: 3 links to write\n3 links of 1 projects would be "
+    QCOMPARE(result.out, "cat/screw.prj v1: 3 links to write\n3 links of 1 project would be "
                          "written, 0 links of 0 projects are there already\n");
     QCOMPARE(value(path("link.db"), "SELECT COUNT(*) FROM linkdb_links"), "0");
 }
@@ -297,7 +296,7 @@ void tst_LinkCommand::proofFinds()
              "differs: N3 of cat/screw.prj:3, now cat/bolt.prj:3: D: near number\n"
              "differs: N7 of cat/screw.prj:2, now cat/bolt.prj:2: D: near number\n"
              "open: cat/screw.prj:4 with N4, N4b\n"
-             "8 numbers: 2 gone, 1 claimed twice, 3 differ, 1 open lines with numbers; 2 numbers "
+             "8 numbers: 2 gone, 1 claimed twice, 3 differ, 1 open line with numbers; 2 numbers "
              "hang on projects that are not in the mapping\n");
     QCOMPARE(result.status, ExitStatus::Done);
     // Line 2 differs by one percent.

@@ -142,8 +142,8 @@ void tst_MergeCommand::merges()
     QCOMPARE(merge({"--report", path("report.json")}), ExitStatus::Done);
     write("expected.json", {release(m_date, {5, 2, 7})});
     QCOMPARE(bytes("out.json"), bytes("expected.json"));
-    QCOMPARE(m_out, m_date + ": 1 changes of theirs, 0 made by both, 0 lines clash in 0 ways, 0 "
-                             "other clashes\n");
+    QCOMPARE(m_out, m_date + ": 1 change of theirs, 0 made by both, 0 lines clash in 0 ways, "
+                             "other clashes: 0\n");
     QCOMPARE(m_err, QString());
     const QJsonObject told = report();
     QCOMPARE(told["clashes"].toArray().size(), 0);

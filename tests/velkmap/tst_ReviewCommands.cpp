@@ -123,7 +123,7 @@ void tst_ReviewCommands::review()
              qPrintable(rows[6]));
     QCOMPARE(rows[7].trimmed(), "cat/b.prj:2");
     QCOMPARE(rows[8], "4 open lines with a proposal differ in 2 ways");
-    QCOMPARE(rows[9], "1 open lines have no successor, in 1 groups");
+    QCOMPARE(rows[9], "1 open line has no successor, in 1 group");
     QCOMPARE(rows[10],
              "5 assigned lines were looked at beside their neighbours, 0 places do not fit");
 }
@@ -135,7 +135,7 @@ void tst_ReviewCommands::reviewOfOneProject()
     // A single line makes no family.
     QVERIFY2(m_out.contains("W: other wording"), qPrintable(m_out));
     QVERIFY(m_out.contains(
-        "\n1 open lines with a proposal differ in 1 ways\n1 open lines have no successor, "));
+        "\n1 open line with a proposal differs in 1 way\n1 open line has no successor, "));
 }
 
 void tst_ReviewCommands::reviewAsJson()
@@ -274,8 +274,9 @@ void tst_ReviewCommands::agreedReplacements()
 {
     writeMapping({{"cat/a.prj", "W", "St37", "S235", {}, {}}});
     QCOMPARE(run(QStringList("review") + places()), ExitStatus::Done);
-    QVERIFY2(m_out.contains("agreed in cat/a.prj: W: St37 → S235, 3 lines support it, 1 do not\n"),
-             qPrintable(m_out));
+    QVERIFY2(
+        m_out.contains("agreed in cat/a.prj: W: St37 → S235, 3 lines support it, 1 does not\n"),
+        qPrintable(m_out));
     QCOMPARE(run(QStringList("review") + places() + QStringList{"--json"}), ExitStatus::Done);
     const QJsonObject agreed =
         QJsonDocument::fromJson(m_out.toUtf8())["agreed"].toArray()[0].toObject();

@@ -57,7 +57,7 @@ void tst_Sharing::twoModellers()
     QCOMPARE(velkmap({"share", "--mapping", mine("ben")}), 0);
     QVERIFY2(m_said.contains("something to update, something to publish"), qPrintable(m_said));
     QCOMPARE(program({"update", "--mapping", mine("ben")}), 0);
-    QVERIFY2(m_said.contains("1 changes of theirs"), qPrintable(m_said));
+    QVERIFY2(m_said.contains("1 change of theirs"), qPrintable(m_said));
     QCOMPARE(program({"publish", "--mapping", mine("ben")}), 0);
     QCOMPARE(velkmap({"update", "--mapping", mine("anna")}), 0);
     for (const QString who : {"anna", "ben"}) {

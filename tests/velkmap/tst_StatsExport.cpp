@@ -1,3 +1,4 @@
+#include "../support/EnglishTexts.h"
 #include "../support/SizeLimit.h"
 #include "../support/TestCatalog.h"
 
@@ -268,12 +269,12 @@ private Q_SLOTS:
         QCOMPARE(run(arguments), ExitStatus::WrongUsage); // where to?
         QCOMPARE(run(arguments + QStringList{"--out", page}), ExitStatus::Done);
         QCOMPARE(m_err, QString());
-        QCOMPARE(m_out, "settled: 2 of 4 lines; open: 2; written to " + page + '\n');
+        QCOMPARE(m_out, "settled lines: 2 of 4; open: 2; written to " + page + '\n');
         QFile written(page);
         QVERIFY(written.open(QIODevice::ReadOnly));
         const QString html = QString::fromUtf8(written.readAll());
         for (const char *text :
-             {"<title>Mapping report: report.json</title>", "Settled: 2 of 4 lines; open: 2.",
+             {"<title>Mapping report: report.json</title>", "Settled lines: 2 of 4; open: 2.",
               "Open lines without a successor", "no similar line: cat",
               "Lines confirmed to have no successor", "cat/a.prj:3", "equal, only not confirmed",
               "Assigned with certainty", "UTC"})

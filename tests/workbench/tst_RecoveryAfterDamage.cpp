@@ -53,7 +53,7 @@ void tst_RecoveryAfterDamage::damagedJournals_data()
     QTest::newRow("second change wrong") << QByteArray("\"change\",\"step\":2") << false << 3
                                          << QStringLiteral("Die letzte Änderung kann fehlen.");
     QTest::newRow("first change wrong") << QByteArray("\"change\",\"step\":1") << false << 1
-                                        << QStringLiteral("passen noch 1 Änderungen");
+                                        << QStringLiteral("passt noch 1 Änderung,");
 }
 
 void tst_RecoveryAfterDamage::damagedJournals()

@@ -1,6 +1,7 @@
 #include "AssignCommand.h"
 
 #include "CommandLine.h"
+#include "counted.h"
 #include "InterruptGuard.h"
 #include "ReleaseFile.h"
 #include "TerminalProgress.h"
@@ -66,8 +67,8 @@ QString sumText(const LineCounts &counts)
 {
     const int confirmed =
         counts.lines() - counts.notFound() - counts.assigned() - counts.unverified();
-    return QString("%1 lines: %2 mapped, %3 to check, %4 confirmed, %5 without target")
-        .arg(QString::number(counts.lines()), QString::number(counts.assigned()),
+    return QString("%1: %2 mapped, %3 to check, %4 confirmed, %5 without target")
+        .arg(counted(counts.lines(), "line"), QString::number(counts.assigned()),
              QString::number(counts.unverified()), QString::number(confirmed),
              QString::number(counts.notFound()));
 }
@@ -220,11 +221,13 @@ ExitStatus AssignRun::writeCarried(const QString &mappingFile, const ReleaseMapp
         return ExitStatus::Done;
     const VelkRelease::CarryOutcome &done = m_carried;
     const auto certain = std::ranges::count_if(done.lines, &VelkRelease::CarriedLine::isCertain);
-    m_out << done.lines.size() << " lines take over what was confirmed for "
+    m_out << counted(qint64(done.lines.size()), "line")
+          << (done.lines.size() == 1 ? " takes" : " take") << " over what was confirmed for "
           << m_former->getTargetDate() << ": " << certain << " assigned, "
           << qint64(done.lines.size()) - certain << " proposed\n";
     if (const int left = done.confirmed - int(done.lines.size()); left > 0)
-        m_out << left << " of " << done.confirmed << " confirmed lines do not: " << done.settled
+        m_out << left << " of " << counted(done.confirmed, "confirmed line")
+              << (left == 1 ? " does" : " do") << " not: " << done.settled
               << " are settled already, " << done.unfollowed << " have no line to follow, "
               << done.expired << " were confirmed as expired, " << done.unknown
               << " are of unknown projects, " << done.clashing << " were in conflict\n";
@@ -259,7 +262,7 @@ ExitStatus AssignRun::run(ReleaseFile &file)
     allRead = carryOver(release) && allRead;
     if (const ExitStatus written = file.write(release, m_err); written != ExitStatus::Done)
         return written;
-    m_out << m_reached.projects << " of " << m_reached.totalProjects << " projects with "
+    m_out << m_reached.projects << " of " << counted(m_reached.totalProjects, "project") << " with "
           << sumText(m_reached.counts) << '\n';
     if (const ExitStatus written =
             writeCarried(QFileInfo(file.path()).canonicalFilePath(), release);
@@ -267,8 +270,8 @@ ExitStatus AssignRun::run(ReleaseFile &file)
         return written;
     warnIfNothingFits(m_reached.counts, m_err);
     if (InterruptGuard::isRequested() && m_reached.projects < m_reached.totalProjects) {
-        m_err << "velkmap assign: interrupted after " << m_reached.projects
-              << " projects; they are saved, run it again for the others\n";
+        m_err << "velkmap assign: interrupted after " << counted(m_reached.projects, "project")
+              << "; they are saved, run it again for the others\n";
         return ExitStatus::Interrupted;
     }
     return allRead ? ExitStatus::Done : ExitStatus::InputUnreadable;
@@ -304,8 +307,8 @@ ExitStatus AssignRun::runShare(const CommandLine &line, const VelkRelease::Share
         m_err << "velkmap assign: " << error << '\n';
         return ExitStatus::ResultUnwritable;
     }
-    m_out << "part " << number.text() << ": " << m_reached.projects << " of " << part.projects
-          << " projects with " << sumText(m_reached.counts) << '\n';
+    m_out << "part " << number.text() << ": " << m_reached.projects << " of "
+          << counted(part.projects, "project") << " with " << sumText(m_reached.counts) << '\n';
     return part.allRead ? ExitStatus::Done : ExitStatus::InputUnreadable;
 }
 

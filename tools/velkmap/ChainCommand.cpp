@@ -1,6 +1,7 @@
 #include "ChainCommand.h"
 
 #include "CommandLine.h"
+#include "counted.h"
 #include "ReleaseFile.h"
 
 #include <release/chain/chainReleases.h>
@@ -43,13 +44,15 @@ void tellChain(const ReleaseMappingC &release, const VelkRelease::ChainCounts &c
                QTextStream &out)
 {
     out << release.getSourceDate() << " to " << release.getTargetDate() << ": "
-        << release.countMappings() << " projects, " << counts.confirmed << " lines confirmed, "
-        << counts.assigned << " assigned, " << counts.toCheck << " to check, " << counts.open
-        << " without target\n";
+        << counted(release.countMappings(), "project") << ", " << counted(counts.confirmed, "line")
+        << " confirmed, " << counts.assigned << " assigned, " << counts.toCheck << " to check, "
+        << counts.open << " without target\n";
     if (counts.unknown > 0)
-        out << counts.unknown << " lines lead to what the second mapping does not know\n";
+        out << counted(counts.unknown, "line") << (counts.unknown == 1 ? " leads" : " lead")
+            << " to what the second mapping does not know\n";
     if (counts.rangeTexts > 0)
-        out << counts.rangeTexts << " lines have value range texts, which cannot be chained\n";
+        out << counted(counts.rangeTexts, "line") << (counts.rangeTexts == 1 ? " has" : " have")
+            << " value range texts, which cannot be chained\n";
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "CreateCommand.h"
 
 #include "CommandLine.h"
+#include "counted.h"
 #include "ReleaseFile.h"
 #include <release/assign/ReleaseDate.h>
 #include <release/assign/ReleaseMappingBuilder.h>
@@ -67,9 +68,10 @@ void printSummary(const Builder &builder, QTextStream &out)
     const Builder::Counts &counts = builder.counts();
     const ReleaseMappingC &release = builder.release();
     out << release.getSourceDate() << " to " << release.getTargetDate() << ": "
-        << release.countMappings() << " projects, " << counts.same << " with the same path, "
-        << counts.moved << " elsewhere, " << counts.several << " in several places, " << counts.gone
-        << " without target, " << counts.unreadable << " unreadable\n";
+        << counted(release.countMappings(), "project") << ", " << counts.same
+        << " with the same path, " << counts.moved << " elsewhere, " << counts.several
+        << " in several places, " << counts.gone << " without target, " << counts.unreadable
+        << " unreadable\n";
     if (counts.proposed > 0)
         out << counts.proposed << " with proposed conditions or variable mappings\n";
 }

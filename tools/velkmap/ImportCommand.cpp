@@ -1,6 +1,7 @@
 #include "ImportCommand.h"
 
 #include "CommandLine.h"
+#include "counted.h"
 
 #include <release/assign/ReleaseDate.h>
 #include <release/import/FolderImport.h>
@@ -30,7 +31,7 @@ void print(const QString &relative, const VelkRelease::TableImport &table, QText
 {
     static const char *const states[] = {"new", "changed", "unchanged"};
     const TableDescriptor &descriptor = table.descriptor();
-    out << relative << ": " << table.lineCount() << (table.lineCount() == 1 ? " line" : " lines");
+    out << relative << ": " << counted(table.lineCount(), "line");
     if (!descriptor.primaryKey.isEmpty())
         out << ", key " << descriptor.primaryKey.join(QStringLiteral(", "));
     out << ", " << states[int(table.state())] << '\n';
@@ -49,8 +50,9 @@ void printSummary(const FolderImport &import, QTextStream &out)
     for (const QString &name : import.leftOvers())
         out << "note: " << name << " has no CSV file any more and stays as it is\n";
     const FolderImport::Counts &counts = import.counts();
-    out << counts.tables() << " tables with " << counts.lines << " lines: " << counts.created
-        << " new, " << counts.changed << " changed, " << counts.unchanged << " unchanged";
+    out << counted(counts.tables(), "table") << " with " << counted(counts.lines, "line") << ": "
+        << counts.created << " new, " << counts.changed << " changed, " << counts.unchanged
+        << " unchanged";
     if (counts.failed > 0)
         out << "; " << counts.failed << " could not be imported";
     out << '\n';

@@ -1,6 +1,7 @@
 #include "JoinCommand.h"
 
 #include "CommandLine.h"
+#include "counted.h"
 #include "ReleaseFile.h"
 
 #include <release/assign/AssignmentPart.h>
@@ -75,7 +76,7 @@ ExitStatus runJoin(const QStringList &arguments, QTextStream &out, QTextStream &
         for (const QString &error : part.part.errors)
             err << "velkmap join: " << error << '\n';
     }
-    out << parts.size() << " parts with " << projects << " projects joined\n";
+    out << counted(parts.size(), "part") << " with " << counted(projects, "project") << " joined\n";
     return allRead ? ExitStatus::Done : ExitStatus::InputUnreadable;
 }
 

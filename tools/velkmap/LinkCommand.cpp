@@ -1,6 +1,7 @@
 #include "LinkCommand.h"
 
 #include "CommandLine.h"
+#include "counted.h"
 #include "InterruptGuard.h"
 #include "LinkDbOption.h"
 #include "ReleaseFile.h"
@@ -28,7 +29,8 @@ void tellProjects(const ReleaseLinker &linker, bool dryRun, QTextStream &out, QT
     for (const ReleaseLinker::Project &project : linker.projects()) {
         const QString name = project.path + " " + project.version;
         if (project.outcome == Outcome::Written)
-            out << name << ": " << project.links << (dryRun ? " links to write\n" : " links\n");
+            out << name << ": " << counted(project.links, "link")
+                << (dryRun ? " to write\n" : "\n");
         else if (project.outcome == Outcome::Failed)
             err << "velkmap link: " << name << ": " << project.problem << '\n';
     }
@@ -36,12 +38,14 @@ void tellProjects(const ReleaseLinker &linker, bool dryRun, QTextStream &out, QT
 
 void tellSum(const ReleaseLinker &linker, bool dryRun, QTextStream &out)
 {
-    out << linker.links(Outcome::Written) << " links of " << linker.count(Outcome::Written)
-        << (dryRun ? " projects would be written, " : " projects written, ")
-        << linker.links(Outcome::Unchanged) << " links of " << linker.count(Outcome::Unchanged)
-        << " projects are there already";
+    out << counted(linker.links(Outcome::Written), "link") << " of "
+        << counted(linker.count(Outcome::Written), "project")
+        << (dryRun ? " would be written, " : " written, ")
+        << counted(linker.links(Outcome::Unchanged), "link") << " of "
+        << counted(linker.count(Outcome::Unchanged), "project")
+        << (linker.links(Outcome::Unchanged) == 1 ? " is there already" : " are there already");
     if (const int failed = linker.count(Outcome::Failed); failed > 0)
-        out << ", " << failed << " projects failed";
+        out << ", " << counted(failed, "project") << " failed";
     out << '\n';
 }
 
@@ -87,7 +91,8 @@ ExitStatus runLink(const QStringList &arguments, QTextStream &out, QTextStream &
     tellProjects(linker, dryRun, out, err);
     tellSum(linker, dryRun, out);
     if (const int left = linker.count(Outcome::Interrupted); left > 0) {
-        err << "velkmap link: interrupted; run it again for the other " << left << " projects\n";
+        err << "velkmap link: interrupted; run it again for " << counted(left, "other project")
+            << '\n';
         return ExitStatus::Interrupted;
     }
     return done ? ExitStatus::Done : ExitStatus::ResultUnwritable;

@@ -1,6 +1,7 @@
 #include "MergeReport.h"
 
 #include "CommandLine.h"
+#include "counted.h"
 
 #include <core/files/DurableFile.h>
 #include <release/merge/ClashGroups.h>
@@ -37,10 +38,11 @@ void tellMerge(const VelkRelease::MergedFile &merged, QTextStream &out)
     for (const VelkRelease::MergeResult &result : merged.releases) {
         const auto lines = std::ranges::count(result.clashes, VelkRelease::MergeClash::Line,
                                               &VelkRelease::MergeClash::kind);
-        out << result.release.getSourceDate() << ": " << result.online.size()
-            << " changes of theirs, " << result.settled.size() << " made by both, " << lines
-            << " lines clash in " << VelkRelease::groupClashes(result.clashes).size() << " ways, "
-            << result.clashes.size() - lines << " other clashes\n";
+        out << result.release.getSourceDate() << ": " << counted(result.online.size(), "change")
+            << " of theirs, " << result.settled.size() << " made by both, "
+            << counted(lines, "line") << (lines == 1 ? " clashes in " : " clash in ")
+            << counted(qint64(VelkRelease::groupClashes(result.clashes).size()), "way")
+            << ", other clashes: " << result.clashes.size() - lines << '\n';
     }
     for (const QString &date : merged.keptDates)
         out << date << ": removed by one side, changed by the other; it stays\n";

@@ -2,6 +2,7 @@
 
 #include "CatalogRoots.h"
 #include "CommandLine.h"
+#include "counted.h"
 #include "InterruptGuard.h"
 #include "LinkDbOption.h"
 #include "ReleaseFile.h"
@@ -63,12 +64,13 @@ void writeText(const LinkProof &proof, QTextStream &out)
             << placeText(each.after) << ": " << changeTexts(each.changes).join("; ") << '\n';
     for (const LinkProof::Open &each : proof.open())
         out << "open: " << placeText(each.place) << " with " << each.numbers.join(", ") << '\n';
-    out << proof.numbers() << " numbers: " << proof.gone().size() << " gone, "
+    out << counted(proof.numbers(), "number") << ": " << proof.gone().size() << " gone, "
         << proof.claimed().size() << " claimed twice, "
         << (proof.hasCompared() ? QString::number(proof.differing().size()) + " differ, "
                                 : QString("parts not compared, "))
-        << proof.open().size() << " open lines with numbers; " << proof.elsewhere()
-        << " numbers hang on projects that are not in the mapping\n";
+        << counted(proof.open().size(), "open line") << " with numbers; "
+        << counted(proof.elsewhere(), "number") << (proof.elsewhere() == 1 ? " hangs" : " hang")
+        << " on projects that are not in the mapping\n";
 }
 
 void writeTexts(JsonWriter &json, const QStringList &texts)

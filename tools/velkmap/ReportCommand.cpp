@@ -37,7 +37,7 @@ const char *englishText(ReportText text)
     case ReportText::Made:
         return "Made on %1";
     case ReportText::Summary:
-        return "Settled: %1 of %2 lines; open: %3.";
+        return "Settled lines: %1 of %2; open: %3.";
     case ReportText::TotalHead:
         return "How the lines stand";
     case ReportText::FolderHead:
@@ -219,8 +219,8 @@ ExitStatus runReport(const QStringList &arguments, QTextStream &out, QTextStream
         return ExitStatus::ResultUnwritable;
     }
     const VelkRelease::ReportNumbers &numbers = report->total.numbers;
-    out << "settled: " << numbers.lines() - numbers.open() << " of " << numbers.lines()
-        << " lines; open: " << numbers.open() << "; written to " << line.value("out") << '\n';
+    out << "settled lines: " << numbers.lines() - numbers.open() << " of " << numbers.lines()
+        << "; open: " << numbers.open() << "; written to " << line.value("out") << '\n';
     return report->errors.isEmpty() ? ExitStatus::Done : ExitStatus::InputUnreadable;
 }
 

@@ -1,5 +1,7 @@
 #include "ReviewReport.h"
 
+#include "counted.h"
+
 #include <QTextStream>
 
 #include <cstdlib>
@@ -22,8 +24,7 @@ QString doubtText(const DifferencePatterns &patterns, int pattern, const QString
 QString stepsText(int steps)
 {
     const int count = std::abs(steps);
-    return QString::number(count) + (count == 1 ? " line too far " : " lines too far ") +
-           (steps > 0 ? "down" : "up");
+    return counted(count, "line") + " too far " + (steps > 0 ? "down" : "up");
 }
 
 QString findingText(const NeighbourFinding &finding)
@@ -134,14 +135,18 @@ void writeReviewTable(const ReviewReport &report, QTextStream &out)
         const AgreedReplacement replacement = report.release.getReplacements().at(i);
         out << "agreed" << (replacement.folder.isEmpty() ? QString() : " in " + replacement.folder)
             << ": " << ReviewReport::replacementText(replacement) << ", "
-            << report.evidence[i].supports << " lines support it, "
-            << report.evidence[i].counterExamples << " do not\n";
+            << counted(report.evidence[i].supports, "line")
+            << (report.evidence[i].supports == 1 ? " supports it, " : " support it, ")
+            << report.evidence[i].counterExamples
+            << (report.evidence[i].counterExamples == 1 ? " does not\n" : " do not\n");
     }
-    out << patterns.openLines() << " open lines with a proposal differ in " << ranked.size()
-        << " ways\n";
+    out << counted(patterns.openLines(), "open line") << " with a proposal "
+        << (patterns.openLines() == 1 ? "differs in " : "differ in ")
+        << counted(qint64(ranked.size()), "way") << '\n';
     if (!gone.empty())
-        out << patterns.goneLines() << " open lines have no successor, in " << gone.size()
-            << " groups\n";
+        out << counted(patterns.goneLines(), "open line")
+            << (patterns.goneLines() == 1 ? " has" : " have") << " no successor, in "
+            << counted(qint64(gone.size()), "group") << '\n';
     writeNeighbours(report, out);
 }
 

@@ -1,6 +1,7 @@
 #include "SearchCommand.h"
 
 #include "CommandLine.h"
+#include "counted.h"
 #include "InterruptGuard.h"
 #include "TerminalProgress.h"
 #include <core/json/JsonWriter.h>
@@ -27,17 +28,12 @@ QString oneRow(const QString &text)
     return row;
 }
 
-QString counted(int count, const char *one, const char *many)
-{
-    return QString::number(count) + ' ' + QLatin1String(count == 1 ? one : many);
-}
-
 void writeRows(const CatalogSearchResult &result, QTextStream &out)
 {
     for (const CatalogSearchHit &hit : result.hits) {
         out << oneRow(hit.path) << "  " << oneRow(hit.title);
         if (hit.lineCount >= 0)
-            out << "  (" << counted(hit.lineCount, "line", "lines");
+            out << "  (" << counted(hit.lineCount, "line");
         if (hit.lineCount >= 0 && hit.matchingLines >= 0)
             out << ", " << hit.matchingLines << " found";
         out << (hit.lineCount >= 0 ? ")\n" : "\n");

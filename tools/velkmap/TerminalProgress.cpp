@@ -1,5 +1,7 @@
 #include "TerminalProgress.h"
 
+#include "counted.h"
+
 #include <cstdio>
 #include <unistd.h>
 
@@ -59,7 +61,9 @@ QString rest(int done, int total, qint64 elapsed)
 
 QString TerminalProgress::text(int done, int total, qint64 lines, qint64 elapsed)
 {
-    QString result = QString("%1 of %2 projects, %3 lines").arg(done).arg(total).arg(lines);
+    QString result =
+        QString("%1 of %2, %3")
+            .arg(QString::number(done), counted(total, "project"), counted(lines, "line"));
     if (elapsed > 0)
         result += QString(", %1 lines/s").arg(lines * 1000 / elapsed);
     return result + rest(done, total, elapsed);
@@ -67,7 +71,8 @@ QString TerminalProgress::text(int done, int total, qint64 lines, qint64 elapsed
 
 QString TerminalProgress::text(int done, int total, qint64 elapsed)
 {
-    return QString("%1 of %2 projects").arg(done).arg(total) + rest(done, total, elapsed);
+    return QString("%1 of %2").arg(QString::number(done), counted(total, "project")) +
+           rest(done, total, elapsed);
 }
 
 } // namespace velkmap

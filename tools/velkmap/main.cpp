@@ -5,6 +5,7 @@
 #include <geomcore/linkdb/PLinkDbC.h>
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QTextStream>
 
 #include <clocale>
@@ -16,6 +17,7 @@ int main(int argc, char **argv)
     const QCoreApplication application(argc, argv);
     // Numbers are read and written alike on every desk.
     std::setlocale(LC_NUMERIC, "C");
+    QLocale::setDefault(QLocale::c());
     // The libraries' source texts are German, this program speaks English.
     PTranslateManager::registerLibraries();
     PTranslateManager::instance().setLanguage(QStringLiteral("en"));

@@ -3,6 +3,7 @@
 #include "LocatorModel.h"
 #include "LocatorSearch.h"
 
+#include <core/text/countText.h>
 #include <gui/application/PApplication.h>
 
 #include <QHeaderView>
@@ -86,9 +87,10 @@ void LocatorDialog::showHits(const LocatorHits &hits)
     else if (hits.count == 0)
         m_note->setText(tr("Nichts gefunden"));
     else if (hits.count > hits.items.size())
-        m_note->setText(tr("Die ersten %1 von %2 Treffern").arg(hits.items.size()).arg(hits.count));
+        m_note->setText(tr("Die ersten %1 von %Ln Treffer(n)", nullptr, hits.count)
+                            .arg(countText(hits.items.size())));
     else
-        m_note->setText(tr("%n Treffer", nullptr, hits.count));
+        m_note->setText(tr("%Ln Treffer", nullptr, hits.count));
     step(1);
     if (std::exchange(m_isEntered, false))
         choose(m_list->currentIndex());

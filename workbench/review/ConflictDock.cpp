@@ -4,6 +4,8 @@
 #include "ConflictSidesModel.h"
 #include "DifferenceDelegate.h"
 
+#include <core/text/countText.h>
+
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -121,12 +123,12 @@ void ConflictDock::writeCounter()
     const int open = m_list->openCount();
     QString text = m_list->count() == 0 ? tr("Keine Zeile ist in Konflikt.")
                    : open == 0          ? tr("Alle Konflikte sind entschieden.")
-                                        : tr("%1 von %2 Konflikten sind noch offen.")
-                                     .arg(QString::number(open), QString::number(m_list->count()));
+                               : tr("%1 von %Ln Konflikt(en) noch offen.", nullptr, m_list->count())
+                                     .arg(countText(open));
     if (place >= 0 && m_list->at(place).outcome == ConflictEntry::Open) {
         const int alike = int(m_list->openAlike(place).size()) - 1;
         if (alike > 0)
-            text += u' ' + tr("%n weitere Zeile(n) widersprechen sich wie diese.", nullptr, alike);
+            text += u' ' + tr("%Ln weitere Zeile(n) widersprechen sich wie diese.", nullptr, alike);
     }
     m_counter->setText(text);
     for (QPushButton *const button : std::as_const(m_buttons))

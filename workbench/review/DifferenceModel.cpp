@@ -63,7 +63,7 @@ QString DifferenceModel::toolTip(const ComparedVariableC &variable)
     case ComparedVariableC::Equal:
         return tr("gleich");
     case ComparedVariableC::Replaced:
-        return tr("ersetzt wie in %n weiteren Zeile(n)", nullptr, variable.supports);
+        return tr("ersetzt wie in %Ln weiteren Zeile(n)", nullptr, variable.supports);
     case ComparedVariableC::Near:
         return tr("ähnlich");
     case ComparedVariableC::Different:

@@ -6,6 +6,7 @@
 #include "PairModel.h"
 #include "PatternText.h"
 
+#include <core/text/countText.h>
 #include <workbench/session/ReviewWork.h>
 
 #include <QEvent>
@@ -110,9 +111,10 @@ void DifferencePanel::show(const LinePairs &pairs)
     m_single->hide();
     m_several->show();
     QString head = pairs.project.path + QStringLiteral(": ") +
-                   tr("%n Zeile(n)", nullptr, int(pairs.lines.size()));
+                   tr("%Ln Zeile(n)", nullptr, int(pairs.lines.size()));
     if (pairs.lines.size() > qsizetype(pairs.rows.size()))
-        head += QStringLiteral(", ") + tr("verglichen: die ersten %1").arg(pairs.rows.size());
+        head += QStringLiteral(", ") +
+                tr("verglichen: die ersten %1").arg(countText(pairs.rows.size()));
     const QString common = PatternText::of(pairs.common);
     m_head->setText(head + u'\n' +
                     (common.isEmpty() ? tr("Keine gemeinsamen Unterschiede.")

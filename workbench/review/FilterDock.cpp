@@ -1,8 +1,8 @@
 #include "FilterDock.h"
 
-#include "groupedNumber.h"
 #include "ReportTexts.h"
 
+#include <core/text/countText.h>
 #include <release/review/OpenReason.h>
 #include <workbench/session/FilterWork.h>
 
@@ -193,7 +193,7 @@ void FilterDock::fillGroup(LineTrait trait)
         item->setText(0, valueText(trait, values[i]));
         item->setToolTip(0, item->text(0));
         item->setCheckState(0, choice.values.contains(values[i]) ? Qt::Checked : Qt::Unchecked);
-        item->setText(1, m_work->isKnown() ? groupedNumber(counts.value(values[i])) : QString());
+        item->setText(1, m_work->isKnown() ? countText(counts.value(values[i])) : QString());
         item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
     }
 }
@@ -226,13 +226,13 @@ void FilterDock::writeSum()
     if (m_work->isReading())
         text = tr("Die Tabellen werden gelesen...");
     else if (m_work->isActive())
-        text = tr("%n Zeile(n)", nullptr, m_work->numbers().lines) + u' ' +
-               tr("in %n Projekt(en)", nullptr, m_work->numbers().projects);
+        text = tr("%Ln Zeile(n)", nullptr, m_work->numbers().lines) + u' ' +
+               tr("in %Ln Projekt(en)", nullptr, m_work->numbers().projects);
     else
         text = tr("Kein Filter: alle Zeilen");
     if (!m_work->errors().isEmpty())
         text += QStringLiteral(" · ") +
-                tr("%n Tabelle(n) nicht lesbar", nullptr, int(m_work->errors().size()));
+                tr("%Ln Tabelle(n) nicht lesbar", nullptr, int(m_work->errors().size()));
     m_sum->setText(text);
     m_sum->setToolTip(m_work->errors().join(u'\n'));
 }

@@ -63,8 +63,8 @@ void NeighbourDock::writeSum()
     QString text;
     if (m_work->isReading())
         text = tr("Die Tabellen werden verglichen") + u'\n';
-    text += tr("%n zugeordnete Zeile(n) angesehen", nullptr, m_work->checkedLines()) +
-            QStringLiteral(", ") + tr("%n Fundstelle(n)", nullptr, m_model->rowCount());
+    text += tr("%Ln zugeordnete Zeile(n) angesehen", nullptr, m_work->checkedLines()) +
+            QStringLiteral(", ") + tr("%Ln Fundstelle(n)", nullptr, m_model->rowCount());
     m_sum->setText(text);
 }
 

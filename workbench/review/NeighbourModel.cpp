@@ -1,5 +1,7 @@
 #include "NeighbourModel.h"
 
+#include <core/text/countText.h>
+
 #include <algorithm>
 
 using VelkRelease::NeighbourFinding;
@@ -47,7 +49,7 @@ QString NeighbourModel::text(const NeighbourFinding &finding)
 {
     const QString first = QString::number(finding.firstLine);
     const QString last = QString::number(finding.lastLine);
-    const QString steps = QString::number(std::abs(finding.steps));
+    const QString steps = countText(std::abs(finding.steps));
     switch (finding.kind) {
     case NeighbourFinding::Shifted:
         return tr("Zeilen %1 bis %2 sind um %3 verschoben").arg(first, last, steps);

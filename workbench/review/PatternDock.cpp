@@ -139,24 +139,24 @@ void PatternDock::writeSum()
 {
     QStringList texts;
     if (m_work->isReading())
-        texts +=
-            tr("Die Tabellen werden verglichen: %1 Projekte gelesen").arg(m_work->projectsRead());
+        texts += tr("Die Tabellen werden verglichen: %Ln Projekt(e) gelesen", nullptr,
+                    m_work->projectsRead());
     if (m_work->hasPatterns()) {
         const int pending = m_work->patterns().pendingLines();
-        texts += tr("%n offene Zeile(n) mit Vorschlag", nullptr, m_work->patterns().openLines()) +
-                 u' ' + tr("in %n Muster(n)", nullptr, int(m_work->patterns().ranked().size()));
+        texts += tr("%Ln offene Zeile(n) mit Vorschlag", nullptr, m_work->patterns().openLines()) +
+                 u' ' + tr("in %Ln Muster(n)", nullptr, int(m_work->patterns().ranked().size()));
         if (const int gone = m_work->patterns().goneLines(); gone > 0)
-            texts += tr("%n offene Zeile(n) ohne Nachfolger", nullptr, gone) + u' ' +
-                     tr("in %n Muster(n)", nullptr, int(m_work->patterns().rankedGone().size()));
+            texts += tr("%Ln offene Zeile(n) ohne Nachfolger", nullptr, gone) + u' ' +
+                     tr("in %Ln Muster(n)", nullptr, int(m_work->patterns().rankedGone().size()));
         if (pending > 0)
-            texts += tr("%n davon wird/werden noch verglichen", nullptr, pending);
+            texts += tr("%Ln davon wird/werden noch verglichen", nullptr, pending);
     }
     if (m_chosen >= 0) {
         const DifferencePatterns::Numbers chosen = m_work->patterns().numbers(m_chosen);
-        texts += tr("Gewählt: %n Zeile(n)", nullptr, chosen.lines) + u' ' +
-                 tr("in %n Projekt(en)", nullptr, chosen.projects) +
+        texts += tr("Gewählt: %Ln Zeile(n)", nullptr, chosen.lines) + u' ' +
+                 tr("in %Ln Projekt(en)", nullptr, chosen.projects) +
                  (m_takenOut > 0
-                      ? QStringLiteral(", ") + tr("%n davon herausgenommen", nullptr, m_takenOut)
+                      ? QStringLiteral(", ") + tr("%Ln davon herausgenommen", nullptr, m_takenOut)
                       : QString());
     }
     m_sum->setText(texts.join(u'\n'));

@@ -2,6 +2,7 @@
 
 #include "PatternText.h"
 
+#include <core/text/countText.h>
 #include <release/pattern/DifferencePatterns.h>
 
 #include <algorithm>
@@ -121,16 +122,16 @@ QString PatternModel::text(const Row &row, int column) const
     if (column == Changes)
         return PatternText::of(*m_patterns, row.pattern);
     return column == Probability ? PatternText::percent(row.probability)
-                                 : value(row, column).toString();
+                                 : countText(value(row, column).toInt());
 }
 
 QString PatternModel::toolTip(const Row &row) const
 {
     QString text = PatternText::of(*m_patterns, row.pattern) + u'\n' +
-                   tr("%n Zeile(n)", nullptr, row.lines) + QStringLiteral(", ") +
-                   tr("%n Projekt(e)", nullptr, row.projects);
+                   tr("%Ln Zeile(n)", nullptr, row.lines) + QStringLiteral(", ") +
+                   tr("%Ln Projekt(e)", nullptr, row.projects);
     if (row.exceptions > 0)
-        text += u'\n' + tr("%n weitere Zeile(n) haben diese und andere Unterschiede", nullptr,
+        text += u'\n' + tr("%Ln weitere Zeile(n) haben diese und andere Unterschiede", nullptr,
                            row.exceptions);
     return text;
 }

@@ -1,5 +1,7 @@
 #include "RangeDock.h"
 
+#include <core/text/countText.h>
+
 #include <QHelpEvent>
 #include <QLabel>
 #include <QPainter>
@@ -94,7 +96,7 @@ bool RangeBar::event(QEvent *event)
         QToolTip::hideText();
     else
         QToolTip::showText(help->globalPos(),
-                           RangeDock::tr("%1: %n Zeile(n)", nullptr, m_values[value].times)
+                           RangeDock::tr("%1: %Ln Zeile(n)", nullptr, m_values[value].times)
                                .arg(m_values[value].text),
                            this);
     return true;
@@ -127,10 +129,9 @@ QString RangeDock::text(const RangeCoverage &coverage)
         return tr("Die Zeile hat keine Wertebereichszuordnung.");
     const QStringList missing = coverage.missing();
     const QStringList twice = coverage.twice();
-    QStringList parts{tr("%1: %2 von %3 Werten zugeordnet")
+    QStringList parts{tr("%1: %2 von %Ln Wert(en) zugeordnet", nullptr, int(coverage.values.size()))
                           .arg(coverage.variables.join(QStringLiteral(", ")),
-                               QString::number(coverage.values.size() - missing.size()),
-                               QString::number(coverage.values.size()))};
+                               countText(coverage.values.size() - missing.size()))};
     if (!missing.isEmpty())
         parts += tr("fehlend: %1").arg(someOf(missing));
     if (!twice.isEmpty())

@@ -2,6 +2,8 @@
 
 #include "PatternText.h"
 
+#include <core/text/countText.h>
+
 #include <QCoreApplication>
 
 namespace ReportTexts {
@@ -16,7 +18,7 @@ constexpr std::array<const char *, size_t(ReportText::Count)> reportTexts = {
     QT_TRANSLATE_NOOP("ReportTexts", "Mapping-Bericht: %1"),
     QT_TRANSLATE_NOOP("ReportTexts", "Katalogstand %1 nach %2"),
     QT_TRANSLATE_NOOP("ReportTexts", "Erstellt am %1"),
-    QT_TRANSLATE_NOOP("ReportTexts", "Erledigt: %1 von %2 Zeilen; offen: %3."),
+    QT_TRANSLATE_NOOP("ReportTexts", "Erledigte Zeilen: %1 von %2; offen: %3."),
     QT_TRANSLATE_NOOP("ReportTexts", "Stand der Zeilen"),
     QT_TRANSLATE_NOOP("ReportTexts", "Nach Ordnern, mit allem darunter"),
     QT_TRANSLATE_NOOP("ReportTexts", "Nach Projekten"),
@@ -98,6 +100,9 @@ VelkRelease::ReportForm form(const QLocale &locale)
     form.goneGroups = PatternText::goneWords();
     form.time = [locale](const QDateTime &time) {
         return locale.toString(time.toLocalTime(), QLocale::ShortFormat);
+    };
+    form.number = [locale](int count) {
+        return countText(count, locale);
     };
     form.language = locale.bcp47Name();
     return form;

@@ -98,18 +98,18 @@ QString BulkOperation::question(Action action, const Numbers &numbers)
     if (numbers.lines == 0)
         parts += tr("Es ist nichts zu ändern.");
     else if (action == Confirm)
-        parts += tr("%n Zeile(n) bestätigen?", nullptr, numbers.lines);
+        parts += tr("%Ln Zeile(n) bestätigen?", nullptr, numbers.lines);
     else if (action == ConfirmExpired)
-        parts += tr("%n Zeile(n) als ausgelaufen bestätigen?", nullptr, numbers.lines);
+        parts += tr("%Ln Zeile(n) als ausgelaufen bestätigen?", nullptr, numbers.lines);
     else if (action == Remove)
-        parts += tr("Zuordnung von %n Zeile(n) aufheben?", nullptr, numbers.lines);
+        parts += tr("Zuordnung von %Ln Zeile(n) aufheben?", nullptr, numbers.lines);
     else
-        parts += tr("Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?", nullptr,
+        parts += tr("Zuordnung von %Ln Zeile(n) aufheben und als ausgelaufen bestätigen?", nullptr,
                     numbers.lines);
     if (numbers.confirmed > 0)
-        parts += tr("%n davon ist/sind schon bestätigt.", nullptr, numbers.confirmed);
+        parts += tr("%Ln davon ist/sind schon bestätigt.", nullptr, numbers.confirmed);
     if (numbers.lostTexts > 0)
-        parts += tr("%n davon verliert/verlieren ihre Wertebereichszuordnung.", nullptr,
+        parts += tr("%Ln davon verliert/verlieren ihre Wertebereichszuordnung.", nullptr,
                     numbers.lostTexts);
     const QString left = leftOut(numbers);
     return left.isEmpty() ? parts.join(u'\n') : parts.join(u'\n') + u'\n' + left;
@@ -119,16 +119,16 @@ QString BulkOperation::leftOut(const Numbers &numbers)
 {
     QStringList parts;
     if (numbers.withoutTarget > 0)
-        parts +=
-            tr("%n Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.", nullptr, numbers.withoutTarget);
+        parts += tr("%Ln Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.", nullptr,
+                    numbers.withoutTarget);
     if (numbers.unchanged > 0)
-        parts += tr("%n Zeile(n) bleibt/bleiben, wie sie ist/sind.", nullptr, numbers.unchanged);
+        parts += tr("%Ln Zeile(n) bleibt/bleiben, wie sie ist/sind.", nullptr, numbers.unchanged);
     if (numbers.conflicts > 0)
         parts +=
-            tr("%n Zeile(n) mit Konflikt wird/werden nicht geändert.", nullptr, numbers.conflicts);
+            tr("%Ln Zeile(n) mit Konflikt wird/werden nicht geändert.", nullptr, numbers.conflicts);
     if (numbers.unknown > 0)
-        parts +=
-            tr("%n Zeile(n) ist/sind in keinem Zielprojekt eingetragen.", nullptr, numbers.unknown);
+        parts += tr("%Ln Zeile(n) ist/sind in keinem Zielprojekt eingetragen.", nullptr,
+                    numbers.unknown);
     return parts.join(u'\n');
 }
 
@@ -136,13 +136,13 @@ QString BulkOperation::result(Action action, const Numbers &numbers)
 {
     QString text;
     if (action == Confirm)
-        text = tr("%n Zeile(n) bestätigt.", nullptr, numbers.lines);
+        text = tr("%Ln Zeile(n) bestätigt.", nullptr, numbers.lines);
     else if (action == ConfirmExpired)
-        text = tr("%n Zeile(n) als ausgelaufen bestätigt.", nullptr, numbers.lines);
+        text = tr("%Ln Zeile(n) als ausgelaufen bestätigt.", nullptr, numbers.lines);
     else if (action == Remove)
-        text = tr("Zuordnung von %n Zeile(n) aufgehoben.", nullptr, numbers.lines);
+        text = tr("Zuordnung von %Ln Zeile(n) aufgehoben.", nullptr, numbers.lines);
     else
-        text = tr("Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.", nullptr,
+        text = tr("Zuordnung von %Ln Zeile(n) aufgehoben und als ausgelaufen bestätigt.", nullptr,
                   numbers.lines);
     const QString left = leftOut(numbers).replace(u'\n', u' ');
     return left.isEmpty() ? text : text + u' ' + left;

@@ -69,14 +69,14 @@ QString settledText(MergeState::Side side, int lines)
 {
     switch (side) {
     case MergeState::Side::Ours:
-        return MappingDocument::tr("%n Konflikt(e): eigene Entscheidung", nullptr, lines);
+        return MappingDocument::tr("%Ln Konflikt(e): eigene Entscheidung", nullptr, lines);
     case MergeState::Side::Theirs:
-        return MappingDocument::tr("%n Konflikt(e): Entscheidung der anderen Seite", nullptr,
+        return MappingDocument::tr("%Ln Konflikt(e): Entscheidung der anderen Seite", nullptr,
                                    lines);
     case MergeState::Side::Neither:
         break;
     }
-    return MappingDocument::tr("%n Konflikt(e): neu zu entscheiden", nullptr, lines);
+    return MappingDocument::tr("%Ln Konflikt(e): neu zu entscheiden", nullptr, lines);
 }
 
 } // namespace

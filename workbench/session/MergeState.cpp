@@ -85,15 +85,15 @@ VelkRelease::LineStanding MergeState::standing(const MergeClash &clash, Side sid
 QString MergeState::text(const VelkRelease::MergeResult &result)
 {
     const auto lines = int(std::ranges::count(result.clashes, MergeClash::Line, &MergeClash::kind));
-    QStringList parts{tr("%n Änderung(en) übernommen.", nullptr, int(result.online.size()))};
+    QStringList parts{tr("%Ln Änderung(en) übernommen.", nullptr, int(result.online.size()))};
     if (!result.settled.isEmpty())
-        parts << tr("%n Zeile(n) haben beide gleich entschieden.", nullptr,
+        parts << tr("%Ln Zeile(n) haben beide gleich entschieden.", nullptr,
                     int(result.settled.size()));
     if (lines > 0)
-        parts << tr("%n Zeile(n) sind verschieden entschieden und als Konflikt markiert.", nullptr,
+        parts << tr("%Ln Zeile(n) sind verschieden entschieden und als Konflikt markiert.", nullptr,
                     lines);
     if (lines < result.clashes.size())
-        parts << tr("%n andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.", nullptr,
+        parts << tr("%Ln andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.", nullptr,
                     int(result.clashes.size()) - lines);
     return parts.join(u' ');
 }

@@ -6,6 +6,7 @@
 #include "StepSummary.h"
 
 #include <core/json/PJsonValue.h>
+#include <core/text/countText.h>
 #include <geomcore/records/MappingFile.h>
 
 #include <QFileInfo>
@@ -294,16 +295,17 @@ QString SessionRecovery::damageText() const
                   "dort stand, ist nicht bekannt; das Journal wird aufgehoben.")
             .arg(journal);
     if (m_offer.laterChanges > 0)
-        return tr("Das Journal %1 ist beschädigt. Hinter der Schadstelle passen noch %2 "
-                  "Änderungen, "
-                  "%3 passen nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.")
-            .arg(journal, QString::number(m_offer.laterChanges),
-                 QString::number(m_offer.lostChanges));
+        return tr("Das Journal %1 ist beschädigt. Hinter der Schadstelle passt/passen noch %Ln "
+                  "Änderung(en), %2 nicht mehr; weitere können fehlen. Das Journal wird "
+                  "aufgehoben.",
+                  nullptr, m_offer.laterChanges)
+            .arg(journal, countText(m_offer.lostChanges));
     const int lost = changesFrom(m_best.records);
     if (lost == 0 && m_session.isKnown)
         return tr("Das Ende des Journals %1 ist nicht lesbar. Die letzte Änderung kann fehlen.")
             .arg(journal);
-    return tr("Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 "
-              "spätere Änderungen fehlen; das Journal wird aufgehoben.")
-        .arg(journal, QString::number(lost));
+    return tr("Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %Ln "
+              "spätere Änderung(en) fehlt/fehlen; das Journal wird aufgehoben.",
+              nullptr, lost)
+        .arg(journal);
 }

@@ -78,7 +78,8 @@ private:
                             std::back_inserter(lost));
         const QString path = m_difference.project.path;
         add(ChangeNotice::ExpiredLost,
-            tr("%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2",
+            tr("%Ln Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: "
+               "%2",
                nullptr, int(lost.size()))
                 .arg(path, numbers(lost)),
             lost);
@@ -140,11 +141,11 @@ private:
         const QString path = m_difference.project.path;
         const QString text =
             taken.size() == 1
-                ? tr("Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %n andere Zeile(n): %4",
+                ? tr("Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %Ln andere Zeile(n): %4",
                      nullptr, int(others.size()))
                       .arg(QString::number(taken.begin().value()),
                            QString::number(taken.begin().key()), path, numbers(others))
-                : tr("%n Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2",
+                : tr("%Ln Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2",
                      nullptr, int(others.size()))
                       .arg(path, numbers(others));
         add(ChangeNotice::TargetLineShared, text, others);

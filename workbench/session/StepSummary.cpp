@@ -120,7 +120,7 @@ QString StepSummary::linesText() const
     }
     const int more = m_conflictsSettled - m_byLine[ConflictSettled];
     if (more > 0)
-        parts += tr("%n Konflikt(e) angenommen", nullptr, more);
+        parts += tr("%Ln Konflikt(e) angenommen", nullptr, more);
     return parts.join(QStringLiteral(", "));
 }
 
@@ -128,22 +128,22 @@ QString StepSummary::linesText(LineKind kind, int lines)
 {
     switch (kind) {
     case Confirmed:
-        return tr("%n Zeile(n) bestätigt", nullptr, lines);
+        return tr("%Ln Zeile(n) bestätigt", nullptr, lines);
     case Expired:
-        return tr("%n Zeile(n) als ausgelaufen bestätigt", nullptr, lines);
+        return tr("%Ln Zeile(n) als ausgelaufen bestätigt", nullptr, lines);
     case Assigned:
-        return tr("%n Zeile(n) zugeordnet", nullptr, lines);
+        return tr("%Ln Zeile(n) zugeordnet", nullptr, lines);
     case Removed:
-        return tr("Zuordnung von %n Zeile(n) aufgehoben", nullptr, lines);
+        return tr("Zuordnung von %Ln Zeile(n) aufgehoben", nullptr, lines);
     case RangeText:
-        return tr("Wertebereichszuordnung von %n Zeile(n) geändert", nullptr, lines);
+        return tr("Wertebereichszuordnung von %Ln Zeile(n) geändert", nullptr, lines);
     case ConflictSettled:
-        return tr("Konflikt von %n Zeile(n) gelöst", nullptr, lines);
+        return tr("Konflikt von %Ln Zeile(n) gelöst", nullptr, lines);
     case OtherLine:
     case LineKinds:
         break;
     }
-    return tr("%n Zeile(n) geändert", nullptr, lines);
+    return tr("%Ln Zeile(n) geändert", nullptr, lines);
 }
 
 QString StepSummary::oneLineText() const
@@ -211,5 +211,5 @@ QString StepSummary::text() const
         what = QStringLiteral("%1 (%2)").arg(head, lines);
     if (m_projects.size() == 1)
         return tr("%1 in %2").arg(what, *m_projects.cbegin());
-    return tr("%1 in %n Projekt(en)", nullptr, int(m_projects.size())).arg(what);
+    return tr("%1 in %Ln Projekt(en)", nullptr, int(m_projects.size())).arg(what);
 }

@@ -145,9 +145,9 @@ ValueRangeCheck::Result ValueRangeCheck::run(const ReleaseMappingC &release,
 QString ValueRangeCheck::Result::summary() const
 {
     const QString checked =
-        ValueRangeCheck::tr("%n Wertebereichszuordnung(en) geprüft", nullptr, texts);
+        ValueRangeCheck::tr("%Ln Wertebereichszuordnung(en) geprüft", nullptr, texts);
     const QString found = findings.isEmpty() ? ValueRangeCheck::tr("keine Beanstandung")
-                                             : ValueRangeCheck::tr("%n Beanstandung(en)", nullptr,
+                                             : ValueRangeCheck::tr("%Ln Beanstandung(en)", nullptr,
                                                                    int(findings.size()));
     return (cancelled ? ValueRangeCheck::tr("%1 (abgebrochen): %2.") : QStringLiteral("%1: %2."))
         .arg(checked, found);

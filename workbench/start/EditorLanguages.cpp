@@ -36,3 +36,11 @@ QLocale EditorLanguages::localeOf(const QString &language)
         return {QLocale::Chinese, QLocale::TraditionalHanScript, QLocale::Taiwan};
     return QLocale(language);
 }
+
+QLocale EditorLanguages::localeOn(const QLocale &desktop, const QString &language)
+{
+    const QLocale locale = localeOf(language);
+    const bool isOfDesktop =
+        locale.language() == desktop.language() && locale.script() == desktop.script();
+    return isOfDesktop ? desktop : locale;
+}

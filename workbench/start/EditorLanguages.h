@@ -16,4 +16,6 @@ public:
     [[nodiscard]] static QString nameOf(const QString &language);
     /// How times and numbers are written in it. "pt" is European, "zh_CHT" traditional Chinese.
     [[nodiscard]] static QLocale localeOf(const QString &language);
+    /// The desktop's if it is of the language, with its country, else the language's.
+    [[nodiscard]] static QLocale localeOn(const QLocale &desktop, const QString &language);
 };

@@ -8,115 +8,115 @@
         <translation>Není co měnit.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigen?</source>
+        <source>%Ln Zeile(n) bestätigen?</source>
         <translation>
-            <numerusform>Potvrdit %n řádek?</numerusform>
-            <numerusform>Potvrdit %n řádky?</numerusform>
-            <numerusform>Potvrdit %n řádků?</numerusform>
+            <numerusform>Potvrdit %Ln řádek?</numerusform>
+            <numerusform>Potvrdit %Ln řádky?</numerusform>
+            <numerusform>Potvrdit %Ln řádků?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigen?</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Potvrdit %n řádek jako neplatný?</numerusform>
-            <numerusform>Potvrdit %n řádky jako neplatné?</numerusform>
-            <numerusform>Potvrdit %n řádků jako neplatné?</numerusform>
+            <numerusform>Potvrdit %Ln řádek jako neplatný?</numerusform>
+            <numerusform>Potvrdit %Ln řádky jako neplatné?</numerusform>
+            <numerusform>Potvrdit %Ln řádků jako neplatné?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben?</source>
         <translation>
-            <numerusform>Zrušit přiřazení %n řádku?</numerusform>
-            <numerusform>Zrušit přiřazení %n řádků?</numerusform>
-            <numerusform>Zrušit přiřazení %n řádků?</numerusform>
+            <numerusform>Zrušit přiřazení %Ln řádku?</numerusform>
+            <numerusform>Zrušit přiřazení %Ln řádků?</numerusform>
+            <numerusform>Zrušit přiřazení %Ln řádků?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Zrušit přiřazení %n řádku a potvrdit ho jako neplatný?</numerusform>
-            <numerusform>Zrušit přiřazení %n řádků a potvrdit je jako neplatné?</numerusform>
-            <numerusform>Zrušit přiřazení %n řádků a potvrdit je jako neplatné?</numerusform>
+            <numerusform>Zrušit přiřazení %Ln řádku a potvrdit ho jako neplatný?</numerusform>
+            <numerusform>Zrušit přiřazení %Ln řádků a potvrdit je jako neplatné?</numerusform>
+            <numerusform>Zrušit přiřazení %Ln řádků a potvrdit je jako neplatné?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind schon bestätigt.</source>
+        <source>%Ln davon ist/sind schon bestätigt.</source>
         <translation>
-            <numerusform>%n z nich je už potvrzený.</numerusform>
-            <numerusform>%n z nich jsou už potvrzené.</numerusform>
-            <numerusform>%n z nich je už potvrzených.</numerusform>
+            <numerusform>%Ln z nich je už potvrzený.</numerusform>
+            <numerusform>%Ln z nich jsou už potvrzené.</numerusform>
+            <numerusform>%Ln z nich je už potvrzených.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon verliert/verlieren ihre Wertebereichszuordnung.</source>
+        <source>%Ln davon verliert/verlieren ihre Wertebereichszuordnung.</source>
         <translation>
-            <numerusform>%n z nich ztratí své přiřazení rozsahů hodnot.</numerusform>
-            <numerusform>%n z nich ztratí svá přiřazení rozsahů hodnot.</numerusform>
-            <numerusform>%n z nich ztratí svá přiřazení rozsahů hodnot.</numerusform>
+            <numerusform>%Ln z nich ztratí své přiřazení rozsahů hodnot.</numerusform>
+            <numerusform>%Ln z nich ztratí svá přiřazení rozsahů hodnot.</numerusform>
+            <numerusform>%Ln z nich ztratí svá přiřazení rozsahů hodnot.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
+        <source>%Ln Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
         <translation>
-            <numerusform>%n řádek bez cíle zůstane nepotvrzený.</numerusform>
-            <numerusform>%n řádky bez cíle zůstanou nepotvrzené.</numerusform>
-            <numerusform>%n řádků bez cíle zůstane nepotvrzených.</numerusform>
+            <numerusform>%Ln řádek bez cíle zůstane nepotvrzený.</numerusform>
+            <numerusform>%Ln řádky bez cíle zůstanou nepotvrzené.</numerusform>
+            <numerusform>%Ln řádků bez cíle zůstane nepotvrzených.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
+        <source>%Ln Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
         <translation>
-            <numerusform>%n řádek zůstane, jak je.</numerusform>
-            <numerusform>%n řádky zůstanou, jak jsou.</numerusform>
-            <numerusform>%n řádků zůstane, jak je.</numerusform>
+            <numerusform>%Ln řádek zůstane, jak je.</numerusform>
+            <numerusform>%Ln řádky zůstanou, jak jsou.</numerusform>
+            <numerusform>%Ln řádků zůstane, jak je.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
+        <source>%Ln Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
         <translation>
-            <numerusform>%n řádek v konfliktu se nezmění.</numerusform>
-            <numerusform>%n řádky v konfliktu se nezmění.</numerusform>
-            <numerusform>%n řádků v konfliktu se nezmění.</numerusform>
+            <numerusform>%Ln řádek v konfliktu se nezmění.</numerusform>
+            <numerusform>%Ln řádky v konfliktu se nezmění.</numerusform>
+            <numerusform>%Ln řádků v konfliktu se nezmění.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
+        <source>%Ln Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
         <translation>
-            <numerusform>%n řádek není zapsán v žádném cílovém projektu.</numerusform>
-            <numerusform>%n řádky nejsou zapsány v žádném cílovém projektu.</numerusform>
-            <numerusform>%n řádků není zapsáno v žádném cílovém projektu.</numerusform>
+            <numerusform>%Ln řádek není zapsán v žádném cílovém projektu.</numerusform>
+            <numerusform>%Ln řádky nejsou zapsány v žádném cílovém projektu.</numerusform>
+            <numerusform>%Ln řádků není zapsáno v žádném cílovém projektu.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt.</source>
+        <source>%Ln Zeile(n) bestätigt.</source>
         <translation>
-            <numerusform>Potvrzen %n řádek.</numerusform>
-            <numerusform>Potvrzeny %n řádky.</numerusform>
-            <numerusform>Potvrzeno %n řádků.</numerusform>
+            <numerusform>Potvrzen %Ln řádek.</numerusform>
+            <numerusform>Potvrzeny %Ln řádky.</numerusform>
+            <numerusform>Potvrzeno %Ln řádků.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt.</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>%n řádek potvrzen jako neplatný.</numerusform>
-            <numerusform>%n řádky potvrzeny jako neplatné.</numerusform>
-            <numerusform>%n řádků potvrzeno jako neplatné.</numerusform>
+            <numerusform>%Ln řádek potvrzen jako neplatný.</numerusform>
+            <numerusform>%Ln řádky potvrzeny jako neplatné.</numerusform>
+            <numerusform>%Ln řádků potvrzeno jako neplatné.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben.</source>
         <translation>
-            <numerusform>Přiřazení %n řádku zrušeno.</numerusform>
-            <numerusform>Přiřazení %n řádků zrušeno.</numerusform>
-            <numerusform>Přiřazení %n řádků zrušeno.</numerusform>
+            <numerusform>Přiřazení %Ln řádku zrušeno.</numerusform>
+            <numerusform>Přiřazení %Ln řádků zrušeno.</numerusform>
+            <numerusform>Přiřazení %Ln řádků zrušeno.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>Přiřazení %n řádku zrušeno, potvrzen jako neplatný.</numerusform>
-            <numerusform>Přiřazení %n řádků zrušeno, potvrzeny jako neplatné.</numerusform>
-            <numerusform>Přiřazení %n řádků zrušeno, potvrzeno jako neplatné.</numerusform>
+            <numerusform>Přiřazení %Ln řádku zrušeno, potvrzen jako neplatný.</numerusform>
+            <numerusform>Přiřazení %Ln řádků zrušeno, potvrzeny jako neplatné.</numerusform>
+            <numerusform>Přiřazení %Ln řádků zrušeno, potvrzeno jako neplatné.</numerusform>
         </translation>
     </message>
 </context>
@@ -174,10 +174,6 @@
         <translation>Z %1 není co převzít.</translation>
     </message>
     <message>
-        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
-        <translation>Z %1 převzato: %2 z %3 potvrzených řádků, %4 přiřazeno s jistotou, %5 navrženo.</translation>
-    </message>
-    <message>
         <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
         <translation>Soubor neobsahuje mapování z verze katalogu %1.</translation>
     </message>
@@ -220,6 +216,14 @@
     <message>
         <source>Entscheidungen aus %1 übernommen: %2</source>
         <translation>Rozhodnutí převzatá z %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Aus %1 übernommen: %2 von %Ln bestätigten Zeile(n), %3 sicher zugeordnet, %4 vorgeschlagen.</source>
+        <translation>
+            <numerusform>Z %1 převzato: %2 z %Ln potvrzeného řádku, %3 přiřazeno s jistotou, %4 navrženo.</numerusform>
+            <numerusform>Z %1 převzato: %2 z %Ln potvrzených řádků, %3 přiřazeno s jistotou, %4 navrženo.</numerusform>
+            <numerusform>Z %1 převzato: %2 z %Ln potvrzených řádků, %3 přiřazeno s jistotou, %4 navrženo.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -284,11 +288,11 @@
         <translation>Konflikt %1 z %2, ještě nerozhodnuto: %3</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
+        <source>%Ln Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
         <translation>
-            <numerusform>%n řádek z %1 si odporuje stejným způsobem. Platí rozhodnutí pro všechny?</numerusform>
-            <numerusform>%n řádky z %1 si odporují stejným způsobem. Platí rozhodnutí pro všechny?</numerusform>
-            <numerusform>%n řádků z %1 si odporuje stejným způsobem. Platí rozhodnutí pro všechny?</numerusform>
+            <numerusform>%Ln řádek z %1 si odporuje stejným způsobem. Platí rozhodnutí pro všechny?</numerusform>
+            <numerusform>%Ln řádky z %1 si odporují stejným způsobem. Platí rozhodnutí pro všechny?</numerusform>
+            <numerusform>%Ln řádků z %1 si odporuje stejným způsobem. Platí rozhodnutí pro všechny?</numerusform>
         </translation>
     </message>
     <message>
@@ -324,16 +328,12 @@ Jiné: %2</translation>
         <source>Alle Konflikte sind entschieden.</source>
         <translation>Všechny konflikty jsou rozhodnuty.</translation>
     </message>
-    <message>
-        <source>%1 von %2 Konflikten sind noch offen.</source>
-        <translation>Nerozhodnuté konflikty: %1 z %2.</translation>
-    </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) widersprechen sich wie diese.</source>
+        <source>%Ln weitere Zeile(n) widersprechen sich wie diese.</source>
         <translation>
-            <numerusform>Ještě %n řádek si odporuje jako tento.</numerusform>
-            <numerusform>Ještě %n řádky si odporují jako tento.</numerusform>
-            <numerusform>Ještě %n řádků si odporuje jako tento.</numerusform>
+            <numerusform>Ještě %Ln řádek si odporuje jako tento.</numerusform>
+            <numerusform>Ještě %Ln řádky si odporují jako tento.</numerusform>
+            <numerusform>Ještě %Ln řádků si odporuje jako tento.</numerusform>
         </translation>
     </message>
     <message>
@@ -355,6 +355,14 @@ Jiné: %2</translation>
     <message>
         <source>Neu entscheiden</source>
         <translation>Rozhodnout znovu</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Konflikt(en) noch offen.</source>
+        <translation>
+            <numerusform>Nerozhodnuté konflikty: %1 z %Ln.</numerusform>
+            <numerusform>Nerozhodnuté konflikty: %1 z %Ln.</numerusform>
+            <numerusform>Nerozhodnuté konflikty: %1 z %Ln.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -473,11 +481,11 @@ Jiné: %2</translation>
         <translation>stejné</translation>
     </message>
     <message numerus="yes">
-        <source>ersetzt wie in %n weiteren Zeile(n)</source>
+        <source>ersetzt wie in %Ln weiteren Zeile(n)</source>
         <translation>
-            <numerusform>nahrazeno jako v %n dalším řádku</numerusform>
-            <numerusform>nahrazeno jako v %n dalších řádcích</numerusform>
-            <numerusform>nahrazeno jako v %n dalších řádcích</numerusform>
+            <numerusform>nahrazeno jako v %Ln dalším řádku</numerusform>
+            <numerusform>nahrazeno jako v %Ln dalších řádcích</numerusform>
+            <numerusform>nahrazeno jako v %Ln dalších řádcích</numerusform>
         </translation>
     </message>
     <message>
@@ -540,11 +548,11 @@ Jiné: %2</translation>
         <translation>Přiřazeno s jistotou.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n řádek</numerusform>
-            <numerusform>%n řádky</numerusform>
-            <numerusform>%n řádků</numerusform>
+            <numerusform>%Ln řádek</numerusform>
+            <numerusform>%Ln řádky</numerusform>
+            <numerusform>%Ln řádků</numerusform>
         </translation>
     </message>
     <message>
@@ -627,23 +635,19 @@ Jiné: %2</translation>
         <translation>Za&amp;hodit</translation>
     </message>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n řádek</numerusform>
-            <numerusform>%1: %n řádky</numerusform>
-            <numerusform>%1: %n řádků</numerusform>
+            <numerusform>%1: %Ln řádek</numerusform>
+            <numerusform>%1: %Ln řádky</numerusform>
+            <numerusform>%1: %Ln řádků</numerusform>
         </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>a dalších %1</translation>
-    </message>
     <message numerus="yes">
-        <source>Noch %n Zeile(n) in Konflikt, in diesen Projekten:</source>
+        <source>Noch %Ln Zeile(n) in Konflikt, in diesen Projekten:</source>
         <translation>
-            <numerusform>Ještě %n řádek v konfliktu, v těchto projektech:</numerusform>
-            <numerusform>Ještě %n řádky v konfliktu, v těchto projektech:</numerusform>
-            <numerusform>Ještě %n řádků v konfliktu, v těchto projektech:</numerusform>
+            <numerusform>Ještě %Ln řádek v konfliktu, v těchto projektech:</numerusform>
+            <numerusform>Ještě %Ln řádky v konfliktu, v těchto projektech:</numerusform>
+            <numerusform>Ještě %Ln řádků v konfliktu, v těchto projektech:</numerusform>
         </translation>
     </message>
     <message>
@@ -685,6 +689,14 @@ Jiné: %2</translation>
     <message>
         <source>Die Mapping-Datei kann nicht angelegt werden.</source>
         <translation>Mapovací soubor nelze vytvořit.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>a další: %Ln</numerusform>
+            <numerusform>a další: %Ln</numerusform>
+            <numerusform>a další: %Ln</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -748,6 +760,15 @@ Zvolte jiný soubor.</translation>
     <message>
         <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte einen anderen Ordner wählen.</source>
         <translation>Ve složce souboru %1 nelze nic vytvořit (%2). Nic nebylo zapsáno. Zvolte jinou složku.</translation>
+    </message>
+</context>
+<context>
+    <name>EditorArea</name>
+    <message>
+        <source>Keine Zeile dieses Projekts ist im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Zeilen zu sehen.</source>
+        <translation>Žádný řádek tohoto projektu není ve filtru.
+Otevřete „%1“ a zvolte „%2“, aby byly zase vidět všechny řádky.</translation>
     </message>
 </context>
 <context>
@@ -875,19 +896,19 @@ Zvolte jiný soubor.</translation>
         <translation>Čtou se tabulky...</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n řádek</numerusform>
-            <numerusform>%n řádky</numerusform>
-            <numerusform>%n řádků</numerusform>
+            <numerusform>%Ln řádek</numerusform>
+            <numerusform>%Ln řádky</numerusform>
+            <numerusform>%Ln řádků</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>v %n projektu</numerusform>
-            <numerusform>ve %n projektech</numerusform>
-            <numerusform>v %n projektech</numerusform>
+            <numerusform>v %Ln projektu</numerusform>
+            <numerusform>ve %Ln projektech</numerusform>
+            <numerusform>v %Ln projektech</numerusform>
         </translation>
     </message>
     <message>
@@ -895,11 +916,11 @@ Zvolte jiný soubor.</translation>
         <translation>Bez filtru: všechny řádky</translation>
     </message>
     <message numerus="yes">
-        <source>%n Tabelle(n) nicht lesbar</source>
+        <source>%Ln Tabelle(n) nicht lesbar</source>
         <translation>
-            <numerusform>Nečitelné tabulky: %n</numerusform>
-            <numerusform>Nečitelné tabulky: %n</numerusform>
-            <numerusform>Nečitelné tabulky: %n</numerusform>
+            <numerusform>Nečitelné tabulky: %Ln</numerusform>
+            <numerusform>Nečitelné tabulky: %Ln</numerusform>
+            <numerusform>Nečitelné tabulky: %Ln</numerusform>
         </translation>
     </message>
     <message>
@@ -1048,11 +1069,11 @@ Zvolte jiný soubor.</translation>
         <translation>Řádek %1 v %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1</source>
+        <source>%Ln Zeile(n) in %1</source>
         <translation>
-            <numerusform>%n řádek v %1</numerusform>
-            <numerusform>%n řádky v %1</numerusform>
-            <numerusform>%n řádků v %1</numerusform>
+            <numerusform>%Ln řádek v %1</numerusform>
+            <numerusform>%Ln řádky v %1</numerusform>
+            <numerusform>%Ln řádků v %1</numerusform>
         </translation>
     </message>
     <message>
@@ -1381,11 +1402,11 @@ Zvolte jiný soubor.</translation>
         <translation>Zkopírovanou podmínku takto ještě nelze použít: chybí hodnota, je rozsahem nebo obsahuje uvozovku: %1</translation>
     </message>
     <message numerus="yes">
-        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.</source>
+        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %Ln Zeile(n) offen.</source>
         <translation>
-            <numerusform>Zde ve filtru je vše hotovo, mimo něj je ještě %n otevřený řádek.</numerusform>
-            <numerusform>Zde ve filtru je vše hotovo, mimo něj jsou ještě %n otevřené řádky.</numerusform>
-            <numerusform>Zde ve filtru je vše hotovo, mimo něj je ještě %n otevřených řádků.</numerusform>
+            <numerusform>Zde ve filtru je vše hotovo, mimo něj je ještě %Ln otevřený řádek.</numerusform>
+            <numerusform>Zde ve filtru je vše hotovo, mimo něj jsou ještě %Ln otevřené řádky.</numerusform>
+            <numerusform>Zde ve filtru je vše hotovo, mimo něj je ještě %Ln otevřených řádků.</numerusform>
         </translation>
     </message>
     <message>
@@ -1453,16 +1474,16 @@ Zvolte jiný soubor.</translation>
         <translation>Jde o všechny řádky projektu.</translation>
     </message>
     <message>
-        <source>Gemeint sind die %1 gezeigten von %2 Zeilen des Projekts.</source>
-        <translation>Jde o zobrazené řádky projektu: %1 z %2.</translation>
-    </message>
-    <message>
         <source>Filter: %1.</source>
         <translation>Filtr: %1.</translation>
     </message>
     <message>
         <source>Kein anderes Projekt hat solche Zeilen</source>
         <translation>Žádný jiný projekt takové řádky nemá</translation>
+    </message>
+    <message>
+        <source>Gemeint sind nur die gezeigten Zeilen des Projekts: %1 von %2.</source>
+        <translation>Jde jen o zobrazené řádky projektu: %1 z %2.</translation>
     </message>
 </context>
 <context>
@@ -1695,10 +1716,6 @@ Zvolte jiný soubor.</translation>
         <translation>Za&amp;vřít</translation>
     </message>
     <message>
-        <source>Die ersten %1 Links; die Suche zeigt andere.</source>
-        <translation>Prvních %1 odkazů; hledání ukáže další.</translation>
-    </message>
-    <message>
         <source>Links: %1</source>
         <translation>Odkazy: %1</translation>
     </message>
@@ -1717,6 +1734,14 @@ Zvolte jiný soubor.</translation>
     <message>
         <source>&amp;Wiederherstellen</source>
         <translation>&amp;Obnovit</translation>
+    </message>
+    <message numerus="yes">
+        <source>Die ersten %Ln Link(s); die Suche zeigt andere.</source>
+        <translation>
+            <numerusform>První %Ln odkaz; hledání ukáže další.</numerusform>
+            <numerusform>První %Ln odkazy; hledání ukáže další.</numerusform>
+            <numerusform>Prvních %Ln odkazů; hledání ukáže další.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1839,16 +1864,20 @@ Zvolte jiný soubor.</translation>
         <source>Nichts gefunden</source>
         <translation>Nic nenalezeno</translation>
     </message>
-    <message>
-        <source>Die ersten %1 von %2 Treffern</source>
-        <translation>První výskyty: %1 z %2</translation>
+    <message numerus="yes">
+        <source>%Ln Treffer</source>
+        <translation>
+            <numerusform>%Ln výskyt</numerusform>
+            <numerusform>%Ln výskyty</numerusform>
+            <numerusform>%Ln výskytů</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
-        <source>%n Treffer</source>
+        <source>Die ersten %1 von %Ln Treffer(n)</source>
         <translation>
-            <numerusform>%n výskyt</numerusform>
-            <numerusform>%n výskyty</numerusform>
-            <numerusform>%n výskytů</numerusform>
+            <numerusform>První výskyty: %1 z %Ln</numerusform>
+            <numerusform>První výskyty: %1 z %Ln</numerusform>
+            <numerusform>První výskyty: %1 z %Ln</numerusform>
         </translation>
     </message>
 </context>
@@ -2071,27 +2100,27 @@ Zvolte jiný soubor.</translation>
         <translation>Vlastní změny na verzi ze souboru</translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): eigene Entscheidung</source>
+        <source>%Ln Konflikt(e): eigene Entscheidung</source>
         <translation>
-            <numerusform>%n konflikt: vlastní rozhodnutí</numerusform>
-            <numerusform>%n konflikty: vlastní rozhodnutí</numerusform>
-            <numerusform>%n konfliktů: vlastní rozhodnutí</numerusform>
+            <numerusform>%Ln konflikt: vlastní rozhodnutí</numerusform>
+            <numerusform>%Ln konflikty: vlastní rozhodnutí</numerusform>
+            <numerusform>%Ln konfliktů: vlastní rozhodnutí</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): Entscheidung der anderen Seite</source>
+        <source>%Ln Konflikt(e): Entscheidung der anderen Seite</source>
         <translation>
-            <numerusform>%n konflikt: rozhodnutí druhé strany</numerusform>
-            <numerusform>%n konflikty: rozhodnutí druhé strany</numerusform>
-            <numerusform>%n konfliktů: rozhodnutí druhé strany</numerusform>
+            <numerusform>%Ln konflikt: rozhodnutí druhé strany</numerusform>
+            <numerusform>%Ln konflikty: rozhodnutí druhé strany</numerusform>
+            <numerusform>%Ln konfliktů: rozhodnutí druhé strany</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): neu zu entscheiden</source>
+        <source>%Ln Konflikt(e): neu zu entscheiden</source>
         <translation>
-            <numerusform>%n konflikt: rozhodnout znovu</numerusform>
-            <numerusform>%n konflikty: rozhodnout znovu</numerusform>
-            <numerusform>%n konfliktů: rozhodnout znovu</numerusform>
+            <numerusform>%Ln konflikt: rozhodnout znovu</numerusform>
+            <numerusform>%Ln konflikty: rozhodnout znovu</numerusform>
+            <numerusform>%Ln konfliktů: rozhodnout znovu</numerusform>
         </translation>
     </message>
     <message>
@@ -2162,54 +2191,74 @@ Zvolte jiný soubor.</translation>
         <translation>Přerušeno, nic nebylo vytvořeno</translation>
     </message>
     <message>
-        <source>%1 Projekte: %2 am selben Ort, %3 an anderem, %4 aufgeteilt, %5 ohne Ziel, %6 unlesbar</source>
-        <translation>Projekty: %1, z toho na stejném místě %2, na jiném %3, rozdělené %4, bez cíle %5, nečitelné %6</translation>
-    </message>
-    <message>
         <source>Zeilen werden zugeordnet</source>
         <translation>Přiřazují se řádky</translation>
     </message>
-    <message>
-        <source>Abgebrochen: %1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>Přerušeno: projekty: %1 z %2, řádky: %3, z toho přiřazené %4, ke kontrole %5, bez cíle %6</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e): %1 am selben Ort, %2 an anderem, %3 aufgeteilt, %4 ohne Ziel, %5 unlesbar</source>
+        <translation>
+            <numerusform>%Ln projekt: na stejném místě %1, na jiném %2, rozdělené %3, bez cíle %4, nečitelné %5</numerusform>
+            <numerusform>%Ln projekty: na stejném místě %1, na jiném %2, rozdělené %3, bez cíle %4, nečitelné %5</numerusform>
+            <numerusform>%Ln projektů: na stejném místě %1, na jiném %2, rozdělených %3, bez cíle %4, nečitelných %5</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 z %Ln projektu</numerusform>
+            <numerusform>%1 z %Ln projektů</numerusform>
+            <numerusform>%1 z %Ln projektů</numerusform>
+        </translation>
     </message>
     <message>
-        <source>%1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>Projekty: %1 z %2, řádky: %3, z toho přiřazené %4, ke kontrole %5, bez cíle %6</translation>
+        <source>davon %1 zugeordnet, %2 zu prüfen, %3 ohne Ziel</source>
+        <translation>z toho přiřazené %1, ke kontrole %2, bez cíle %3</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>Přerušeno: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 s %Ln řádkem</numerusform>
+            <numerusform>%1 se %Ln řádky</numerusform>
+            <numerusform>%1 s %Ln řádky</numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>MergeState</name>
     <message numerus="yes">
-        <source>%n Änderung(en) übernommen.</source>
+        <source>%Ln Änderung(en) übernommen.</source>
         <translation>
-            <numerusform>Převzata %n změna.</numerusform>
-            <numerusform>Převzaty %n změny.</numerusform>
-            <numerusform>Převzato %n změn.</numerusform>
+            <numerusform>Převzata %Ln změna.</numerusform>
+            <numerusform>Převzaty %Ln změny.</numerusform>
+            <numerusform>Převzato %Ln změn.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) haben beide gleich entschieden.</source>
+        <source>%Ln Zeile(n) haben beide gleich entschieden.</source>
         <translation>
-            <numerusform>%n řádek rozhodli oba stejně.</numerusform>
-            <numerusform>%n řádky rozhodli oba stejně.</numerusform>
-            <numerusform>%n řádků rozhodli oba stejně.</numerusform>
+            <numerusform>%Ln řádek rozhodli oba stejně.</numerusform>
+            <numerusform>%Ln řádky rozhodli oba stejně.</numerusform>
+            <numerusform>%Ln řádků rozhodli oba stejně.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
+        <source>%Ln Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
         <translation>
-            <numerusform>%n řádek je rozhodnut různě a označen jako konflikt.</numerusform>
-            <numerusform>%n řádky jsou rozhodnuty různě a označeny jako konflikt.</numerusform>
-            <numerusform>%n řádků je rozhodnuto různě a označeno jako konflikt.</numerusform>
+            <numerusform>%Ln řádek je rozhodnut různě a označen jako konflikt.</numerusform>
+            <numerusform>%Ln řádky jsou rozhodnuty různě a označeny jako konflikt.</numerusform>
+            <numerusform>%Ln řádků je rozhodnuto různě a označeno jako konflikt.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
+        <source>%Ln andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
         <translation>
-            <numerusform>%n jiný rozpor: platí verze ze souboru.</numerusform>
-            <numerusform>%n jiné rozpory: platí verze ze souboru.</numerusform>
-            <numerusform>%n jiných rozporů: platí verze ze souboru.</numerusform>
+            <numerusform>%Ln jiný rozpor: platí verze ze souboru.</numerusform>
+            <numerusform>%Ln jiné rozpory: platí verze ze souboru.</numerusform>
+            <numerusform>%Ln jiných rozporů: platí verze ze souboru.</numerusform>
         </translation>
     </message>
 </context>
@@ -2235,19 +2284,19 @@ Zvolte jiný soubor.</translation>
         <translation>Tabulky se porovnávají</translation>
     </message>
     <message numerus="yes">
-        <source>%n zugeordnete Zeile(n) angesehen</source>
+        <source>%Ln zugeordnete Zeile(n) angesehen</source>
         <translation>
-            <numerusform>Prohlédnut %n přiřazený řádek</numerusform>
-            <numerusform>Prohlédnuty %n přiřazené řádky</numerusform>
-            <numerusform>Prohlédnuto %n přiřazených řádků</numerusform>
+            <numerusform>Prohlédnut %Ln přiřazený řádek</numerusform>
+            <numerusform>Prohlédnuty %Ln přiřazené řádky</numerusform>
+            <numerusform>Prohlédnuto %Ln přiřazených řádků</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Fundstelle(n)</source>
+        <source>%Ln Fundstelle(n)</source>
         <translation>
-            <numerusform>%n nález</numerusform>
-            <numerusform>%n nálezy</numerusform>
-            <numerusform>%n nálezů</numerusform>
+            <numerusform>%Ln nález</numerusform>
+            <numerusform>%Ln nálezy</numerusform>
+            <numerusform>%Ln nálezů</numerusform>
         </translation>
     </message>
     <message>
@@ -2472,48 +2521,44 @@ Zvolte jiný soubor.</translation>
 </context>
 <context>
     <name>PatternDock</name>
-    <message>
-        <source>Die Tabellen werden verglichen: %1 Projekte gelesen</source>
-        <translation>Tabulky se porovnávají: přečtené projekty: %1</translation>
-    </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) mit Vorschlag</source>
+        <source>%Ln offene Zeile(n) mit Vorschlag</source>
         <translation>
-            <numerusform>%n otevřený řádek s návrhem</numerusform>
-            <numerusform>%n otevřené řádky s návrhem</numerusform>
-            <numerusform>%n otevřených řádků s návrhem</numerusform>
+            <numerusform>%Ln otevřený řádek s návrhem</numerusform>
+            <numerusform>%Ln otevřené řádky s návrhem</numerusform>
+            <numerusform>%Ln otevřených řádků s návrhem</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Muster(n)</source>
+        <source>in %Ln Muster(n)</source>
         <translation>
-            <numerusform>v %n vzoru</numerusform>
-            <numerusform>ve %n vzorech</numerusform>
-            <numerusform>v %n vzorech</numerusform>
+            <numerusform>v %Ln vzoru</numerusform>
+            <numerusform>ve %Ln vzorech</numerusform>
+            <numerusform>v %Ln vzorech</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon wird/werden noch verglichen</source>
+        <source>%Ln davon wird/werden noch verglichen</source>
         <translation>
-            <numerusform>%n z nich se ještě porovnává</numerusform>
-            <numerusform>%n z nich se ještě porovnávají</numerusform>
-            <numerusform>%n z nich se ještě porovnává</numerusform>
+            <numerusform>%Ln z nich se ještě porovnává</numerusform>
+            <numerusform>%Ln z nich se ještě porovnávají</numerusform>
+            <numerusform>%Ln z nich se ještě porovnává</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Gewählt: %n Zeile(n)</source>
+        <source>Gewählt: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>Vybráno: %n řádek</numerusform>
-            <numerusform>Vybráno: %n řádky</numerusform>
-            <numerusform>Vybráno: %n řádků</numerusform>
+            <numerusform>Vybráno: %Ln řádek</numerusform>
+            <numerusform>Vybráno: %Ln řádky</numerusform>
+            <numerusform>Vybráno: %Ln řádků</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon herausgenommen</source>
+        <source>%Ln davon herausgenommen</source>
         <translation>
-            <numerusform>%n z nich vyjmut</numerusform>
-            <numerusform>%n z nich vyjmuty</numerusform>
-            <numerusform>%n z nich vyjmuto</numerusform>
+            <numerusform>%Ln z nich vyjmut</numerusform>
+            <numerusform>%Ln z nich vyjmuty</numerusform>
+            <numerusform>%Ln z nich vyjmuto</numerusform>
         </translation>
     </message>
     <message>
@@ -2521,46 +2566,54 @@ Zvolte jiný soubor.</translation>
         <translation>Rozdíly otevřených řádků</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>v %n projektu</numerusform>
-            <numerusform>ve %n projektech</numerusform>
-            <numerusform>v %n projektech</numerusform>
+            <numerusform>v %Ln projektu</numerusform>
+            <numerusform>ve %Ln projektech</numerusform>
+            <numerusform>v %Ln projektech</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <source>%Ln offene Zeile(n) ohne Nachfolger</source>
         <translation>
-            <numerusform>%n otevřený řádek bez nástupce</numerusform>
-            <numerusform>%n otevřené řádky bez nástupce</numerusform>
-            <numerusform>%n otevřených řádků bez nástupce</numerusform>
+            <numerusform>%Ln otevřený řádek bez nástupce</numerusform>
+            <numerusform>%Ln otevřené řádky bez nástupce</numerusform>
+            <numerusform>%Ln otevřených řádků bez nástupce</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Die Tabellen werden verglichen: %Ln Projekt(e) gelesen</source>
+        <translation>
+            <numerusform>Tabulky se porovnávají: přečten %Ln projekt</numerusform>
+            <numerusform>Tabulky se porovnávají: přečteny %Ln projekty</numerusform>
+            <numerusform>Tabulky se porovnávají: přečteno %Ln projektů</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>PatternModel</name>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n řádek</numerusform>
-            <numerusform>%n řádky</numerusform>
-            <numerusform>%n řádků</numerusform>
+            <numerusform>%Ln řádek</numerusform>
+            <numerusform>%Ln řádky</numerusform>
+            <numerusform>%Ln řádků</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Projekt(e)</source>
+        <source>%Ln Projekt(e)</source>
         <translation>
-            <numerusform>%n projekt</numerusform>
-            <numerusform>%n projekty</numerusform>
-            <numerusform>%n projektů</numerusform>
+            <numerusform>%Ln projekt</numerusform>
+            <numerusform>%Ln projekty</numerusform>
+            <numerusform>%Ln projektů</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) haben diese und andere Unterschiede</source>
+        <source>%Ln weitere Zeile(n) haben diese und andere Unterschiede</source>
         <translation>
-            <numerusform>Ještě %n řádek má tyto a jiné rozdíly</numerusform>
-            <numerusform>Ještě %n řádky mají tyto a jiné rozdíly</numerusform>
-            <numerusform>Ještě %n řádků má tyto a jiné rozdíly</numerusform>
+            <numerusform>Ještě %Ln řádek má tyto a jiné rozdíly</numerusform>
+            <numerusform>Ještě %Ln řádky mají tyto a jiné rozdíly</numerusform>
+            <numerusform>Ještě %Ln řádků má tyto a jiné rozdíly</numerusform>
         </translation>
     </message>
     <message>
@@ -2787,11 +2840,11 @@ Projekt: %1
         <translation>Řádek %1: %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
+        <source>%Ln Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
         <translation>
-            <numerusform>%n řádek je potvrzen, ačkoli hodnoty jeho rozsahu nemají nový řádek.</numerusform>
-            <numerusform>%n řádky jsou potvrzeny, ačkoli hodnoty jejich rozsahů nemají nový řádek.</numerusform>
-            <numerusform>%n řádků je potvrzeno, ačkoli hodnoty jejich rozsahů nemají nový řádek.</numerusform>
+            <numerusform>%Ln řádek je potvrzen, ačkoli hodnoty jeho rozsahu nemají nový řádek.</numerusform>
+            <numerusform>%Ln řádky jsou potvrzeny, ačkoli hodnoty jejich rozsahů nemají nový řádek.</numerusform>
+            <numerusform>%Ln řádků je potvrzeno, ačkoli hodnoty jejich rozsahů nemají nový řádek.</numerusform>
         </translation>
     </message>
     <message>
@@ -2806,20 +2859,16 @@ Projekt: %1
 <context>
     <name>RangeDock</name>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n řádek</numerusform>
-            <numerusform>%1: %n řádky</numerusform>
-            <numerusform>%1: %n řádků</numerusform>
+            <numerusform>%1: %Ln řádek</numerusform>
+            <numerusform>%1: %Ln řádky</numerusform>
+            <numerusform>%1: %Ln řádků</numerusform>
         </translation>
     </message>
     <message>
         <source>Die Zeile hat keine Wertebereichszuordnung.</source>
         <translation>Řádek nemá přiřazení rozsahů hodnot.</translation>
-    </message>
-    <message>
-        <source>%1: %2 von %3 Werten zugeordnet</source>
-        <translation>%1: přiřazené hodnoty: %2 z %3</translation>
     </message>
     <message>
         <source>fehlend: %1</source>
@@ -2836,6 +2885,14 @@ Projekt: %1
     <message>
         <source>Wertebereich der Zeile</source>
         <translation>Rozsah hodnot řádku</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 von %Ln Wert(en) zugeordnet</source>
+        <translation>
+            <numerusform>%1: přiřazené hodnoty: %2 z %Ln</numerusform>
+            <numerusform>%1: přiřazené hodnoty: %2 z %Ln</numerusform>
+            <numerusform>%1: přiřazené hodnoty: %2 z %Ln</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2878,10 +2935,6 @@ Projekt: %1
     <message>
         <source>Wiederherstellung</source>
         <translation>Obnovení</translation>
-    </message>
-    <message>
-        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2 Schritte mit %3 Zeilen in %4 Projekten, zuletzt „%5“. Sie stammt von %6.</source>
-        <translation>K %1 existuje práce, která nebyla uložena: kroky: %2, řádky: %3, projekty: %4, naposledy „%5“. Pochází od %6.</translation>
     </message>
     <message>
         <source>Gespeichert</source>
@@ -2931,16 +2984,40 @@ Projekt: %1
         <source>&amp;Gespeicherten Stand öffnen</source>
         <translation>&amp;Otevřít uloženou verzi</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln Schritt(e)</source>
+        <translation>
+            <numerusform>%Ln krok</numerusform>
+            <numerusform>%Ln kroky</numerusform>
+            <numerusform>%Ln kroků</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2, zuletzt „%3“. Sie stammt von %4.</source>
+        <translation>K %1 existuje práce, která nebyla uložena: %2, naposledy „%3“. Pochází od %4.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 s %Ln řádkem</numerusform>
+            <numerusform>%1 se %Ln řádky</numerusform>
+            <numerusform>%1 s %Ln řádky</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 v %Ln projektu</numerusform>
+            <numerusform>%1 ve %Ln projektech</numerusform>
+            <numerusform>%1 v %Ln projektech</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ReleaseCommands</name>
     <message>
         <source>Tabellen werden importiert</source>
         <translation>Importují se tabulky</translation>
-    </message>
-    <message>
-        <source>%1 Tabellen mit %2 Zeilen: %3 neu, %4 geändert, %5 unverändert, %6 nicht importiert</source>
-        <translation>Tabulky: %1, řádky: %2; nové %3, změněné %4, nezměněné %5, neimportované %6</translation>
     </message>
     <message>
         <source>%1 hat keine CSV-Datei mehr und bleibt, wie es ist</source>
@@ -2979,10 +3056,6 @@ Projekt: %1
         <translation>Přerušeno, nic nebylo exportováno</translation>
     </message>
     <message>
-        <source>%1 Zeilen nach %2 exportiert</source>
-        <translation>Řádky (%1) exportovány do %2</translation>
-    </message>
-    <message>
         <source>Bericht schreiben</source>
         <translation>Zapsat zprávu</translation>
     </message>
@@ -3013,6 +3086,34 @@ Projekt: %1
     <message>
         <source>Seite %1 von %2</source>
         <translation>Strana %1 z %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Tabelle(n)</source>
+        <translation>
+            <numerusform>%Ln tabulka</numerusform>
+            <numerusform>%Ln tabulky</numerusform>
+            <numerusform>%Ln tabulek</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 neu, %2 geändert, %3 unverändert, %4 nicht importiert</source>
+        <translation>nové %1, změněné %2, nezměněné %3, neimportované %4</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Zeile(n) nach %1 exportiert</source>
+        <translation>
+            <numerusform>%Ln řádek exportován do %1</numerusform>
+            <numerusform>%Ln řádky exportovány do %1</numerusform>
+            <numerusform>%Ln řádků exportováno do %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 s %Ln řádkem</numerusform>
+            <numerusform>%1 se %Ln řádky</numerusform>
+            <numerusform>%1 s %Ln řádky</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3058,19 +3159,19 @@ Projekt: %1
         <translation>Čtou se tabulky</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dafür</source>
+        <source>%Ln Zeile(n) dafür</source>
         <translation>
-            <numerusform>%n řádek pro</numerusform>
-            <numerusform>%n řádky pro</numerusform>
-            <numerusform>%n řádků pro</numerusform>
+            <numerusform>%Ln řádek pro</numerusform>
+            <numerusform>%Ln řádky pro</numerusform>
+            <numerusform>%Ln řádků pro</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dagegen</source>
+        <source>%Ln Zeile(n) dagegen</source>
         <translation>
-            <numerusform>%n řádek proti</numerusform>
-            <numerusform>%n řádky proti</numerusform>
-            <numerusform>%n řádků proti</numerusform>
+            <numerusform>%Ln řádek proti</numerusform>
+            <numerusform>%Ln řádky proti</numerusform>
+            <numerusform>%Ln řádků proti</numerusform>
         </translation>
     </message>
 </context>
@@ -3087,10 +3188,6 @@ Projekt: %1
     <message>
         <source>Erstellt am %1</source>
         <translation>Vytvořeno %1</translation>
-    </message>
-    <message>
-        <source>Erledigt: %1 von %2 Zeilen; offen: %3.</source>
-        <translation>Vyřízeno: %1 z %2 řádků; otevřené: %3.</translation>
     </message>
     <message>
         <source>Stand der Zeilen</source>
@@ -3316,6 +3413,10 @@ Projekt: %1
         <source>Beurteilte Zeilen</source>
         <translation>Posouzené řádky</translation>
     </message>
+    <message>
+        <source>Erledigte Zeilen: %1 von %2; offen: %3.</source>
+        <translation>Vyřízené řádky: %1 z %2; otevřené: %3.</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3394,11 +3495,11 @@ Projekt: %1
         <translation>Tabulky ještě nejsou porovnány</translation>
     </message>
     <message numerus="yes">
-        <source>Von vorn: %n Zeile(n) offen</source>
+        <source>Von vorn: %Ln Zeile(n) offen</source>
         <translation>
-            <numerusform>Od začátku: %n otevřený řádek</numerusform>
-            <numerusform>Od začátku: %n otevřené řádky</numerusform>
-            <numerusform>Od začátku: %n otevřených řádků</numerusform>
+            <numerusform>Od začátku: %Ln otevřený řádek</numerusform>
+            <numerusform>Od začátku: %Ln otevřené řádky</numerusform>
+            <numerusform>Od začátku: %Ln otevřených řádků</numerusform>
         </translation>
     </message>
     <message>
@@ -3422,19 +3523,19 @@ Projekt: %1
         <translation>Není vybrán žádný vzor, nebo jsou všechny jeho řádky rozhodnuty</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n řádek</numerusform>
-            <numerusform>%n řádky</numerusform>
-            <numerusform>%n řádků</numerusform>
+            <numerusform>%Ln řádek</numerusform>
+            <numerusform>%Ln řádky</numerusform>
+            <numerusform>%Ln řádků</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en) bestätigen?</source>
+        <source>in %Ln Projekt(en) bestätigen?</source>
         <translation>
-            <numerusform>potvrdit v %n projektu?</numerusform>
-            <numerusform>potvrdit ve %n projektech?</numerusform>
-            <numerusform>potvrdit v %n projektech?</numerusform>
+            <numerusform>potvrdit v %Ln projektu?</numerusform>
+            <numerusform>potvrdit ve %Ln projektech?</numerusform>
+            <numerusform>potvrdit v %Ln projektech?</numerusform>
         </translation>
     </message>
     <message>
@@ -3446,11 +3547,11 @@ Projekt: %1
         <translation>&amp;Potvrdit</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>Potvrzen %n řádek</numerusform>
-            <numerusform>Potvrzeny %n řádky</numerusform>
-            <numerusform>Potvrzeno %n řádků</numerusform>
+            <numerusform>Potvrzen %Ln řádek</numerusform>
+            <numerusform>Potvrzeny %Ln řádky</numerusform>
+            <numerusform>Potvrzeno %Ln řádků</numerusform>
         </translation>
     </message>
     <message>
@@ -3472,10 +3573,6 @@ Projekt: %1
     <message>
         <source>Stichprobe</source>
         <translation>Náhodný vzorek</translation>
-    </message>
-    <message>
-        <source>So viele von %1 Zeilen werden gezogen und einzeln beurteilt. %2 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %3 richtige weniger als 1 %.</source>
-        <translation>Tolik z %1 řádků se vylosuje a posoudí jednotlivě. %2 správných říká s jistotou 95 %, že méně než 5 % je chybných, %3 správných méně než 1 %.</translation>
     </message>
     <message>
         <source>&amp;Ziehen</source>
@@ -3534,11 +3631,11 @@ Projekt: %1
         <translation>Prohlédnout &amp;chybný řádek</translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind unsicher.</source>
+        <source>%Ln davon ist/sind unsicher.</source>
         <translation>
-            <numerusform>%n z nich je nejistý.</numerusform>
-            <numerusform>%n z nich jsou nejisté.</numerusform>
-            <numerusform>%n z nich je nejistých.</numerusform>
+            <numerusform>%Ln z nich je nejistý.</numerusform>
+            <numerusform>%Ln z nich jsou nejisté.</numerusform>
+            <numerusform>%Ln z nich je nejistých.</numerusform>
         </translation>
     </message>
     <message>
@@ -3546,24 +3643,32 @@ Projekt: %1
         <translation>Všechny vzory jsou vyřízeny</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>v %n projektu</numerusform>
-            <numerusform>ve %n projektech</numerusform>
-            <numerusform>v %n projektech</numerusform>
+            <numerusform>v %Ln projektu</numerusform>
+            <numerusform>ve %Ln projektech</numerusform>
+            <numerusform>v %Ln projektech</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n řádek potvrzen jako neplatný</numerusform>
-            <numerusform>%n řádky potvrzeny jako neplatné</numerusform>
-            <numerusform>%n řádků potvrzeno jako neplatné</numerusform>
+            <numerusform>%Ln řádek potvrzen jako neplatný</numerusform>
+            <numerusform>%Ln řádky potvrzeny jako neplatné</numerusform>
+            <numerusform>%Ln řádků potvrzeno jako neplatné</numerusform>
         </translation>
     </message>
     <message>
         <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
         <translation>Řádek %1 v %2 je chybný. Množina je rozdělena; se kterou částí pokračovat?</translation>
+    </message>
+    <message numerus="yes">
+        <source>So viele von %Ln Zeile(n) werden gezogen und einzeln beurteilt. %1 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %2 richtige weniger als 1 %.</source>
+        <translation>
+            <numerusform>Tolik z %Ln řádku se vylosuje a posoudí jednotlivě. %1 správných říká s jistotou 95 %, že méně než 5 % je chybných, %2 správných méně než 1 %.</numerusform>
+            <numerusform>Tolik z %Ln řádků se vylosuje a posoudí jednotlivě. %1 správných říká s jistotou 95 %, že méně než 5 % je chybných, %2 správných méně než 1 %.</numerusform>
+            <numerusform>Tolik z %Ln řádků se vylosuje a posoudí jednotlivě. %1 správných říká s jistotou 95 %, že méně než 5 % je chybných, %2 správných méně než 1 %.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3721,16 +3826,24 @@ Projekt: %1
         <translation>Za poslední ukončenou relací není žurnál %1 čitelný. Co tam bylo, není známo; žurnál se zachová.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passen noch %2 Änderungen, %3 passen nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
-        <translation>Žurnál %1 je poškozen. Za poškozeným místem se ještě hodí změn: %2, už se nehodí: %3; další mohou chybět. Žurnál se zachová.</translation>
-    </message>
-    <message>
         <source>Das Ende des Journals %1 ist nicht lesbar. Die letzte Änderung kann fehlen.</source>
         <translation>Konec žurnálu %1 není čitelný. Poslední změna může chybět.</translation>
     </message>
-    <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
-        <translation>Žurnál %1 je poškozen nebo se nehodí k mapovacímu souboru. Chybí nejméně %2 pozdějších změn; žurnál se zachová.</translation>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passt/passen noch %Ln Änderung(en), %2 nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>Žurnál %1 je poškozen. Za poškozeným místem se ještě hodí %Ln změna, už se nehodí: %2; další mohou chybět. Žurnál se zachová.</numerusform>
+            <numerusform>Žurnál %1 je poškozen. Za poškozeným místem se ještě hodí %Ln změny, už se nehodí: %2; další mohou chybět. Žurnál se zachová.</numerusform>
+            <numerusform>Žurnál %1 je poškozen. Za poškozeným místem se ještě hodí %Ln změn, už se nehodí: %2; další mohou chybět. Žurnál se zachová.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %Ln spätere Änderung(en) fehlt/fehlen; das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>Žurnál %1 je poškozen nebo se nehodí k mapovacímu souboru. Chybí nejméně %Ln pozdější změna; žurnál se zachová.</numerusform>
+            <numerusform>Žurnál %1 je poškozen nebo se nehodí k mapovacímu souboru. Chybí nejméně %Ln pozdější změny; žurnál se zachová.</numerusform>
+            <numerusform>Žurnál %1 je poškozen nebo se nehodí k mapovacímu souboru. Chybí nejméně %Ln pozdějších změn; žurnál se zachová.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3982,11 +4095,6 @@ Projekt: %1
         <translation>Vše rozhodnuto</translation>
     </message>
     <message>
-        <source>Offen: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Otevřené: &lt;a href=&quot;next&quot;&gt;řádky: %1&lt;/a&gt;, projekty: %2</translation>
-    </message>
-    <message>
         <source>Zeilen, die noch eine Entscheidung brauchen</source>
         <translation>Řádky, které ještě potřebují rozhodnutí</translation>
     </message>
@@ -3999,13 +4107,33 @@ Projekt: %1
         <translation>Filtr: žádný řádek</translation>
     </message>
     <message>
-        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Filtr: &lt;a href=&quot;next&quot;&gt;%1 řádků&lt;/a&gt; v %2 projektech</translation>
-    </message>
-    <message>
         <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
         <translation>Řádky, které ukazuje filtr přes všechny řádky</translation>
+    </message>
+    <message numerus="yes">
+        <source>&lt;a href=&quot;next&quot;&gt;%Ln Zeile(n)&lt;/a&gt;</source>
+        <translation>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln řádek&lt;/a&gt;</numerusform>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln řádky&lt;/a&gt;</numerusform>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln řádků&lt;/a&gt;</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Offen: %1</source>
+        <translation>Otevřené: %1</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>Filtr: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <extracomment>&quot;12 lines in 3 projects&quot;</extracomment>
+        <translation>
+            <numerusform>%1 v %Ln projektu</numerusform>
+            <numerusform>%1 ve %Ln projektech</numerusform>
+            <numerusform>%1 v %Ln projektech</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -4054,11 +4182,11 @@ Projekt: %1
         <translation>&amp;Zavřít</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <source>Mit %Ln abhängigen &amp;zurücknehmen</source>
         <translation>
-            <numerusform>&amp;Vzít zpět se závislými (%n)</numerusform>
-            <numerusform>&amp;Vzít zpět se závislými (%n)</numerusform>
-            <numerusform>&amp;Vzít zpět se závislými (%n)</numerusform>
+            <numerusform>&amp;Vzít zpět se závislými (%Ln)</numerusform>
+            <numerusform>&amp;Vzít zpět se závislými (%Ln)</numerusform>
+            <numerusform>&amp;Vzít zpět se závislými (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -4066,11 +4194,11 @@ Projekt: %1
         <translation>&amp;Vzít zpět jen tento</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <source>Mit %Ln früheren &amp;wieder ausführen</source>
         <translation>
-            <numerusform>&amp;Znovu provést s dřívějšími (%n)</numerusform>
-            <numerusform>&amp;Znovu provést s dřívějšími (%n)</numerusform>
-            <numerusform>&amp;Znovu provést s dřívějšími (%n)</numerusform>
+            <numerusform>&amp;Znovu provést s dřívějšími (%Ln)</numerusform>
+            <numerusform>&amp;Znovu provést s dřívějšími (%Ln)</numerusform>
+            <numerusform>&amp;Znovu provést s dřívějšími (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -4106,22 +4234,22 @@ Projekt: %1
         <translation>Nyní je tam něco jiného, o čem nerozhodl žádný krok tohoto seznamu, například jiný program. Krokem už nelze pohnout.</translation>
     </message>
     <message numerus="yes">
-        <source>und %n weitere</source>
+        <source>und %Ln weitere</source>
         <translation>
-            <numerusform>a další: %n</numerusform>
-            <numerusform>a další: %n</numerusform>
-            <numerusform>a další: %n</numerusform>
+            <numerusform>a další: %Ln</numerusform>
+            <numerusform>a další: %Ln</numerusform>
+            <numerusform>a další: %Ln</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepListModel</name>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1 v %n projektu</numerusform>
-            <numerusform>%1 ve %n projektech</numerusform>
-            <numerusform>%1 v %n projektech</numerusform>
+            <numerusform>%1 v %Ln projektu</numerusform>
+            <numerusform>%1 ve %Ln projektech</numerusform>
+            <numerusform>%1 v %Ln projektech</numerusform>
         </translation>
     </message>
     <message>
@@ -4164,11 +4292,11 @@ Projekt: %1
         <translation>Změna v %1 se projeví, až se řádky přiřadí znovu. Zachová se přitom jen to, co je potvrzeno.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
+        <source>%Ln Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
         <translation>
-            <numerusform>%n řádek v %1 byl potvrzen jako neplatný a už není: %2</numerusform>
-            <numerusform>%n řádky v %1 byly potvrzeny jako neplatné a už nejsou: %2</numerusform>
-            <numerusform>%n řádků v %1 bylo potvrzeno jako neplatné a už není: %2</numerusform>
+            <numerusform>%Ln řádek v %1 byl potvrzen jako neplatný a už není: %2</numerusform>
+            <numerusform>%Ln řádky v %1 byly potvrzeny jako neplatné a už nejsou: %2</numerusform>
+            <numerusform>%Ln řádků v %1 bylo potvrzeno jako neplatné a už není: %2</numerusform>
         </translation>
     </message>
     <message>
@@ -4184,86 +4312,86 @@ Projekt: %1
         <translation>Odpadlo mapování proměnných cílového projektu %1 v %2.</translation>
     </message>
     <message numerus="yes">
-        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %n andere Zeile(n): %4</source>
+        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %Ln andere Zeile(n): %4</source>
         <translation>
-            <numerusform>Řádek %1 → %2 v %3: cílový řádek má i %n jiný řádek: %4</numerusform>
-            <numerusform>Řádek %1 → %2 v %3: cílový řádek mají i %n jiné řádky: %4</numerusform>
-            <numerusform>Řádek %1 → %2 v %3: cílový řádek má i %n jiných řádků: %4</numerusform>
+            <numerusform>Řádek %1 → %2 v %3: cílový řádek má i %Ln jiný řádek: %4</numerusform>
+            <numerusform>Řádek %1 → %2 v %3: cílový řádek mají i %Ln jiné řádky: %4</numerusform>
+            <numerusform>Řádek %1 → %2 v %3: cílový řádek má i %Ln jiných řádků: %4</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
+        <source>%Ln Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
         <translation>
-            <numerusform>%n řádek v %1 sdílí svůj cílový řádek s nově přiřazenými: %2</numerusform>
-            <numerusform>%n řádky v %1 sdílejí svůj cílový řádek s nově přiřazenými: %2</numerusform>
-            <numerusform>%n řádků v %1 sdílí svůj cílový řádek s nově přiřazenými: %2</numerusform>
+            <numerusform>%Ln řádek v %1 sdílí svůj cílový řádek s nově přiřazenými: %2</numerusform>
+            <numerusform>%Ln řádky v %1 sdílejí svůj cílový řádek s nově přiřazenými: %2</numerusform>
+            <numerusform>%Ln řádků v %1 sdílí svůj cílový řádek s nově přiřazenými: %2</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepSummary</name>
     <message numerus="yes">
-        <source>%n Konflikt(e) angenommen</source>
+        <source>%Ln Konflikt(e) angenommen</source>
         <translation>
-            <numerusform>přijat %n konflikt</numerusform>
-            <numerusform>přijaty %n konflikty</numerusform>
-            <numerusform>přijato %n konfliktů</numerusform>
+            <numerusform>přijat %Ln konflikt</numerusform>
+            <numerusform>přijaty %Ln konflikty</numerusform>
+            <numerusform>přijato %Ln konfliktů</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>Potvrzen %n řádek</numerusform>
-            <numerusform>Potvrzeny %n řádky</numerusform>
-            <numerusform>Potvrzeno %n řádků</numerusform>
+            <numerusform>Potvrzen %Ln řádek</numerusform>
+            <numerusform>Potvrzeny %Ln řádky</numerusform>
+            <numerusform>Potvrzeno %Ln řádků</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n řádek potvrzen jako neplatný</numerusform>
-            <numerusform>%n řádky potvrzeny jako neplatné</numerusform>
-            <numerusform>%n řádků potvrzeno jako neplatné</numerusform>
+            <numerusform>%Ln řádek potvrzen jako neplatný</numerusform>
+            <numerusform>%Ln řádky potvrzeny jako neplatné</numerusform>
+            <numerusform>%Ln řádků potvrzeno jako neplatné</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) zugeordnet</source>
+        <source>%Ln Zeile(n) zugeordnet</source>
         <translation>
-            <numerusform>přiřazen %n řádek</numerusform>
-            <numerusform>přiřazeny %n řádky</numerusform>
-            <numerusform>přiřazeno %n řádků</numerusform>
+            <numerusform>přiřazen %Ln řádek</numerusform>
+            <numerusform>přiřazeny %Ln řádky</numerusform>
+            <numerusform>přiřazeno %Ln řádků</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben</source>
         <translation>
-            <numerusform>přiřazení %n řádku zrušeno</numerusform>
-            <numerusform>přiřazení %n řádků zrušeno</numerusform>
-            <numerusform>přiřazení %n řádků zrušeno</numerusform>
+            <numerusform>přiřazení %Ln řádku zrušeno</numerusform>
+            <numerusform>přiřazení %Ln řádků zrušeno</numerusform>
+            <numerusform>přiřazení %Ln řádků zrušeno</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Wertebereichszuordnung von %n Zeile(n) geändert</source>
+        <source>Wertebereichszuordnung von %Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>přiřazení rozsahů hodnot %n řádku změněno</numerusform>
-            <numerusform>přiřazení rozsahů hodnot %n řádků změněno</numerusform>
-            <numerusform>přiřazení rozsahů hodnot %n řádků změněno</numerusform>
+            <numerusform>přiřazení rozsahů hodnot %Ln řádku změněno</numerusform>
+            <numerusform>přiřazení rozsahů hodnot %Ln řádků změněno</numerusform>
+            <numerusform>přiřazení rozsahů hodnot %Ln řádků změněno</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Konflikt von %n Zeile(n) gelöst</source>
+        <source>Konflikt von %Ln Zeile(n) gelöst</source>
         <translation>
-            <numerusform>konflikt %n řádku vyřešen</numerusform>
-            <numerusform>konflikt %n řádků vyřešen</numerusform>
-            <numerusform>konflikt %n řádků vyřešen</numerusform>
+            <numerusform>konflikt %Ln řádku vyřešen</numerusform>
+            <numerusform>konflikt %Ln řádků vyřešen</numerusform>
+            <numerusform>konflikt %Ln řádků vyřešen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) geändert</source>
+        <source>%Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>změněn %n řádek</numerusform>
-            <numerusform>změněny %n řádky</numerusform>
-            <numerusform>změněno %n řádků</numerusform>
+            <numerusform>změněn %Ln řádek</numerusform>
+            <numerusform>změněny %Ln řádky</numerusform>
+            <numerusform>změněno %Ln řádků</numerusform>
         </translation>
     </message>
     <message>
@@ -4331,11 +4459,11 @@ Projekt: %1
         <translation>%1 v %2</translation>
     </message>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1 v %n projektu</numerusform>
-            <numerusform>%1 ve %n projektech</numerusform>
-            <numerusform>%1 v %n projektech</numerusform>
+            <numerusform>%1 v %Ln projektu</numerusform>
+            <numerusform>%1 ve %Ln projektech</numerusform>
+            <numerusform>%1 v %Ln projektech</numerusform>
         </translation>
     </message>
 </context>
@@ -4381,11 +4509,11 @@ Projekt: %1
         <translation>Kontrolují se přiřazení rozsahů hodnot</translation>
     </message>
     <message numerus="yes">
-        <source>%n Wertebereichszuordnung(en) geprüft</source>
+        <source>%Ln Wertebereichszuordnung(en) geprüft</source>
         <translation>
-            <numerusform>Zkontrolováno %n přiřazení rozsahů hodnot</numerusform>
-            <numerusform>Zkontrolována %n přiřazení rozsahů hodnot</numerusform>
-            <numerusform>Zkontrolováno %n přiřazení rozsahů hodnot</numerusform>
+            <numerusform>Zkontrolováno %Ln přiřazení rozsahů hodnot</numerusform>
+            <numerusform>Zkontrolována %Ln přiřazení rozsahů hodnot</numerusform>
+            <numerusform>Zkontrolováno %Ln přiřazení rozsahů hodnot</numerusform>
         </translation>
     </message>
     <message>
@@ -4393,11 +4521,11 @@ Projekt: %1
         <translation>bez výhrad</translation>
     </message>
     <message numerus="yes">
-        <source>%n Beanstandung(en)</source>
+        <source>%Ln Beanstandung(en)</source>
         <translation>
-            <numerusform>%n výhrada</numerusform>
-            <numerusform>%n výhrady</numerusform>
-            <numerusform>%n výhrad</numerusform>
+            <numerusform>%Ln výhrada</numerusform>
+            <numerusform>%Ln výhrady</numerusform>
+            <numerusform>%Ln výhrad</numerusform>
         </translation>
     </message>
     <message>

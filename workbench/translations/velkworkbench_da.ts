@@ -8,101 +8,101 @@
         <translation>Der er intet at ændre.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigen?</source>
+        <source>%Ln Zeile(n) bestätigen?</source>
         <translation>
-            <numerusform>Bekræft %n linje?</numerusform>
-            <numerusform>Bekræft %n linjer?</numerusform>
+            <numerusform>Bekræft %Ln linje?</numerusform>
+            <numerusform>Bekræft %Ln linjer?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigen?</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Bekræft %n linje som udgået?</numerusform>
-            <numerusform>Bekræft %n linjer som udgået?</numerusform>
+            <numerusform>Bekræft %Ln linje som udgået?</numerusform>
+            <numerusform>Bekræft %Ln linjer som udgået?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben?</source>
         <translation>
-            <numerusform>Ophæv tildelingen af %n linje?</numerusform>
-            <numerusform>Ophæv tildelingen af %n linjer?</numerusform>
+            <numerusform>Ophæv tildelingen af %Ln linje?</numerusform>
+            <numerusform>Ophæv tildelingen af %Ln linjer?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Ophæv tildelingen af %n linje og bekræft den som udgået?</numerusform>
-            <numerusform>Ophæv tildelingen af %n linjer og bekræft dem som udgået?</numerusform>
+            <numerusform>Ophæv tildelingen af %Ln linje og bekræft den som udgået?</numerusform>
+            <numerusform>Ophæv tildelingen af %Ln linjer og bekræft dem som udgået?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind schon bestätigt.</source>
+        <source>%Ln davon ist/sind schon bestätigt.</source>
         <translation>
-            <numerusform>%n af dem er allerede bekræftet.</numerusform>
-            <numerusform>%n af dem er allerede bekræftet.</numerusform>
+            <numerusform>%Ln af dem er allerede bekræftet.</numerusform>
+            <numerusform>%Ln af dem er allerede bekræftet.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon verliert/verlieren ihre Wertebereichszuordnung.</source>
+        <source>%Ln davon verliert/verlieren ihre Wertebereichszuordnung.</source>
         <translation>
-            <numerusform>%n af dem mister sin tildeling af værdiområder.</numerusform>
-            <numerusform>%n af dem mister deres tildeling af værdiområder.</numerusform>
+            <numerusform>%Ln af dem mister sin tildeling af værdiområder.</numerusform>
+            <numerusform>%Ln af dem mister deres tildeling af værdiområder.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
+        <source>%Ln Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
         <translation>
-            <numerusform>%n linje uden mål forbliver ubekræftet.</numerusform>
-            <numerusform>%n linjer uden mål forbliver ubekræftede.</numerusform>
+            <numerusform>%Ln linje uden mål forbliver ubekræftet.</numerusform>
+            <numerusform>%Ln linjer uden mål forbliver ubekræftede.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
+        <source>%Ln Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
         <translation>
-            <numerusform>%n linje forbliver, som den er.</numerusform>
-            <numerusform>%n linjer forbliver, som de er.</numerusform>
+            <numerusform>%Ln linje forbliver, som den er.</numerusform>
+            <numerusform>%Ln linjer forbliver, som de er.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
+        <source>%Ln Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
         <translation>
-            <numerusform>%n linje i konflikt ændres ikke.</numerusform>
-            <numerusform>%n linjer i konflikt ændres ikke.</numerusform>
+            <numerusform>%Ln linje i konflikt ændres ikke.</numerusform>
+            <numerusform>%Ln linjer i konflikt ændres ikke.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
+        <source>%Ln Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
         <translation>
-            <numerusform>%n linje er ikke opført i noget målprojekt.</numerusform>
-            <numerusform>%n linjer er ikke opført i noget målprojekt.</numerusform>
+            <numerusform>%Ln linje er ikke opført i noget målprojekt.</numerusform>
+            <numerusform>%Ln linjer er ikke opført i noget målprojekt.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt.</source>
+        <source>%Ln Zeile(n) bestätigt.</source>
         <translation>
-            <numerusform>%n linje bekræftet.</numerusform>
-            <numerusform>%n linjer bekræftet.</numerusform>
+            <numerusform>%Ln linje bekræftet.</numerusform>
+            <numerusform>%Ln linjer bekræftet.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt.</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>%n linje bekræftet som udgået.</numerusform>
-            <numerusform>%n linjer bekræftet som udgået.</numerusform>
+            <numerusform>%Ln linje bekræftet som udgået.</numerusform>
+            <numerusform>%Ln linjer bekræftet som udgået.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben.</source>
         <translation>
-            <numerusform>Tildelingen af %n linje ophævet.</numerusform>
-            <numerusform>Tildelingen af %n linjer ophævet.</numerusform>
+            <numerusform>Tildelingen af %Ln linje ophævet.</numerusform>
+            <numerusform>Tildelingen af %Ln linjer ophævet.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>Tildelingen af %n linje ophævet og linjen bekræftet som udgået.</numerusform>
-            <numerusform>Tildelingen af %n linjer ophævet og linjerne bekræftet som udgået.</numerusform>
+            <numerusform>Tildelingen af %Ln linje ophævet og linjen bekræftet som udgået.</numerusform>
+            <numerusform>Tildelingen af %Ln linjer ophævet og linjerne bekræftet som udgået.</numerusform>
         </translation>
     </message>
 </context>
@@ -160,10 +160,6 @@
         <translation>Der er intet at overtage fra %1.</translation>
     </message>
     <message>
-        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
-        <translation>Overtaget fra %1: %2 af %3 bekræftede linjer, %4 sikkert tildelt, %5 foreslået.</translation>
-    </message>
-    <message>
         <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
         <translation>Filen indeholder ingen mapping fra katalogudgave %1.</translation>
     </message>
@@ -206,6 +202,13 @@
     <message>
         <source>Entscheidungen aus %1 übernommen: %2</source>
         <translation>Beslutninger overtaget fra %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Aus %1 übernommen: %2 von %Ln bestätigten Zeile(n), %3 sicher zugeordnet, %4 vorgeschlagen.</source>
+        <translation>
+            <numerusform>Overtaget fra %1: %2 af %Ln bekræftet linje, %3 sikkert tildelt, %4 foreslået.</numerusform>
+            <numerusform>Overtaget fra %1: %2 af %Ln bekræftede linjer, %3 sikkert tildelt, %4 foreslået.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -270,10 +273,10 @@
         <translation>Konflikt %1 af %2, endnu %3 åbne</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
+        <source>%Ln Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
         <translation>
-            <numerusform>%n linje i %1 modsiger sig på samme måde. Gælder beslutningen for alle?</numerusform>
-            <numerusform>%n linjer i %1 modsiger sig på samme måde. Gælder beslutningen for alle?</numerusform>
+            <numerusform>%Ln linje i %1 modsiger sig på samme måde. Gælder beslutningen for alle?</numerusform>
+            <numerusform>%Ln linjer i %1 modsiger sig på samme måde. Gælder beslutningen for alle?</numerusform>
         </translation>
     </message>
     <message>
@@ -309,15 +312,11 @@ Anden: %2</translation>
         <source>Alle Konflikte sind entschieden.</source>
         <translation>Alle konflikter er afgjort.</translation>
     </message>
-    <message>
-        <source>%1 von %2 Konflikten sind noch offen.</source>
-        <translation>%1 af %2 konflikter er endnu åbne.</translation>
-    </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) widersprechen sich wie diese.</source>
+        <source>%Ln weitere Zeile(n) widersprechen sich wie diese.</source>
         <translation>
-            <numerusform>%n linje mere modsiger sig som denne.</numerusform>
-            <numerusform>%n linjer mere modsiger sig som denne.</numerusform>
+            <numerusform>%Ln linje mere modsiger sig som denne.</numerusform>
+            <numerusform>%Ln linjer mere modsiger sig som denne.</numerusform>
         </translation>
     </message>
     <message>
@@ -339,6 +338,13 @@ Anden: %2</translation>
     <message>
         <source>Neu entscheiden</source>
         <translation>Beslut på ny</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Konflikt(en) noch offen.</source>
+        <translation>
+            <numerusform>%1 af %Ln konflikt endnu åben.</numerusform>
+            <numerusform>%1 af %Ln konflikter endnu åbne.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -457,10 +463,10 @@ Anden: %2</translation>
         <translation>ens</translation>
     </message>
     <message numerus="yes">
-        <source>ersetzt wie in %n weiteren Zeile(n)</source>
+        <source>ersetzt wie in %Ln weiteren Zeile(n)</source>
         <translation>
-            <numerusform>erstattet som i %n linje mere</numerusform>
-            <numerusform>erstattet som i %n linjer mere</numerusform>
+            <numerusform>erstattet som i %Ln linje mere</numerusform>
+            <numerusform>erstattet som i %Ln linjer mere</numerusform>
         </translation>
     </message>
     <message>
@@ -523,10 +529,10 @@ Anden: %2</translation>
         <translation>Sikkert tildelt.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n linje</numerusform>
-            <numerusform>%n linjer</numerusform>
+            <numerusform>%Ln linje</numerusform>
+            <numerusform>%Ln linjer</numerusform>
         </translation>
     </message>
     <message>
@@ -609,21 +615,17 @@ Anden: %2</translation>
         <translation>&amp;Kassér</translation>
     </message>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n linje</numerusform>
-            <numerusform>%1: %n linjer</numerusform>
+            <numerusform>%1: %Ln linje</numerusform>
+            <numerusform>%1: %Ln linjer</numerusform>
         </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>og %1 mere</translation>
-    </message>
     <message numerus="yes">
-        <source>Noch %n Zeile(n) in Konflikt, in diesen Projekten:</source>
+        <source>Noch %Ln Zeile(n) in Konflikt, in diesen Projekten:</source>
         <translation>
-            <numerusform>Endnu %n linje i konflikt, i disse projekter:</numerusform>
-            <numerusform>Endnu %n linjer i konflikt, i disse projekter:</numerusform>
+            <numerusform>Endnu %Ln linje i konflikt, i disse projekter:</numerusform>
+            <numerusform>Endnu %Ln linjer i konflikt, i disse projekter:</numerusform>
         </translation>
     </message>
     <message>
@@ -665,6 +667,13 @@ Anden: %2</translation>
     <message>
         <source>Die Mapping-Datei kann nicht angelegt werden.</source>
         <translation>Mappingfilen kan ikke oprettes.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>og %Ln mere</numerusform>
+            <numerusform>og %Ln mere</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -728,6 +737,15 @@ Vælg en anden fil.</translation>
     <message>
         <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte einen anderen Ordner wählen.</source>
         <translation>Der kan ikke oprettes noget i mappen med %1 (%2). Intet blev skrevet. Vælg en anden mappe.</translation>
+    </message>
+</context>
+<context>
+    <name>EditorArea</name>
+    <message>
+        <source>Keine Zeile dieses Projekts ist im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Zeilen zu sehen.</source>
+        <translation>Ingen linje i dette projekt er i filteret.
+Åbn „%1“ og vælg „%2“ for at se alle linjer igen.</translation>
     </message>
 </context>
 <context>
@@ -855,17 +873,17 @@ Vælg en anden fil.</translation>
         <translation>Tabellerne læses...</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n linje</numerusform>
-            <numerusform>%n linjer</numerusform>
+            <numerusform>%Ln linje</numerusform>
+            <numerusform>%Ln linjer</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>i %n projekt</numerusform>
-            <numerusform>i %n projekter</numerusform>
+            <numerusform>i %Ln projekt</numerusform>
+            <numerusform>i %Ln projekter</numerusform>
         </translation>
     </message>
     <message>
@@ -873,10 +891,10 @@ Vælg en anden fil.</translation>
         <translation>Intet filter: alle linjer</translation>
     </message>
     <message numerus="yes">
-        <source>%n Tabelle(n) nicht lesbar</source>
+        <source>%Ln Tabelle(n) nicht lesbar</source>
         <translation>
-            <numerusform>Ulæselige tabeller: %n</numerusform>
-            <numerusform>Ulæselige tabeller: %n</numerusform>
+            <numerusform>Ulæselige tabeller: %Ln</numerusform>
+            <numerusform>Ulæselige tabeller: %Ln</numerusform>
         </translation>
     </message>
     <message>
@@ -1025,10 +1043,10 @@ Vælg en anden fil.</translation>
         <translation>Linje %1 i %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1</source>
+        <source>%Ln Zeile(n) in %1</source>
         <translation>
-            <numerusform>%n linje i %1</numerusform>
-            <numerusform>%n linjer i %1</numerusform>
+            <numerusform>%Ln linje i %1</numerusform>
+            <numerusform>%Ln linjer i %1</numerusform>
         </translation>
     </message>
     <message>
@@ -1357,10 +1375,10 @@ Vælg en anden fil.</translation>
         <translation>Den kopierede betingelse kan ikke bruges sådan endnu, en værdi mangler, er et område eller indeholder et anførselstegn: %1</translation>
     </message>
     <message numerus="yes">
-        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.</source>
+        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %Ln Zeile(n) offen.</source>
         <translation>
-            <numerusform>Her i filtret er alt færdigt, udenfor er endnu %n linje åben.</numerusform>
-            <numerusform>Her i filtret er alt færdigt, udenfor er endnu %n linjer åbne.</numerusform>
+            <numerusform>Her i filtret er alt færdigt, udenfor er endnu %Ln linje åben.</numerusform>
+            <numerusform>Her i filtret er alt færdigt, udenfor er endnu %Ln linjer åbne.</numerusform>
         </translation>
     </message>
     <message>
@@ -1428,16 +1446,16 @@ Vælg en anden fil.</translation>
         <translation>Det gælder alle projektets linjer.</translation>
     </message>
     <message>
-        <source>Gemeint sind die %1 gezeigten von %2 Zeilen des Projekts.</source>
-        <translation>Det gælder de %1 viste af projektets %2 linjer.</translation>
-    </message>
-    <message>
         <source>Filter: %1.</source>
         <translation>Filter: %1.</translation>
     </message>
     <message>
         <source>Kein anderes Projekt hat solche Zeilen</source>
         <translation>Intet andet projekt har sådanne linjer</translation>
+    </message>
+    <message>
+        <source>Gemeint sind nur die gezeigten Zeilen des Projekts: %1 von %2.</source>
+        <translation>Det gælder kun projektets viste linjer: %1 af %2.</translation>
     </message>
 </context>
 <context>
@@ -1670,10 +1688,6 @@ Vælg en anden fil.</translation>
         <translation>Lu&amp;k</translation>
     </message>
     <message>
-        <source>Die ersten %1 Links; die Suche zeigt andere.</source>
-        <translation>De første %1 links; søgningen viser andre.</translation>
-    </message>
-    <message>
         <source>Links: %1</source>
         <translation>Links: %1</translation>
     </message>
@@ -1692,6 +1706,13 @@ Vælg en anden fil.</translation>
     <message>
         <source>&amp;Wiederherstellen</source>
         <translation>&amp;Gendan</translation>
+    </message>
+    <message numerus="yes">
+        <source>Die ersten %Ln Link(s); die Suche zeigt andere.</source>
+        <translation>
+            <numerusform>Det første %Ln link; søgningen viser andre.</numerusform>
+            <numerusform>De første %Ln links; søgningen viser andre.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1814,15 +1835,18 @@ Vælg en anden fil.</translation>
         <source>Nichts gefunden</source>
         <translation>Intet fundet</translation>
     </message>
-    <message>
-        <source>Die ersten %1 von %2 Treffern</source>
-        <translation>De første %1 af %2 træffere</translation>
+    <message numerus="yes">
+        <source>%Ln Treffer</source>
+        <translation>
+            <numerusform>%Ln træffer</numerusform>
+            <numerusform>%Ln træffere</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
-        <source>%n Treffer</source>
+        <source>Die ersten %1 von %Ln Treffer(n)</source>
         <translation>
-            <numerusform>%n træffer</numerusform>
-            <numerusform>%n træffere</numerusform>
+            <numerusform>De første %1 af %Ln træffer</numerusform>
+            <numerusform>De første %1 af %Ln træffere</numerusform>
         </translation>
     </message>
 </context>
@@ -2045,24 +2069,24 @@ Vælg en anden fil.</translation>
         <translation>Egne ændringer oven på filens version</translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): eigene Entscheidung</source>
+        <source>%Ln Konflikt(e): eigene Entscheidung</source>
         <translation>
-            <numerusform>%n konflikt: egen beslutning</numerusform>
-            <numerusform>%n konflikter: egen beslutning</numerusform>
+            <numerusform>%Ln konflikt: egen beslutning</numerusform>
+            <numerusform>%Ln konflikter: egen beslutning</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): Entscheidung der anderen Seite</source>
+        <source>%Ln Konflikt(e): Entscheidung der anderen Seite</source>
         <translation>
-            <numerusform>%n konflikt: den anden sides beslutning</numerusform>
-            <numerusform>%n konflikter: den anden sides beslutning</numerusform>
+            <numerusform>%Ln konflikt: den anden sides beslutning</numerusform>
+            <numerusform>%Ln konflikter: den anden sides beslutning</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): neu zu entscheiden</source>
+        <source>%Ln Konflikt(e): neu zu entscheiden</source>
         <translation>
-            <numerusform>%n konflikt: skal besluttes på ny</numerusform>
-            <numerusform>%n konflikter: skal besluttes på ny</numerusform>
+            <numerusform>%Ln konflikt: skal besluttes på ny</numerusform>
+            <numerusform>%Ln konflikter: skal besluttes på ny</numerusform>
         </translation>
     </message>
     <message>
@@ -2133,50 +2157,67 @@ Vælg en anden fil.</translation>
         <translation>Afbrudt, intet blev oprettet</translation>
     </message>
     <message>
-        <source>%1 Projekte: %2 am selben Ort, %3 an anderem, %4 aufgeteilt, %5 ohne Ziel, %6 unlesbar</source>
-        <translation>%1 projekter: %2 på samme sted, %3 på et andet, %4 delt op, %5 uden mål, %6 ulæselige</translation>
-    </message>
-    <message>
         <source>Zeilen werden zugeordnet</source>
         <translation>Linjer tildeles</translation>
     </message>
-    <message>
-        <source>Abgebrochen: %1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>Afbrudt: %1 af %2 projekter med %3 linjer, heraf %4 tildelt, %5 skal kontrolleres, %6 uden mål</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e): %1 am selben Ort, %2 an anderem, %3 aufgeteilt, %4 ohne Ziel, %5 unlesbar</source>
+        <translation>
+            <numerusform>%Ln projekt: %1 på samme sted, %2 på et andet, %3 delt op, %4 uden mål, %5 ulæseligt</numerusform>
+            <numerusform>%Ln projekter: %1 på samme sted, %2 på et andet, %3 delt op, %4 uden mål, %5 ulæselige</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 af %Ln projekt</numerusform>
+            <numerusform>%1 af %Ln projekter</numerusform>
+        </translation>
     </message>
     <message>
-        <source>%1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>%1 af %2 projekter med %3 linjer, heraf %4 tildelt, %5 skal kontrolleres, %6 uden mål</translation>
+        <source>davon %1 zugeordnet, %2 zu prüfen, %3 ohne Ziel</source>
+        <translation>heraf %1 tildelt, %2 skal kontrolleres, %3 uden mål</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>Afbrudt: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 med %Ln linje</numerusform>
+            <numerusform>%1 med %Ln linjer</numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>MergeState</name>
     <message numerus="yes">
-        <source>%n Änderung(en) übernommen.</source>
+        <source>%Ln Änderung(en) übernommen.</source>
         <translation>
-            <numerusform>%n ændring overtaget.</numerusform>
-            <numerusform>%n ændringer overtaget.</numerusform>
+            <numerusform>%Ln ændring overtaget.</numerusform>
+            <numerusform>%Ln ændringer overtaget.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) haben beide gleich entschieden.</source>
+        <source>%Ln Zeile(n) haben beide gleich entschieden.</source>
         <translation>
-            <numerusform>%n linje har begge besluttet ens.</numerusform>
-            <numerusform>%n linjer har begge besluttet ens.</numerusform>
+            <numerusform>%Ln linje har begge besluttet ens.</numerusform>
+            <numerusform>%Ln linjer har begge besluttet ens.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
+        <source>%Ln Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
         <translation>
-            <numerusform>%n linje er besluttet forskelligt og markeret som konflikt.</numerusform>
-            <numerusform>%n linjer er besluttet forskelligt og markeret som konflikt.</numerusform>
+            <numerusform>%Ln linje er besluttet forskelligt og markeret som konflikt.</numerusform>
+            <numerusform>%Ln linjer er besluttet forskelligt og markeret som konflikt.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
+        <source>%Ln andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
         <translation>
-            <numerusform>%n anden modsigelse: Filens version gælder.</numerusform>
-            <numerusform>%n andre modsigelser: Filens version gælder.</numerusform>
+            <numerusform>%Ln anden modsigelse: Filens version gælder.</numerusform>
+            <numerusform>%Ln andre modsigelser: Filens version gælder.</numerusform>
         </translation>
     </message>
 </context>
@@ -2202,17 +2243,17 @@ Vælg en anden fil.</translation>
         <translation>Tabellerne sammenlignes</translation>
     </message>
     <message numerus="yes">
-        <source>%n zugeordnete Zeile(n) angesehen</source>
+        <source>%Ln zugeordnete Zeile(n) angesehen</source>
         <translation>
-            <numerusform>%n tildelt linje set efter</numerusform>
-            <numerusform>%n tildelte linjer set efter</numerusform>
+            <numerusform>%Ln tildelt linje set efter</numerusform>
+            <numerusform>%Ln tildelte linjer set efter</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Fundstelle(n)</source>
+        <source>%Ln Fundstelle(n)</source>
         <translation>
-            <numerusform>%n fund</numerusform>
-            <numerusform>%n fund</numerusform>
+            <numerusform>%Ln fund</numerusform>
+            <numerusform>%Ln fund</numerusform>
         </translation>
     </message>
     <message>
@@ -2437,43 +2478,39 @@ Vælg en anden fil.</translation>
 </context>
 <context>
     <name>PatternDock</name>
-    <message>
-        <source>Die Tabellen werden verglichen: %1 Projekte gelesen</source>
-        <translation>Tabellerne sammenlignes: %1 projekter læst</translation>
-    </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) mit Vorschlag</source>
+        <source>%Ln offene Zeile(n) mit Vorschlag</source>
         <translation>
-            <numerusform>%n åben linje med forslag</numerusform>
-            <numerusform>%n åbne linjer med forslag</numerusform>
+            <numerusform>%Ln åben linje med forslag</numerusform>
+            <numerusform>%Ln åbne linjer med forslag</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Muster(n)</source>
+        <source>in %Ln Muster(n)</source>
         <translation>
-            <numerusform>i %n mønster</numerusform>
-            <numerusform>i %n mønstre</numerusform>
+            <numerusform>i %Ln mønster</numerusform>
+            <numerusform>i %Ln mønstre</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon wird/werden noch verglichen</source>
+        <source>%Ln davon wird/werden noch verglichen</source>
         <translation>
-            <numerusform>%n af dem sammenlignes endnu</numerusform>
-            <numerusform>%n af dem sammenlignes endnu</numerusform>
+            <numerusform>%Ln af dem sammenlignes endnu</numerusform>
+            <numerusform>%Ln af dem sammenlignes endnu</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Gewählt: %n Zeile(n)</source>
+        <source>Gewählt: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>Valgt: %n linje</numerusform>
-            <numerusform>Valgt: %n linjer</numerusform>
+            <numerusform>Valgt: %Ln linje</numerusform>
+            <numerusform>Valgt: %Ln linjer</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon herausgenommen</source>
+        <source>%Ln davon herausgenommen</source>
         <translation>
-            <numerusform>%n af dem taget ud</numerusform>
-            <numerusform>%n af dem taget ud</numerusform>
+            <numerusform>%Ln af dem taget ud</numerusform>
+            <numerusform>%Ln af dem taget ud</numerusform>
         </translation>
     </message>
     <message>
@@ -2481,41 +2518,48 @@ Vælg en anden fil.</translation>
         <translation>De åbne linjers forskelle</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>i %n projekt</numerusform>
-            <numerusform>i %n projekter</numerusform>
+            <numerusform>i %Ln projekt</numerusform>
+            <numerusform>i %Ln projekter</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <source>%Ln offene Zeile(n) ohne Nachfolger</source>
         <translation>
-            <numerusform>%n åben linje uden efterfølger</numerusform>
-            <numerusform>%n åbne linjer uden efterfølger</numerusform>
+            <numerusform>%Ln åben linje uden efterfølger</numerusform>
+            <numerusform>%Ln åbne linjer uden efterfølger</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Die Tabellen werden verglichen: %Ln Projekt(e) gelesen</source>
+        <translation>
+            <numerusform>Tabellerne sammenlignes: %Ln projekt læst</numerusform>
+            <numerusform>Tabellerne sammenlignes: %Ln projekter læst</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>PatternModel</name>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n linje</numerusform>
-            <numerusform>%n linjer</numerusform>
+            <numerusform>%Ln linje</numerusform>
+            <numerusform>%Ln linjer</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Projekt(e)</source>
+        <source>%Ln Projekt(e)</source>
         <translation>
-            <numerusform>%n projekt</numerusform>
-            <numerusform>%n projekter</numerusform>
+            <numerusform>%Ln projekt</numerusform>
+            <numerusform>%Ln projekter</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) haben diese und andere Unterschiede</source>
+        <source>%Ln weitere Zeile(n) haben diese und andere Unterschiede</source>
         <translation>
-            <numerusform>%n linje mere har disse og andre forskelle</numerusform>
-            <numerusform>%n linjer mere har disse og andre forskelle</numerusform>
+            <numerusform>%Ln linje mere har disse og andre forskelle</numerusform>
+            <numerusform>%Ln linjer mere har disse og andre forskelle</numerusform>
         </translation>
     </message>
     <message>
@@ -2742,10 +2786,10 @@ Linje: %2
         <translation>Linje %1: %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
+        <source>%Ln Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
         <translation>
-            <numerusform>%n linje er bekræftet, selvom værdier i dens område ikke har nogen ny linje.</numerusform>
-            <numerusform>%n linjer er bekræftet, selvom værdier i deres områder ikke har nogen ny linje.</numerusform>
+            <numerusform>%Ln linje er bekræftet, selvom værdier i dens område ikke har nogen ny linje.</numerusform>
+            <numerusform>%Ln linjer er bekræftet, selvom værdier i deres områder ikke har nogen ny linje.</numerusform>
         </translation>
     </message>
     <message>
@@ -2760,19 +2804,15 @@ Linje: %2
 <context>
     <name>RangeDock</name>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n linje</numerusform>
-            <numerusform>%1: %n linjer</numerusform>
+            <numerusform>%1: %Ln linje</numerusform>
+            <numerusform>%1: %Ln linjer</numerusform>
         </translation>
     </message>
     <message>
         <source>Die Zeile hat keine Wertebereichszuordnung.</source>
         <translation>Linjen har ingen tildeling af værdiområder.</translation>
-    </message>
-    <message>
-        <source>%1: %2 von %3 Werten zugeordnet</source>
-        <translation>%1: %2 af %3 værdier tildelt</translation>
     </message>
     <message>
         <source>fehlend: %1</source>
@@ -2789,6 +2829,13 @@ Linje: %2
     <message>
         <source>Wertebereich der Zeile</source>
         <translation>Linjens værdiområde</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 von %Ln Wert(en) zugeordnet</source>
+        <translation>
+            <numerusform>%1: %2 af %Ln værdi tildelt</numerusform>
+            <numerusform>%1: %2 af %Ln værdier tildelt</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2831,10 +2878,6 @@ Linje: %2
     <message>
         <source>Wiederherstellung</source>
         <translation>Gendannelse</translation>
-    </message>
-    <message>
-        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2 Schritte mit %3 Zeilen in %4 Projekten, zuletzt „%5“. Sie stammt von %6.</source>
-        <translation>Der findes arbejde på %1, som ikke blev gemt: %2 trin med %3 linjer i %4 projekter, senest „%5“. Det stammer fra %6.</translation>
     </message>
     <message>
         <source>Gespeichert</source>
@@ -2884,16 +2927,37 @@ Linje: %2
         <source>&amp;Gespeicherten Stand öffnen</source>
         <translation>Åbn &amp;den gemte version</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln Schritt(e)</source>
+        <translation>
+            <numerusform>%Ln trin</numerusform>
+            <numerusform>%Ln trin</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2, zuletzt „%3“. Sie stammt von %4.</source>
+        <translation>Der findes arbejde på %1, som ikke blev gemt: %2, senest „%3“. Det stammer fra %4.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 med %Ln linje</numerusform>
+            <numerusform>%1 med %Ln linjer</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 i %Ln projekt</numerusform>
+            <numerusform>%1 i %Ln projekter</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ReleaseCommands</name>
     <message>
         <source>Tabellen werden importiert</source>
         <translation>Tabeller importeres</translation>
-    </message>
-    <message>
-        <source>%1 Tabellen mit %2 Zeilen: %3 neu, %4 geändert, %5 unverändert, %6 nicht importiert</source>
-        <translation>%1 tabeller med %2 linjer: %3 nye, %4 ændrede, %5 uændrede, %6 ikke importeret</translation>
     </message>
     <message>
         <source>%1 hat keine CSV-Datei mehr und bleibt, wie es ist</source>
@@ -2932,10 +2996,6 @@ Linje: %2
         <translation>Afbrudt, intet blev eksporteret</translation>
     </message>
     <message>
-        <source>%1 Zeilen nach %2 exportiert</source>
-        <translation>%1 linjer eksporteret til %2</translation>
-    </message>
-    <message>
         <source>Bericht schreiben</source>
         <translation>Skriv rapport</translation>
     </message>
@@ -2966,6 +3026,31 @@ Linje: %2
     <message>
         <source>Seite %1 von %2</source>
         <translation>Side %1 af %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Tabelle(n)</source>
+        <translation>
+            <numerusform>%Ln tabel</numerusform>
+            <numerusform>%Ln tabeller</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 neu, %2 geändert, %3 unverändert, %4 nicht importiert</source>
+        <translation>%1 nye, %2 ændrede, %3 uændrede, %4 ikke importeret</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Zeile(n) nach %1 exportiert</source>
+        <translation>
+            <numerusform>%Ln linje eksporteret til %1</numerusform>
+            <numerusform>%Ln linjer eksporteret til %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 med %Ln linje</numerusform>
+            <numerusform>%1 med %Ln linjer</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3011,17 +3096,17 @@ Linje: %2
         <translation>Tabellerne læses</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dafür</source>
+        <source>%Ln Zeile(n) dafür</source>
         <translation>
-            <numerusform>%n linje for</numerusform>
-            <numerusform>%n linjer for</numerusform>
+            <numerusform>%Ln linje for</numerusform>
+            <numerusform>%Ln linjer for</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dagegen</source>
+        <source>%Ln Zeile(n) dagegen</source>
         <translation>
-            <numerusform>%n linje imod</numerusform>
-            <numerusform>%n linjer imod</numerusform>
+            <numerusform>%Ln linje imod</numerusform>
+            <numerusform>%Ln linjer imod</numerusform>
         </translation>
     </message>
 </context>
@@ -3038,10 +3123,6 @@ Linje: %2
     <message>
         <source>Erstellt am %1</source>
         <translation>Oprettet den %1</translation>
-    </message>
-    <message>
-        <source>Erledigt: %1 von %2 Zeilen; offen: %3.</source>
-        <translation>Færdige: %1 af %2 linjer; åbne: %3.</translation>
     </message>
     <message>
         <source>Stand der Zeilen</source>
@@ -3267,6 +3348,10 @@ Linje: %2
         <source>Beurteilte Zeilen</source>
         <translation>Bedømte linjer</translation>
     </message>
+    <message>
+        <source>Erledigte Zeilen: %1 von %2; offen: %3.</source>
+        <translation>Færdige linjer: %1 af %2; åbne: %3.</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3345,10 +3430,10 @@ Linje: %2
         <translation>Tabellerne er ikke sammenlignet endnu</translation>
     </message>
     <message numerus="yes">
-        <source>Von vorn: %n Zeile(n) offen</source>
+        <source>Von vorn: %Ln Zeile(n) offen</source>
         <translation>
-            <numerusform>Forfra: %n linje åben</numerusform>
-            <numerusform>Forfra: %n linjer åbne</numerusform>
+            <numerusform>Forfra: %Ln linje åben</numerusform>
+            <numerusform>Forfra: %Ln linjer åbne</numerusform>
         </translation>
     </message>
     <message>
@@ -3372,17 +3457,17 @@ Linje: %2
         <translation>Intet mønster er valgt, eller alle dets linjer er besluttet</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n linje</numerusform>
-            <numerusform>%n linjer</numerusform>
+            <numerusform>%Ln linje</numerusform>
+            <numerusform>%Ln linjer</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en) bestätigen?</source>
+        <source>in %Ln Projekt(en) bestätigen?</source>
         <translation>
-            <numerusform>bekræft i %n projekt?</numerusform>
-            <numerusform>bekræft i %n projekter?</numerusform>
+            <numerusform>bekræft i %Ln projekt?</numerusform>
+            <numerusform>bekræft i %Ln projekter?</numerusform>
         </translation>
     </message>
     <message>
@@ -3394,10 +3479,10 @@ Linje: %2
         <translation>&amp;Bekræft</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n linje bekræftet</numerusform>
-            <numerusform>%n linjer bekræftet</numerusform>
+            <numerusform>%Ln linje bekræftet</numerusform>
+            <numerusform>%Ln linjer bekræftet</numerusform>
         </translation>
     </message>
     <message>
@@ -3419,10 +3504,6 @@ Linje: %2
     <message>
         <source>Stichprobe</source>
         <translation>Stikprøve</translation>
-    </message>
-    <message>
-        <source>So viele von %1 Zeilen werden gezogen und einzeln beurteilt. %2 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %3 richtige weniger als 1 %.</source>
-        <translation>Så mange af %1 linjer udtrækkes og bedømmes enkeltvis. %2 rigtige siger med 95 % sikkerhed, at færre end 5 % er forkerte, %3 rigtige færre end 1 %.</translation>
     </message>
     <message>
         <source>&amp;Ziehen</source>
@@ -3481,10 +3562,10 @@ Linje: %2
         <translation>Se &amp;den forkerte linje</translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind unsicher.</source>
+        <source>%Ln davon ist/sind unsicher.</source>
         <translation>
-            <numerusform>%n af dem er usikker.</numerusform>
-            <numerusform>%n af dem er usikre.</numerusform>
+            <numerusform>%Ln af dem er usikker.</numerusform>
+            <numerusform>%Ln af dem er usikre.</numerusform>
         </translation>
     </message>
     <message>
@@ -3492,22 +3573,29 @@ Linje: %2
         <translation>Alle mønstre er færdige</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>i %n projekt</numerusform>
-            <numerusform>i %n projekter</numerusform>
+            <numerusform>i %Ln projekt</numerusform>
+            <numerusform>i %Ln projekter</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n linje bekræftet som udgået</numerusform>
-            <numerusform>%n linjer bekræftet som udgået</numerusform>
+            <numerusform>%Ln linje bekræftet som udgået</numerusform>
+            <numerusform>%Ln linjer bekræftet som udgået</numerusform>
         </translation>
     </message>
     <message>
         <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
         <translation>Linje %1 i %2 er forkert. Mængden er delt; hvilken del skal der fortsættes med?</translation>
+    </message>
+    <message numerus="yes">
+        <source>So viele von %Ln Zeile(n) werden gezogen und einzeln beurteilt. %1 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %2 richtige weniger als 1 %.</source>
+        <translation>
+            <numerusform>Så mange af %Ln linje udtrækkes og bedømmes enkeltvis. %1 rigtige siger med 95 % sikkerhed, at færre end 5 % er forkerte, %2 rigtige færre end 1 %.</numerusform>
+            <numerusform>Så mange af %Ln linjer udtrækkes og bedømmes enkeltvis. %1 rigtige siger med 95 % sikkerhed, at færre end 5 % er forkerte, %2 rigtige færre end 1 %.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3665,16 +3753,22 @@ Linje: %2
         <translation>Efter den senest afsluttede session er journalen %1 ikke læsbar. Hvad der stod der, vides ikke; journalen beholdes.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passen noch %2 Änderungen, %3 passen nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
-        <translation>Journalen %1 er beskadiget. Efter skaden passer %2 ændringer endnu, %3 passer ikke længere; flere kan mangle. Journalen beholdes.</translation>
-    </message>
-    <message>
         <source>Das Ende des Journals %1 ist nicht lesbar. Die letzte Änderung kann fehlen.</source>
         <translation>Slutningen af journalen %1 er ikke læsbar. Den seneste ændring kan mangle.</translation>
     </message>
-    <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
-        <translation>Journalen %1 er beskadiget eller passer ikke til mappingfilen. Mindst %2 senere ændringer mangler; journalen beholdes.</translation>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passt/passen noch %Ln Änderung(en), %2 nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>Journalen %1 er beskadiget. Efter skaden passer %Ln ændring endnu, %2 passer ikke længere; flere kan mangle. Journalen beholdes.</numerusform>
+            <numerusform>Journalen %1 er beskadiget. Efter skaden passer %Ln ændringer endnu, %2 passer ikke længere; flere kan mangle. Journalen beholdes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %Ln spätere Änderung(en) fehlt/fehlen; das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>Journalen %1 er beskadiget eller passer ikke til mappingfilen. Mindst %Ln senere ændring mangler; journalen beholdes.</numerusform>
+            <numerusform>Journalen %1 er beskadiget eller passer ikke til mappingfilen. Mindst %Ln senere ændringer mangler; journalen beholdes.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3926,11 +4020,6 @@ Linje: %2
         <translation>Alt besluttet</translation>
     </message>
     <message>
-        <source>Offen: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Åbne: &lt;a href=&quot;next&quot;&gt;%1 linjer&lt;/a&gt; i %2 projekter</translation>
-    </message>
-    <message>
         <source>Zeilen, die noch eine Entscheidung brauchen</source>
         <translation>Linjer, der endnu kræver en beslutning</translation>
     </message>
@@ -3943,13 +4032,31 @@ Linje: %2
         <translation>Filter: ingen linje</translation>
     </message>
     <message>
-        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Filter: &lt;a href=&quot;next&quot;&gt;%1 linjer&lt;/a&gt; i %2 projekter</translation>
-    </message>
-    <message>
         <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
         <translation>Linjer, som filteret over alle linjer viser</translation>
+    </message>
+    <message numerus="yes">
+        <source>&lt;a href=&quot;next&quot;&gt;%Ln Zeile(n)&lt;/a&gt;</source>
+        <translation>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln linje&lt;/a&gt;</numerusform>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln linjer&lt;/a&gt;</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Offen: %1</source>
+        <translation>Åbne: %1</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>Filter: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <extracomment>&quot;12 lines in 3 projects&quot;</extracomment>
+        <translation>
+            <numerusform>%1 i %Ln projekt</numerusform>
+            <numerusform>%1 i %Ln projekter</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3998,10 +4105,10 @@ Linje: %2
         <translation>Lu&amp;k</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <source>Mit %Ln abhängigen &amp;zurücknehmen</source>
         <translation>
-            <numerusform>&amp;Tag tilbage med afhængige (%n)</numerusform>
-            <numerusform>&amp;Tag tilbage med afhængige (%n)</numerusform>
+            <numerusform>&amp;Tag tilbage med afhængige (%Ln)</numerusform>
+            <numerusform>&amp;Tag tilbage med afhængige (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -4009,10 +4116,10 @@ Linje: %2
         <translation>&amp;Tag kun dette tilbage</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <source>Mit %Ln früheren &amp;wieder ausführen</source>
         <translation>
-            <numerusform>&amp;Udfør igen med tidligere (%n)</numerusform>
-            <numerusform>&amp;Udfør igen med tidligere (%n)</numerusform>
+            <numerusform>&amp;Udfør igen med tidligere (%Ln)</numerusform>
+            <numerusform>&amp;Udfør igen med tidligere (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -4048,20 +4155,20 @@ Linje: %2
         <translation>Der står nu noget andet, som intet trin på listen har besluttet, fx fra et andet program. Trinnet kan ikke længere flyttes.</translation>
     </message>
     <message numerus="yes">
-        <source>und %n weitere</source>
+        <source>und %Ln weitere</source>
         <translation>
-            <numerusform>og %n mere</numerusform>
-            <numerusform>og %n mere</numerusform>
+            <numerusform>og %Ln mere</numerusform>
+            <numerusform>og %Ln mere</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepListModel</name>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1 i %n projekt</numerusform>
-            <numerusform>%1 i %n projekter</numerusform>
+            <numerusform>%1 i %Ln projekt</numerusform>
+            <numerusform>%1 i %Ln projekter</numerusform>
         </translation>
     </message>
     <message>
@@ -4104,10 +4211,10 @@ Linje: %2
         <translation>Ændringen i %1 virker først, når linjerne tildeles igen. Da bevares kun det, der er bekræftet.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
+        <source>%Ln Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
         <translation>
-            <numerusform>%n linje i %1 var bekræftet som udgået og er det ikke længere: %2</numerusform>
-            <numerusform>%n linjer i %1 var bekræftet som udgået og er det ikke længere: %2</numerusform>
+            <numerusform>%Ln linje i %1 var bekræftet som udgået og er det ikke længere: %2</numerusform>
+            <numerusform>%Ln linjer i %1 var bekræftet som udgået og er det ikke længere: %2</numerusform>
         </translation>
     </message>
     <message>
@@ -4123,76 +4230,76 @@ Linje: %2
         <translation>En variabeltilknytning for målprojektet %1 i %2 er bortfaldet.</translation>
     </message>
     <message numerus="yes">
-        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %n andere Zeile(n): %4</source>
+        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %Ln andere Zeile(n): %4</source>
         <translation>
-            <numerusform>Linje %1 → %2 i %3: også %n anden linje har mållinjen: %4</numerusform>
-            <numerusform>Linje %1 → %2 i %3: også %n andre linjer har mållinjen: %4</numerusform>
+            <numerusform>Linje %1 → %2 i %3: også %Ln anden linje har mållinjen: %4</numerusform>
+            <numerusform>Linje %1 → %2 i %3: også %Ln andre linjer har mållinjen: %4</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
+        <source>%Ln Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
         <translation>
-            <numerusform>%n linje i %1 deler sin mållinje med nytildelte: %2</numerusform>
-            <numerusform>%n linjer i %1 deler deres mållinje med nytildelte: %2</numerusform>
+            <numerusform>%Ln linje i %1 deler sin mållinje med nytildelte: %2</numerusform>
+            <numerusform>%Ln linjer i %1 deler deres mållinje med nytildelte: %2</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepSummary</name>
     <message numerus="yes">
-        <source>%n Konflikt(e) angenommen</source>
+        <source>%Ln Konflikt(e) angenommen</source>
         <translation>
-            <numerusform>%n konflikt accepteret</numerusform>
-            <numerusform>%n konflikter accepteret</numerusform>
+            <numerusform>%Ln konflikt accepteret</numerusform>
+            <numerusform>%Ln konflikter accepteret</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n linje bekræftet</numerusform>
-            <numerusform>%n linjer bekræftet</numerusform>
+            <numerusform>%Ln linje bekræftet</numerusform>
+            <numerusform>%Ln linjer bekræftet</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n linje bekræftet som udgået</numerusform>
-            <numerusform>%n linjer bekræftet som udgået</numerusform>
+            <numerusform>%Ln linje bekræftet som udgået</numerusform>
+            <numerusform>%Ln linjer bekræftet som udgået</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) zugeordnet</source>
+        <source>%Ln Zeile(n) zugeordnet</source>
         <translation>
-            <numerusform>%n linje tildelt</numerusform>
-            <numerusform>%n linjer tildelt</numerusform>
+            <numerusform>%Ln linje tildelt</numerusform>
+            <numerusform>%Ln linjer tildelt</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben</source>
         <translation>
-            <numerusform>tildelingen af %n linje ophævet</numerusform>
-            <numerusform>tildelingen af %n linjer ophævet</numerusform>
+            <numerusform>tildelingen af %Ln linje ophævet</numerusform>
+            <numerusform>tildelingen af %Ln linjer ophævet</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Wertebereichszuordnung von %n Zeile(n) geändert</source>
+        <source>Wertebereichszuordnung von %Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>tildelingen af værdiområder for %n linje ændret</numerusform>
-            <numerusform>tildelingen af værdiområder for %n linjer ændret</numerusform>
+            <numerusform>tildelingen af værdiområder for %Ln linje ændret</numerusform>
+            <numerusform>tildelingen af værdiområder for %Ln linjer ændret</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Konflikt von %n Zeile(n) gelöst</source>
+        <source>Konflikt von %Ln Zeile(n) gelöst</source>
         <translation>
-            <numerusform>konflikten for %n linje løst</numerusform>
-            <numerusform>konflikten for %n linjer løst</numerusform>
+            <numerusform>konflikten for %Ln linje løst</numerusform>
+            <numerusform>konflikten for %Ln linjer løst</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) geändert</source>
+        <source>%Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>%n linje ændret</numerusform>
-            <numerusform>%n linjer ændret</numerusform>
+            <numerusform>%Ln linje ændret</numerusform>
+            <numerusform>%Ln linjer ændret</numerusform>
         </translation>
     </message>
     <message>
@@ -4260,10 +4367,10 @@ Linje: %2
         <translation>%1 i %2</translation>
     </message>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1 i %n projekt</numerusform>
-            <numerusform>%1 i %n projekter</numerusform>
+            <numerusform>%1 i %Ln projekt</numerusform>
+            <numerusform>%1 i %Ln projekter</numerusform>
         </translation>
     </message>
 </context>
@@ -4309,10 +4416,10 @@ Linje: %2
         <translation>Tildelinger af værdiområder kontrolleres</translation>
     </message>
     <message numerus="yes">
-        <source>%n Wertebereichszuordnung(en) geprüft</source>
+        <source>%Ln Wertebereichszuordnung(en) geprüft</source>
         <translation>
-            <numerusform>%n tildeling af værdiområder kontrolleret</numerusform>
-            <numerusform>%n tildelinger af værdiområder kontrolleret</numerusform>
+            <numerusform>%Ln tildeling af værdiområder kontrolleret</numerusform>
+            <numerusform>%Ln tildelinger af værdiområder kontrolleret</numerusform>
         </translation>
     </message>
     <message>
@@ -4320,10 +4427,10 @@ Linje: %2
         <translation>ingen bemærkninger</translation>
     </message>
     <message numerus="yes">
-        <source>%n Beanstandung(en)</source>
+        <source>%Ln Beanstandung(en)</source>
         <translation>
-            <numerusform>%n bemærkning</numerusform>
-            <numerusform>%n bemærkninger</numerusform>
+            <numerusform>%Ln bemærkning</numerusform>
+            <numerusform>%Ln bemærkninger</numerusform>
         </translation>
     </message>
     <message>

@@ -8,101 +8,101 @@
         <translation>There is nothing to change.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigen?</source>
+        <source>%Ln Zeile(n) bestätigen?</source>
         <translation>
-            <numerusform>Confirm %n line?</numerusform>
-            <numerusform>Confirm %n lines?</numerusform>
+            <numerusform>Confirm %Ln line?</numerusform>
+            <numerusform>Confirm %Ln lines?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigen?</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Confirm that %n line is discontinued?</numerusform>
-            <numerusform>Confirm that %n lines are discontinued?</numerusform>
+            <numerusform>Confirm that %Ln line is discontinued?</numerusform>
+            <numerusform>Confirm that %Ln lines are discontinued?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben?</source>
         <translation>
-            <numerusform>Remove the assignment of %n line?</numerusform>
-            <numerusform>Remove the assignment of %n lines?</numerusform>
+            <numerusform>Remove the assignment of %Ln line?</numerusform>
+            <numerusform>Remove the assignment of %Ln lines?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Remove the assignment of %n line and confirm that it is discontinued?</numerusform>
-            <numerusform>Remove the assignment of %n lines and confirm that they are discontinued?</numerusform>
+            <numerusform>Remove the assignment of %Ln line and confirm that it is discontinued?</numerusform>
+            <numerusform>Remove the assignment of %Ln lines and confirm that they are discontinued?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind schon bestätigt.</source>
+        <source>%Ln davon ist/sind schon bestätigt.</source>
         <translation>
-            <numerusform>%n of them is confirmed already.</numerusform>
-            <numerusform>%n of them are confirmed already.</numerusform>
+            <numerusform>%Ln of them is confirmed already.</numerusform>
+            <numerusform>%Ln of them are confirmed already.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon verliert/verlieren ihre Wertebereichszuordnung.</source>
+        <source>%Ln davon verliert/verlieren ihre Wertebereichszuordnung.</source>
         <translation>
-            <numerusform>%n of them loses its value range assignment.</numerusform>
-            <numerusform>%n of them lose their value range assignments.</numerusform>
+            <numerusform>%Ln of them loses its value range assignment.</numerusform>
+            <numerusform>%Ln of them lose their value range assignments.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
+        <source>%Ln Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
         <translation>
-            <numerusform>%n line without a target stays unconfirmed.</numerusform>
-            <numerusform>%n lines without a target stay unconfirmed.</numerusform>
+            <numerusform>%Ln line without a target stays unconfirmed.</numerusform>
+            <numerusform>%Ln lines without a target stay unconfirmed.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
+        <source>%Ln Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
         <translation>
-            <numerusform>%n line stays as it is.</numerusform>
-            <numerusform>%n lines stay as they are.</numerusform>
+            <numerusform>%Ln line stays as it is.</numerusform>
+            <numerusform>%Ln lines stay as they are.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
+        <source>%Ln Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
         <translation>
-            <numerusform>%n line in conflict is not changed.</numerusform>
-            <numerusform>%n lines in conflict are not changed.</numerusform>
+            <numerusform>%Ln line in conflict is not changed.</numerusform>
+            <numerusform>%Ln lines in conflict are not changed.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
+        <source>%Ln Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
         <translation>
-            <numerusform>%n line is in no target project.</numerusform>
-            <numerusform>%n lines are in no target project.</numerusform>
+            <numerusform>%Ln line is in no target project.</numerusform>
+            <numerusform>%Ln lines are in no target project.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt.</source>
+        <source>%Ln Zeile(n) bestätigt.</source>
         <translation>
-            <numerusform>%n line confirmed.</numerusform>
-            <numerusform>%n lines confirmed.</numerusform>
+            <numerusform>%Ln line confirmed.</numerusform>
+            <numerusform>%Ln lines confirmed.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt.</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>%n line confirmed to be discontinued.</numerusform>
-            <numerusform>%n lines confirmed to be discontinued.</numerusform>
+            <numerusform>%Ln line confirmed to be discontinued.</numerusform>
+            <numerusform>%Ln lines confirmed to be discontinued.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben.</source>
         <translation>
-            <numerusform>Assignment of %n line removed.</numerusform>
-            <numerusform>Assignment of %n lines removed.</numerusform>
+            <numerusform>Assignment of %Ln line removed.</numerusform>
+            <numerusform>Assignment of %Ln lines removed.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>Assignment of %n line removed, confirmed to be discontinued.</numerusform>
-            <numerusform>Assignment of %n lines removed, confirmed to be discontinued.</numerusform>
+            <numerusform>Assignment of %Ln line removed, confirmed to be discontinued.</numerusform>
+            <numerusform>Assignment of %Ln lines removed, confirmed to be discontinued.</numerusform>
         </translation>
     </message>
 </context>
@@ -160,10 +160,6 @@
         <translation>There is nothing to take over from %1.</translation>
     </message>
     <message>
-        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
-        <translation>Taken over from %1: %2 of %3 confirmed lines, %4 assigned with certainty, %5 proposed.</translation>
-    </message>
-    <message>
         <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
         <translation>The file has no mapping from release %1.</translation>
     </message>
@@ -206,6 +202,13 @@
     <message>
         <source>Entscheidungen aus %1 übernommen: %2</source>
         <translation>Decisions taken over from %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Aus %1 übernommen: %2 von %Ln bestätigten Zeile(n), %3 sicher zugeordnet, %4 vorgeschlagen.</source>
+        <translation>
+            <numerusform>Taken over from %1: %2 of %Ln confirmed line, %3 assigned with certainty, %4 proposed.</numerusform>
+            <numerusform>Taken over from %1: %2 of %Ln confirmed lines, %3 assigned with certainty, %4 proposed.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -270,10 +273,10 @@
         <translation>Conflict %1 of %2, %3 still open</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
+        <source>%Ln Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
         <translation>
-            <numerusform>%n line of %1 clashes in the same way. Does the decision hold for all?</numerusform>
-            <numerusform>%n lines of %1 clash in the same way. Does the decision hold for all?</numerusform>
+            <numerusform>%Ln line of %1 clashes in the same way. Does the decision hold for all?</numerusform>
+            <numerusform>%Ln lines of %1 clash in the same way. Does the decision hold for all?</numerusform>
         </translation>
     </message>
     <message>
@@ -309,15 +312,11 @@ Theirs: %2</translation>
         <source>Alle Konflikte sind entschieden.</source>
         <translation>All conflicts are settled.</translation>
     </message>
-    <message>
-        <source>%1 von %2 Konflikten sind noch offen.</source>
-        <translation>%1 of %2 conflicts are still open.</translation>
-    </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) widersprechen sich wie diese.</source>
+        <source>%Ln weitere Zeile(n) widersprechen sich wie diese.</source>
         <translation>
-            <numerusform>%n more line clashes like this one.</numerusform>
-            <numerusform>%n more lines clash like this one.</numerusform>
+            <numerusform>%Ln more line clashes like this one.</numerusform>
+            <numerusform>%Ln more lines clash like this one.</numerusform>
         </translation>
     </message>
     <message>
@@ -339,6 +338,13 @@ Theirs: %2</translation>
     <message>
         <source>Neu entscheiden</source>
         <translation>Decide again</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Konflikt(en) noch offen.</source>
+        <translation>
+            <numerusform>%1 of %Ln conflict still open.</numerusform>
+            <numerusform>%1 of %Ln conflicts still open.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -457,10 +463,10 @@ Theirs: %2</translation>
         <translation>equal</translation>
     </message>
     <message numerus="yes">
-        <source>ersetzt wie in %n weiteren Zeile(n)</source>
+        <source>ersetzt wie in %Ln weiteren Zeile(n)</source>
         <translation>
-            <numerusform>replaced as in %n other line</numerusform>
-            <numerusform>replaced as in %n other lines</numerusform>
+            <numerusform>replaced as in %Ln other line</numerusform>
+            <numerusform>replaced as in %Ln other lines</numerusform>
         </translation>
     </message>
     <message>
@@ -523,10 +529,10 @@ Theirs: %2</translation>
         <translation>Assigned with certainty.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n line</numerusform>
-            <numerusform>%n lines</numerusform>
+            <numerusform>%Ln line</numerusform>
+            <numerusform>%Ln lines</numerusform>
         </translation>
     </message>
     <message>
@@ -621,10 +627,6 @@ Theirs: %2</translation>
         <translation>Changes that are discarded are lost.</translation>
     </message>
     <message>
-        <source>und %1 weitere</source>
-        <translation>and %1 more</translation>
-    </message>
-    <message>
         <source>Änderungen an %1 speichern?</source>
         <translation>Save the changes to %1?</translation>
     </message>
@@ -649,22 +651,29 @@ Theirs: %2</translation>
         <translation>The changes of the others could not be taken over.</translation>
     </message>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n line</numerusform>
-            <numerusform>%1: %n lines</numerusform>
+            <numerusform>%1: %Ln line</numerusform>
+            <numerusform>%1: %Ln lines</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Noch %n Zeile(n) in Konflikt, in diesen Projekten:</source>
+        <source>Noch %Ln Zeile(n) in Konflikt, in diesen Projekten:</source>
         <translation>
-            <numerusform>Still %n line in conflict, in these projects:</numerusform>
-            <numerusform>Still %n lines in conflict, in these projects:</numerusform>
+            <numerusform>Still %Ln line in conflict, in these projects:</numerusform>
+            <numerusform>Still %Ln lines in conflict, in these projects:</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Konflikte zeigen</source>
         <translation>Show &amp;conflicts</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>and %Ln more</numerusform>
+            <numerusform>and %Ln more</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -728,6 +737,15 @@ Please choose another file.</translation>
     <message>
         <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte einen anderen Ordner wählen.</source>
         <translation>Nothing can be created in the folder of %1 (%2). Nothing was written. Please choose another folder.</translation>
+    </message>
+</context>
+<context>
+    <name>EditorArea</name>
+    <message>
+        <source>Keine Zeile dieses Projekts ist im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Zeilen zu sehen.</source>
+        <translation>No line of this project is in the filter.
+Open “%1” and choose “%2” to see all lines again.</translation>
     </message>
 </context>
 <context>
@@ -855,17 +873,17 @@ Please choose another file.</translation>
         <translation>Reading the tables...</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n line</numerusform>
-            <numerusform>%n lines</numerusform>
+            <numerusform>%Ln line</numerusform>
+            <numerusform>%Ln lines</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>in %n project</numerusform>
-            <numerusform>in %n projects</numerusform>
+            <numerusform>in %Ln project</numerusform>
+            <numerusform>in %Ln projects</numerusform>
         </translation>
     </message>
     <message>
@@ -873,10 +891,10 @@ Please choose another file.</translation>
         <translation>No filter: all lines</translation>
     </message>
     <message numerus="yes">
-        <source>%n Tabelle(n) nicht lesbar</source>
+        <source>%Ln Tabelle(n) nicht lesbar</source>
         <translation>
-            <numerusform>%n table cannot be read</numerusform>
-            <numerusform>%n tables cannot be read</numerusform>
+            <numerusform>%Ln table cannot be read</numerusform>
+            <numerusform>%Ln tables cannot be read</numerusform>
         </translation>
     </message>
     <message>
@@ -1017,10 +1035,10 @@ Please choose another file.</translation>
         <translation>Reason for the &amp;decision...</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1</source>
+        <source>%Ln Zeile(n) in %1</source>
         <translation>
-            <numerusform>%n line in %1</numerusform>
-            <numerusform>%n lines in %1</numerusform>
+            <numerusform>%Ln line in %1</numerusform>
+            <numerusform>%Ln lines in %1</numerusform>
         </translation>
     </message>
     <message>
@@ -1393,10 +1411,10 @@ Please choose another file.</translation>
         <translation>Hit %1 of %2</translation>
     </message>
     <message numerus="yes">
-        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.</source>
+        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %Ln Zeile(n) offen.</source>
         <translation>
-            <numerusform>Done within this filter, %n more line is open outside.</numerusform>
-            <numerusform>Done within this filter, %n more lines are open outside.</numerusform>
+            <numerusform>Done within this filter, %Ln more line is open outside.</numerusform>
+            <numerusform>Done within this filter, %Ln more lines are open outside.</numerusform>
         </translation>
     </message>
     <message>
@@ -1414,10 +1432,6 @@ Please choose another file.</translation>
     <message>
         <source>Gemeint sind alle Zeilen des Projekts.</source>
         <translation>All lines of the project are meant.</translation>
-    </message>
-    <message>
-        <source>Gemeint sind die %1 gezeigten von %2 Zeilen des Projekts.</source>
-        <translation>The %1 lines shown of the project&apos;s %2 are meant.</translation>
     </message>
     <message>
         <source>Filter: %1.</source>
@@ -1438,6 +1452,10 @@ Please choose another file.</translation>
     <message>
         <source>Kein anderes Projekt hat solche Zeilen</source>
         <translation>No other project has such lines</translation>
+    </message>
+    <message>
+        <source>Gemeint sind nur die gezeigten Zeilen des Projekts: %1 von %2.</source>
+        <translation>Only the project&apos;s shown lines are meant: %1 of %2.</translation>
     </message>
 </context>
 <context>
@@ -1670,10 +1688,6 @@ Please choose another file.</translation>
         <translation>&amp;Close</translation>
     </message>
     <message>
-        <source>Die ersten %1 Links; die Suche zeigt andere.</source>
-        <translation>The first %1 links; search for others.</translation>
-    </message>
-    <message>
         <source>Links: %1</source>
         <translation>Links: %1</translation>
     </message>
@@ -1692,6 +1706,13 @@ Please choose another file.</translation>
     <message>
         <source>&amp;Wiederherstellen</source>
         <translation>&amp;Restore</translation>
+    </message>
+    <message numerus="yes">
+        <source>Die ersten %Ln Link(s); die Suche zeigt andere.</source>
+        <translation>
+            <numerusform>The first %Ln link; search for others.</numerusform>
+            <numerusform>The first %Ln links; search for others.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1814,15 +1835,18 @@ Please choose another file.</translation>
         <source>Nichts gefunden</source>
         <translation>Nothing found</translation>
     </message>
-    <message>
-        <source>Die ersten %1 von %2 Treffern</source>
-        <translation>The first %1 of %2 hits</translation>
+    <message numerus="yes">
+        <source>%Ln Treffer</source>
+        <translation>
+            <numerusform>%Ln hit</numerusform>
+            <numerusform>%Ln hits</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
-        <source>%n Treffer</source>
+        <source>Die ersten %1 von %Ln Treffer(n)</source>
         <translation>
-            <numerusform>%n hit</numerusform>
-            <numerusform>%n hits</numerusform>
+            <numerusform>The first %1 of %Ln hit</numerusform>
+            <numerusform>The first %1 of %Ln hits</numerusform>
         </translation>
     </message>
 </context>
@@ -2097,24 +2121,24 @@ Please choose another file.</translation>
         <translation>Own changes on top of the file</translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): eigene Entscheidung</source>
+        <source>%Ln Konflikt(e): eigene Entscheidung</source>
         <translation>
-            <numerusform>%n conflict: own decision</numerusform>
-            <numerusform>%n conflicts: own decision</numerusform>
+            <numerusform>%Ln conflict: own decision</numerusform>
+            <numerusform>%Ln conflicts: own decision</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): Entscheidung der anderen Seite</source>
+        <source>%Ln Konflikt(e): Entscheidung der anderen Seite</source>
         <translation>
-            <numerusform>%n conflict: the other side&apos;s decision</numerusform>
-            <numerusform>%n conflicts: the other side&apos;s decision</numerusform>
+            <numerusform>%Ln conflict: the other side&apos;s decision</numerusform>
+            <numerusform>%Ln conflicts: the other side&apos;s decision</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): neu zu entscheiden</source>
+        <source>%Ln Konflikt(e): neu zu entscheiden</source>
         <translation>
-            <numerusform>%n conflict: to be decided again</numerusform>
-            <numerusform>%n conflicts: to be decided again</numerusform>
+            <numerusform>%Ln conflict: to be decided again</numerusform>
+            <numerusform>%Ln conflicts: to be decided again</numerusform>
         </translation>
     </message>
     <message>
@@ -2125,20 +2149,8 @@ Please choose another file.</translation>
 <context>
     <name>MappingMaker</name>
     <message>
-        <source>%1 Projekte: %2 am selben Ort, %3 an anderem, %4 aufgeteilt, %5 ohne Ziel, %6 unlesbar</source>
-        <translation>%1 projects: %2 in the same place, %3 elsewhere, %4 split, %5 without target, %6 unreadable</translation>
-    </message>
-    <message>
-        <source>%1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>%1 of %2 projects with %3 lines, of these %4 mapped, %5 to check, %6 without target</translation>
-    </message>
-    <message>
         <source>Abgebrochen, es wurde nichts angelegt</source>
         <translation>Cancelled, nothing was made</translation>
-    </message>
-    <message>
-        <source>Abgebrochen: %1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>Cancelled: %1 of %2 projects with %3 lines, of these %4 mapped, %5 to check, %6 without target</translation>
     </message>
     <message>
         <source>Zeilen werden zugeordnet</source>
@@ -2148,35 +2160,64 @@ Please choose another file.</translation>
         <source>Zielprojekte werden gesucht</source>
         <translation>Looking for target projects</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln Projekt(e): %1 am selben Ort, %2 an anderem, %3 aufgeteilt, %4 ohne Ziel, %5 unlesbar</source>
+        <translation>
+            <numerusform>%Ln project: %1 in the same place, %2 elsewhere, %3 split, %4 without target, %5 unreadable</numerusform>
+            <numerusform>%Ln projects: %1 in the same place, %2 elsewhere, %3 split, %4 without target, %5 unreadable</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 of %Ln project</numerusform>
+            <numerusform>%1 of %Ln projects</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>davon %1 zugeordnet, %2 zu prüfen, %3 ohne Ziel</source>
+        <translation>of these %1 mapped, %2 to check, %3 without target</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>Cancelled: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 with %Ln line</numerusform>
+            <numerusform>%1 with %Ln lines</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>MergeState</name>
     <message numerus="yes">
-        <source>%n Änderung(en) übernommen.</source>
+        <source>%Ln Änderung(en) übernommen.</source>
         <translation>
-            <numerusform>%n change was taken over.</numerusform>
-            <numerusform>%n changes were taken over.</numerusform>
+            <numerusform>%Ln change was taken over.</numerusform>
+            <numerusform>%Ln changes were taken over.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) haben beide gleich entschieden.</source>
+        <source>%Ln Zeile(n) haben beide gleich entschieden.</source>
         <translation>
-            <numerusform>%n line was decided alike by both.</numerusform>
-            <numerusform>%n lines were decided alike by both.</numerusform>
+            <numerusform>%Ln line was decided alike by both.</numerusform>
+            <numerusform>%Ln lines were decided alike by both.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
+        <source>%Ln Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
         <translation>
-            <numerusform>%n line was decided differently and is marked as a conflict.</numerusform>
-            <numerusform>%n lines were decided differently and are marked as conflicts.</numerusform>
+            <numerusform>%Ln line was decided differently and is marked as a conflict.</numerusform>
+            <numerusform>%Ln lines were decided differently and are marked as conflicts.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
+        <source>%Ln andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
         <translation>
-            <numerusform>%n other contradiction: the file counts.</numerusform>
-            <numerusform>%n other contradictions: the file counts.</numerusform>
+            <numerusform>%Ln other contradiction: the file counts.</numerusform>
+            <numerusform>%Ln other contradictions: the file counts.</numerusform>
         </translation>
     </message>
 </context>
@@ -2202,17 +2243,17 @@ Please choose another file.</translation>
         <translation>The tables are being compared</translation>
     </message>
     <message numerus="yes">
-        <source>%n zugeordnete Zeile(n) angesehen</source>
+        <source>%Ln zugeordnete Zeile(n) angesehen</source>
         <translation>
-            <numerusform>%n assigned line looked at</numerusform>
-            <numerusform>%n assigned lines looked at</numerusform>
+            <numerusform>%Ln assigned line looked at</numerusform>
+            <numerusform>%Ln assigned lines looked at</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Fundstelle(n)</source>
+        <source>%Ln Fundstelle(n)</source>
         <translation>
-            <numerusform>%n finding</numerusform>
-            <numerusform>%n findings</numerusform>
+            <numerusform>%Ln finding</numerusform>
+            <numerusform>%Ln findings</numerusform>
         </translation>
     </message>
     <message>
@@ -2437,43 +2478,39 @@ Please choose another file.</translation>
 </context>
 <context>
     <name>PatternDock</name>
-    <message>
-        <source>Die Tabellen werden verglichen: %1 Projekte gelesen</source>
-        <translation>The tables are being compared: %1 projects read</translation>
-    </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) mit Vorschlag</source>
+        <source>%Ln offene Zeile(n) mit Vorschlag</source>
         <translation>
-            <numerusform>%n open line with a proposal</numerusform>
-            <numerusform>%n open lines with a proposal</numerusform>
+            <numerusform>%Ln open line with a proposal</numerusform>
+            <numerusform>%Ln open lines with a proposal</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Muster(n)</source>
+        <source>in %Ln Muster(n)</source>
         <translation>
-            <numerusform>in %n pattern</numerusform>
-            <numerusform>in %n patterns</numerusform>
+            <numerusform>in %Ln pattern</numerusform>
+            <numerusform>in %Ln patterns</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon wird/werden noch verglichen</source>
+        <source>%Ln davon wird/werden noch verglichen</source>
         <translation>
-            <numerusform>%n of them is still being compared</numerusform>
-            <numerusform>%n of them are still being compared</numerusform>
+            <numerusform>%Ln of them is still being compared</numerusform>
+            <numerusform>%Ln of them are still being compared</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Gewählt: %n Zeile(n)</source>
+        <source>Gewählt: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>Chosen: %n line</numerusform>
-            <numerusform>Chosen: %n lines</numerusform>
+            <numerusform>Chosen: %Ln line</numerusform>
+            <numerusform>Chosen: %Ln lines</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon herausgenommen</source>
+        <source>%Ln davon herausgenommen</source>
         <translation>
-            <numerusform>%n of them taken out</numerusform>
-            <numerusform>%n of them taken out</numerusform>
+            <numerusform>%Ln of them taken out</numerusform>
+            <numerusform>%Ln of them taken out</numerusform>
         </translation>
     </message>
     <message>
@@ -2481,41 +2518,48 @@ Please choose another file.</translation>
         <translation>Differences of the Open Lines</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>in %n project</numerusform>
-            <numerusform>in %n projects</numerusform>
+            <numerusform>in %Ln project</numerusform>
+            <numerusform>in %Ln projects</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <source>%Ln offene Zeile(n) ohne Nachfolger</source>
         <translation>
-            <numerusform>%n open line without successor</numerusform>
-            <numerusform>%n open lines without successor</numerusform>
+            <numerusform>%Ln open line without successor</numerusform>
+            <numerusform>%Ln open lines without successor</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Die Tabellen werden verglichen: %Ln Projekt(e) gelesen</source>
+        <translation>
+            <numerusform>The tables are being compared: %Ln project read</numerusform>
+            <numerusform>The tables are being compared: %Ln projects read</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>PatternModel</name>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n line</numerusform>
-            <numerusform>%n lines</numerusform>
+            <numerusform>%Ln line</numerusform>
+            <numerusform>%Ln lines</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Projekt(e)</source>
+        <source>%Ln Projekt(e)</source>
         <translation>
-            <numerusform>%n project</numerusform>
-            <numerusform>%n projects</numerusform>
+            <numerusform>%Ln project</numerusform>
+            <numerusform>%Ln projects</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) haben diese und andere Unterschiede</source>
+        <source>%Ln weitere Zeile(n) haben diese und andere Unterschiede</source>
         <translation>
-            <numerusform>%n more line has these and other differences</numerusform>
-            <numerusform>%n more lines have these and other differences</numerusform>
+            <numerusform>%Ln more line has these and other differences</numerusform>
+            <numerusform>%Ln more lines have these and other differences</numerusform>
         </translation>
     </message>
     <message>
@@ -2742,10 +2786,10 @@ Line: %2
         <translation>Line %1: %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
+        <source>%Ln Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
         <translation>
-            <numerusform>%n line is confirmed although values of its range have no new line.</numerusform>
-            <numerusform>%n lines are confirmed although values of their ranges have no new line.</numerusform>
+            <numerusform>%Ln line is confirmed although values of its range have no new line.</numerusform>
+            <numerusform>%Ln lines are confirmed although values of their ranges have no new line.</numerusform>
         </translation>
     </message>
     <message>
@@ -2760,19 +2804,15 @@ Line: %2
 <context>
     <name>RangeDock</name>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n line</numerusform>
-            <numerusform>%1: %n lines</numerusform>
+            <numerusform>%1: %Ln line</numerusform>
+            <numerusform>%1: %Ln lines</numerusform>
         </translation>
     </message>
     <message>
         <source>Die Zeile hat keine Wertebereichszuordnung.</source>
         <translation>The line has no mapping of value ranges.</translation>
-    </message>
-    <message>
-        <source>%1: %2 von %3 Werten zugeordnet</source>
-        <translation>%1: %2 of %3 values assigned</translation>
     </message>
     <message>
         <source>fehlend: %1</source>
@@ -2789,6 +2829,13 @@ Line: %2
     <message>
         <source>Wertebereich der Zeile</source>
         <translation>Value range of the line</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 von %Ln Wert(en) zugeordnet</source>
+        <translation>
+            <numerusform>%1: %2 of %Ln value assigned</numerusform>
+            <numerusform>%1: %2 of %Ln values assigned</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2845,10 +2892,6 @@ Line: %2
         <translation>The saved version is younger than all that can be recovered.</translation>
     </message>
     <message>
-        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2 Schritte mit %3 Zeilen in %4 Projekten, zuletzt „%5“. Sie stammt von %6.</source>
-        <translation>There is work on %1 that was not saved: %2 steps with %3 lines in %4 projects, the last one “%5”. It is by %6.</translation>
-    </message>
-    <message>
         <source>Gespeichert</source>
         <translation>Saved</translation>
     </message>
@@ -2884,16 +2927,37 @@ Line: %2
         <source>Zu prüfen</source>
         <translation>To check</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln Schritt(e)</source>
+        <translation>
+            <numerusform>%Ln step</numerusform>
+            <numerusform>%Ln steps</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2, zuletzt „%3“. Sie stammt von %4.</source>
+        <translation>There is work on %1 that was not saved: %2, the last one “%3”. It is by %4.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 with %Ln line</numerusform>
+            <numerusform>%1 with %Ln lines</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 in %Ln project</numerusform>
+            <numerusform>%1 in %Ln projects</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ReleaseCommands</name>
     <message>
         <source>Tabellen werden importiert</source>
         <translation>Importing tables</translation>
-    </message>
-    <message>
-        <source>%1 Tabellen mit %2 Zeilen: %3 neu, %4 geändert, %5 unverändert, %6 nicht importiert</source>
-        <translation>%1 tables with %2 lines: %3 new, %4 changed, %5 unchanged, %6 not imported</translation>
     </message>
     <message>
         <source>%1 hat keine CSV-Datei mehr und bleibt, wie es ist</source>
@@ -2932,10 +2996,6 @@ Line: %2
         <translation>Cancelled, nothing was exported</translation>
     </message>
     <message>
-        <source>%1 Zeilen nach %2 exportiert</source>
-        <translation>%1 lines exported to %2</translation>
-    </message>
-    <message>
         <source>Bericht schreiben</source>
         <translation>Write report</translation>
     </message>
@@ -2966,6 +3026,31 @@ Line: %2
     <message>
         <source>Seite %1 von %2</source>
         <translation>Page %1 of %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Tabelle(n)</source>
+        <translation>
+            <numerusform>%Ln table</numerusform>
+            <numerusform>%Ln tables</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 neu, %2 geändert, %3 unverändert, %4 nicht importiert</source>
+        <translation>%1 new, %2 changed, %3 unchanged, %4 not imported</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Zeile(n) nach %1 exportiert</source>
+        <translation>
+            <numerusform>%Ln line exported to %1</numerusform>
+            <numerusform>%Ln lines exported to %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 with %Ln line</numerusform>
+            <numerusform>%1 with %Ln lines</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3011,17 +3096,17 @@ Line: %2
         <translation>The tables are being read</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dafür</source>
+        <source>%Ln Zeile(n) dafür</source>
         <translation>
-            <numerusform>%n line supports it</numerusform>
-            <numerusform>%n lines support it</numerusform>
+            <numerusform>%Ln line supports it</numerusform>
+            <numerusform>%Ln lines support it</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dagegen</source>
+        <source>%Ln Zeile(n) dagegen</source>
         <translation>
-            <numerusform>%n does not</numerusform>
-            <numerusform>%n do not</numerusform>
+            <numerusform>%Ln does not</numerusform>
+            <numerusform>%Ln do not</numerusform>
         </translation>
     </message>
 </context>
@@ -3038,10 +3123,6 @@ Line: %2
     <message>
         <source>Erstellt am %1</source>
         <translation>Made on %1</translation>
-    </message>
-    <message>
-        <source>Erledigt: %1 von %2 Zeilen; offen: %3.</source>
-        <translation>Settled: %1 of %2 lines; open: %3.</translation>
     </message>
     <message>
         <source>Stand der Zeilen</source>
@@ -3267,6 +3348,10 @@ Line: %2
         <source>Beurteilte Zeilen</source>
         <translation>Lines that were judged</translation>
     </message>
+    <message>
+        <source>Erledigte Zeilen: %1 von %2; offen: %3.</source>
+        <translation>Settled lines: %1 of %2; open: %3.</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3345,10 +3430,10 @@ Line: %2
         <translation>The tables are not compared yet</translation>
     </message>
     <message numerus="yes">
-        <source>Von vorn: %n Zeile(n) offen</source>
+        <source>Von vorn: %Ln Zeile(n) offen</source>
         <translation>
-            <numerusform>From the beginning: %n line open</numerusform>
-            <numerusform>From the beginning: %n lines open</numerusform>
+            <numerusform>From the beginning: %Ln line open</numerusform>
+            <numerusform>From the beginning: %Ln lines open</numerusform>
         </translation>
     </message>
     <message>
@@ -3372,17 +3457,17 @@ Line: %2
         <translation>No pattern is chosen, or all its lines are decided</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n line</numerusform>
-            <numerusform>%n lines</numerusform>
+            <numerusform>%Ln line</numerusform>
+            <numerusform>%Ln lines</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en) bestätigen?</source>
+        <source>in %Ln Projekt(en) bestätigen?</source>
         <translation>
-            <numerusform>in %n project to be confirmed?</numerusform>
-            <numerusform>in %n projects to be confirmed?</numerusform>
+            <numerusform>in %Ln project to be confirmed?</numerusform>
+            <numerusform>in %Ln projects to be confirmed?</numerusform>
         </translation>
     </message>
     <message>
@@ -3394,10 +3479,10 @@ Line: %2
         <translation>&amp;Confirm</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n line confirmed</numerusform>
-            <numerusform>%n lines confirmed</numerusform>
+            <numerusform>%Ln line confirmed</numerusform>
+            <numerusform>%Ln lines confirmed</numerusform>
         </translation>
     </message>
     <message>
@@ -3419,10 +3504,6 @@ Line: %2
     <message>
         <source>Stichprobe</source>
         <translation>Sample</translation>
-    </message>
-    <message>
-        <source>So viele von %1 Zeilen werden gezogen und einzeln beurteilt. %2 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %3 richtige weniger als 1 %.</source>
-        <translation>So many of %1 lines are drawn and judged one by one. %2 right ones say with 95 % certainty that fewer than 5 % are wrong, %3 right ones fewer than 1 %.</translation>
     </message>
     <message>
         <source>&amp;Ziehen</source>
@@ -3481,10 +3562,10 @@ Line: %2
         <translation>&amp;Look at the Wrong Line</translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind unsicher.</source>
+        <source>%Ln davon ist/sind unsicher.</source>
         <translation>
-            <numerusform>%n of them is in doubt.</numerusform>
-            <numerusform>%n of them are in doubt.</numerusform>
+            <numerusform>%Ln of them is in doubt.</numerusform>
+            <numerusform>%Ln of them are in doubt.</numerusform>
         </translation>
     </message>
     <message>
@@ -3492,22 +3573,29 @@ Line: %2
         <translation>All patterns are done</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>in %n project</numerusform>
-            <numerusform>in %n projects</numerusform>
+            <numerusform>in %Ln project</numerusform>
+            <numerusform>in %Ln projects</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n line confirmed to be discontinued</numerusform>
-            <numerusform>%n lines confirmed to be discontinued</numerusform>
+            <numerusform>%Ln line confirmed to be discontinued</numerusform>
+            <numerusform>%Ln lines confirmed to be discontinued</numerusform>
         </translation>
     </message>
     <message>
         <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
         <translation>Line %1 in %2 is wrong. The set is split; with which part do you want to go on?</translation>
+    </message>
+    <message numerus="yes">
+        <source>So viele von %Ln Zeile(n) werden gezogen und einzeln beurteilt. %1 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %2 richtige weniger als 1 %.</source>
+        <translation>
+            <numerusform>So many of %Ln line are drawn and judged one by one. %1 right ones say with 95 % certainty that fewer than 5 % are wrong, %2 right ones fewer than 1 %.</numerusform>
+            <numerusform>So many of %Ln lines are drawn and judged one by one. %1 right ones say with 95 % certainty that fewer than 5 % are wrong, %2 right ones fewer than 1 %.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3661,20 +3749,26 @@ Line: %2
         <translation>The end of the journal %1 cannot be read. The last change may be missing.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
-        <translation>The journal %1 is damaged or does not fit the mapping file. At least %2 later changes are missing; the journal is kept.</translation>
-    </message>
-    <message>
-        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passen noch %2 Änderungen, %3 passen nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
-        <translation>The journal %1 is damaged. Behind the damage %2 changes still fit, %3 do not; others may be missing. The journal is kept.</translation>
-    </message>
-    <message>
         <source>Das Journal %1 kann nicht gelesen werden (%2).</source>
         <translation>The journal %1 cannot be read (%2).</translation>
     </message>
     <message>
         <source>Hinter der letzten abgeschlossenen Sitzung ist das Journal %1 nicht lesbar. Was dort stand, ist nicht bekannt; das Journal wird aufgehoben.</source>
         <translation>Behind the last session that was closed the journal %1 is not readable. What stood there is not known; the journal is kept.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passt/passen noch %Ln Änderung(en), %2 nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>The journal %1 is damaged. Behind the damage %Ln change still fits, %2 do not; others may be missing. The journal is kept.</numerusform>
+            <numerusform>The journal %1 is damaged. Behind the damage %Ln changes still fit, %2 do not; others may be missing. The journal is kept.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %Ln spätere Änderung(en) fehlt/fehlen; das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>The journal %1 is damaged or does not fit the mapping file. At least %Ln later change is missing; the journal is kept.</numerusform>
+            <numerusform>The journal %1 is damaged or does not fit the mapping file. At least %Ln later changes are missing; the journal is kept.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3922,11 +4016,6 @@ Line: %2
         <translation>Everything decided</translation>
     </message>
     <message>
-        <source>Offen: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Open: &lt;a href=&quot;next&quot;&gt;%1 lines&lt;/a&gt; in %2 projects</translation>
-    </message>
-    <message>
         <source>Schreibgeschützt</source>
         <translation>Read-only</translation>
     </message>
@@ -3943,13 +4032,31 @@ Line: %2
         <translation>Filter: no line</translation>
     </message>
     <message>
-        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Filter: &lt;a href=&quot;next&quot;&gt;%1 lines&lt;/a&gt; in %2 projects</translation>
-    </message>
-    <message>
         <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
         <translation>Lines that the filter over all lines shows</translation>
+    </message>
+    <message numerus="yes">
+        <source>&lt;a href=&quot;next&quot;&gt;%Ln Zeile(n)&lt;/a&gt;</source>
+        <translation>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln line&lt;/a&gt;</numerusform>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln lines&lt;/a&gt;</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Offen: %1</source>
+        <translation>Open: %1</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>Filter: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <extracomment>&quot;12 lines in 3 projects&quot;</extracomment>
+        <translation>
+            <numerusform>%1 in %Ln project</numerusform>
+            <numerusform>%1 in %Ln projects</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3998,10 +4105,10 @@ Line: %2
         <translation>&amp;Close</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <source>Mit %Ln abhängigen &amp;zurücknehmen</source>
         <translation>
-            <numerusform>&amp;Take Back with %n Dependent</numerusform>
-            <numerusform>&amp;Take Back with %n Dependents</numerusform>
+            <numerusform>&amp;Take Back with %Ln Dependent</numerusform>
+            <numerusform>&amp;Take Back with %Ln Dependents</numerusform>
         </translation>
     </message>
     <message>
@@ -4009,10 +4116,10 @@ Line: %2
         <translation>&amp;Take Back Only This One</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <source>Mit %Ln früheren &amp;wieder ausführen</source>
         <translation>
-            <numerusform>&amp;Do Again with %n Earlier One</numerusform>
-            <numerusform>&amp;Do Again with %n Earlier Ones</numerusform>
+            <numerusform>&amp;Do Again with %Ln Earlier One</numerusform>
+            <numerusform>&amp;Do Again with %Ln Earlier Ones</numerusform>
         </translation>
     </message>
     <message>
@@ -4048,20 +4155,20 @@ Line: %2
         <translation>Something else stands there now that no step of this list decided, such as another program&apos;s work. The step cannot be moved any more.</translation>
     </message>
     <message numerus="yes">
-        <source>und %n weitere</source>
+        <source>und %Ln weitere</source>
         <translation>
-            <numerusform>and %n more</numerusform>
-            <numerusform>and %n more</numerusform>
+            <numerusform>and %Ln more</numerusform>
+            <numerusform>and %Ln more</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepListModel</name>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1 in %n project</numerusform>
-            <numerusform>%1 in %n projects</numerusform>
+            <numerusform>%1 in %Ln project</numerusform>
+            <numerusform>%1 in %Ln projects</numerusform>
         </translation>
     </message>
     <message>
@@ -4116,24 +4223,24 @@ Line: %2
         <translation>Variables stay ignored in %1: %2. To map one of them again, choose &quot;Formula...&quot; or delete the row and enter it again.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
+        <source>%Ln Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
         <translation>
-            <numerusform>%n line in %1 was confirmed to be discontinued and is not any more: %2</numerusform>
-            <numerusform>%n lines in %1 were confirmed to be discontinued and are not any more: %2</numerusform>
+            <numerusform>%Ln line in %1 was confirmed to be discontinued and is not any more: %2</numerusform>
+            <numerusform>%Ln lines in %1 were confirmed to be discontinued and are not any more: %2</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %n andere Zeile(n): %4</source>
+        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %Ln andere Zeile(n): %4</source>
         <translation>
-            <numerusform>Line %1 → %2 in %3: %n other line has this target line, too: %4</numerusform>
-            <numerusform>Line %1 → %2 in %3: %n other lines have this target line, too: %4</numerusform>
+            <numerusform>Line %1 → %2 in %3: %Ln other line has this target line, too: %4</numerusform>
+            <numerusform>Line %1 → %2 in %3: %Ln other lines have this target line, too: %4</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
+        <source>%Ln Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
         <translation>
-            <numerusform>%n line in %1 shares its target line with newly assigned ones: %2</numerusform>
-            <numerusform>%n lines in %1 share their target line with newly assigned ones: %2</numerusform>
+            <numerusform>%Ln line in %1 shares its target line with newly assigned ones: %2</numerusform>
+            <numerusform>%Ln lines in %1 share their target line with newly assigned ones: %2</numerusform>
         </translation>
     </message>
 </context>
@@ -4180,59 +4287,59 @@ Line: %2
         <translation>Target project added</translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e) angenommen</source>
+        <source>%Ln Konflikt(e) angenommen</source>
         <translation>
-            <numerusform>%n conflict accepted</numerusform>
-            <numerusform>%n conflicts accepted</numerusform>
+            <numerusform>%Ln conflict accepted</numerusform>
+            <numerusform>%Ln conflicts accepted</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n line confirmed</numerusform>
-            <numerusform>%n lines confirmed</numerusform>
+            <numerusform>%Ln line confirmed</numerusform>
+            <numerusform>%Ln lines confirmed</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n line confirmed to be discontinued</numerusform>
-            <numerusform>%n lines confirmed to be discontinued</numerusform>
+            <numerusform>%Ln line confirmed to be discontinued</numerusform>
+            <numerusform>%Ln lines confirmed to be discontinued</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) zugeordnet</source>
+        <source>%Ln Zeile(n) zugeordnet</source>
         <translation>
-            <numerusform>%n line assigned</numerusform>
-            <numerusform>%n lines assigned</numerusform>
+            <numerusform>%Ln line assigned</numerusform>
+            <numerusform>%Ln lines assigned</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben</source>
         <translation>
-            <numerusform>assignment of %n line removed</numerusform>
-            <numerusform>assignment of %n lines removed</numerusform>
+            <numerusform>assignment of %Ln line removed</numerusform>
+            <numerusform>assignment of %Ln lines removed</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Wertebereichszuordnung von %n Zeile(n) geändert</source>
+        <source>Wertebereichszuordnung von %Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>value range assignment of %n line changed</numerusform>
-            <numerusform>value range assignment of %n lines changed</numerusform>
+            <numerusform>value range assignment of %Ln line changed</numerusform>
+            <numerusform>value range assignment of %Ln lines changed</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Konflikt von %n Zeile(n) gelöst</source>
+        <source>Konflikt von %Ln Zeile(n) gelöst</source>
         <translation>
-            <numerusform>conflict of %n line settled</numerusform>
-            <numerusform>conflict of %n lines settled</numerusform>
+            <numerusform>conflict of %Ln line settled</numerusform>
+            <numerusform>conflict of %Ln lines settled</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) geändert</source>
+        <source>%Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>%n line changed</numerusform>
-            <numerusform>%n lines changed</numerusform>
+            <numerusform>%Ln line changed</numerusform>
+            <numerusform>%Ln lines changed</numerusform>
         </translation>
     </message>
     <message>
@@ -4260,10 +4367,10 @@ Line: %2
         <translation>assignment of line %1 removed (was %2)</translation>
     </message>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1 in %n project</numerusform>
-            <numerusform>%1 in %n projects</numerusform>
+            <numerusform>%1 in %Ln project</numerusform>
+            <numerusform>%1 in %Ln projects</numerusform>
         </translation>
     </message>
 </context>
@@ -4317,17 +4424,17 @@ Line: %2
         <translation>no finding</translation>
     </message>
     <message numerus="yes">
-        <source>%n Wertebereichszuordnung(en) geprüft</source>
+        <source>%Ln Wertebereichszuordnung(en) geprüft</source>
         <translation>
-            <numerusform>%n value range assignment checked</numerusform>
-            <numerusform>%n value range assignments checked</numerusform>
+            <numerusform>%Ln value range assignment checked</numerusform>
+            <numerusform>%Ln value range assignments checked</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Beanstandung(en)</source>
+        <source>%Ln Beanstandung(en)</source>
         <translation>
-            <numerusform>%n finding</numerusform>
-            <numerusform>%n findings</numerusform>
+            <numerusform>%Ln finding</numerusform>
+            <numerusform>%Ln findings</numerusform>
         </translation>
     </message>
 </context>

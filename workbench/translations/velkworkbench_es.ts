@@ -8,101 +8,101 @@
         <translation>No hay nada que cambiar.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigen?</source>
+        <source>%Ln Zeile(n) bestätigen?</source>
         <translation>
-            <numerusform>¿Confirmar %n fila?</numerusform>
-            <numerusform>¿Confirmar %n filas?</numerusform>
+            <numerusform>¿Confirmar %Ln fila?</numerusform>
+            <numerusform>¿Confirmar %Ln filas?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigen?</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>¿Confirmar %n fila como descatalogada?</numerusform>
-            <numerusform>¿Confirmar %n filas como descatalogadas?</numerusform>
+            <numerusform>¿Confirmar %Ln fila como descatalogada?</numerusform>
+            <numerusform>¿Confirmar %Ln filas como descatalogadas?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben?</source>
         <translation>
-            <numerusform>¿Quitar la asignación de %n fila?</numerusform>
-            <numerusform>¿Quitar la asignación de %n filas?</numerusform>
+            <numerusform>¿Quitar la asignación de %Ln fila?</numerusform>
+            <numerusform>¿Quitar la asignación de %Ln filas?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>¿Quitar la asignación de %n fila y confirmarla como descatalogada?</numerusform>
-            <numerusform>¿Quitar la asignación de %n filas y confirmarlas como descatalogadas?</numerusform>
+            <numerusform>¿Quitar la asignación de %Ln fila y confirmarla como descatalogada?</numerusform>
+            <numerusform>¿Quitar la asignación de %Ln filas y confirmarlas como descatalogadas?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind schon bestätigt.</source>
+        <source>%Ln davon ist/sind schon bestätigt.</source>
         <translation>
-            <numerusform>%n de ellas ya está confirmada.</numerusform>
-            <numerusform>%n de ellas ya están confirmadas.</numerusform>
+            <numerusform>%Ln de ellas ya está confirmada.</numerusform>
+            <numerusform>%Ln de ellas ya están confirmadas.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon verliert/verlieren ihre Wertebereichszuordnung.</source>
+        <source>%Ln davon verliert/verlieren ihre Wertebereichszuordnung.</source>
         <translation>
-            <numerusform>%n de ellas pierde su asignación de rangos de valores.</numerusform>
-            <numerusform>%n de ellas pierden su asignación de rangos de valores.</numerusform>
+            <numerusform>%Ln de ellas pierde su asignación de rangos de valores.</numerusform>
+            <numerusform>%Ln de ellas pierden su asignación de rangos de valores.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
+        <source>%Ln Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
         <translation>
-            <numerusform>%n fila sin destino queda sin confirmar.</numerusform>
-            <numerusform>%n filas sin destino quedan sin confirmar.</numerusform>
+            <numerusform>%Ln fila sin destino queda sin confirmar.</numerusform>
+            <numerusform>%Ln filas sin destino quedan sin confirmar.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
+        <source>%Ln Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
         <translation>
-            <numerusform>%n fila queda como está.</numerusform>
-            <numerusform>%n filas quedan como están.</numerusform>
+            <numerusform>%Ln fila queda como está.</numerusform>
+            <numerusform>%Ln filas quedan como están.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
+        <source>%Ln Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
         <translation>
-            <numerusform>%n fila en conflicto no se cambia.</numerusform>
-            <numerusform>%n filas en conflicto no se cambian.</numerusform>
+            <numerusform>%Ln fila en conflicto no se cambia.</numerusform>
+            <numerusform>%Ln filas en conflicto no se cambian.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
+        <source>%Ln Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
         <translation>
-            <numerusform>%n fila no figura en ningún proyecto de destino.</numerusform>
-            <numerusform>%n filas no figuran en ningún proyecto de destino.</numerusform>
+            <numerusform>%Ln fila no figura en ningún proyecto de destino.</numerusform>
+            <numerusform>%Ln filas no figuran en ningún proyecto de destino.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt.</source>
+        <source>%Ln Zeile(n) bestätigt.</source>
         <translation>
-            <numerusform>%n fila confirmada.</numerusform>
-            <numerusform>%n filas confirmadas.</numerusform>
+            <numerusform>%Ln fila confirmada.</numerusform>
+            <numerusform>%Ln filas confirmadas.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt.</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>%n fila confirmada como descatalogada.</numerusform>
-            <numerusform>%n filas confirmadas como descatalogadas.</numerusform>
+            <numerusform>%Ln fila confirmada como descatalogada.</numerusform>
+            <numerusform>%Ln filas confirmadas como descatalogadas.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben.</source>
         <translation>
-            <numerusform>Quitada la asignación de %n fila.</numerusform>
-            <numerusform>Quitada la asignación de %n filas.</numerusform>
+            <numerusform>Quitada la asignación de %Ln fila.</numerusform>
+            <numerusform>Quitada la asignación de %Ln filas.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>Quitada la asignación de %n fila, confirmada como descatalogada.</numerusform>
-            <numerusform>Quitada la asignación de %n filas, confirmadas como descatalogadas.</numerusform>
+            <numerusform>Quitada la asignación de %Ln fila, confirmada como descatalogada.</numerusform>
+            <numerusform>Quitada la asignación de %Ln filas, confirmadas como descatalogadas.</numerusform>
         </translation>
     </message>
 </context>
@@ -160,10 +160,6 @@
         <translation>No hay nada que adoptar de %1.</translation>
     </message>
     <message>
-        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
-        <translation>Adoptadas de %1: %2 de %3 líneas confirmadas, %4 asignadas con certeza, %5 propuestas.</translation>
-    </message>
-    <message>
         <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
         <translation>El archivo no contiene ningún mapeo desde la versión del catálogo %1.</translation>
     </message>
@@ -206,6 +202,13 @@
     <message>
         <source>Entscheidungen aus %1 übernommen: %2</source>
         <translation>Decisiones adoptadas de %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Aus %1 übernommen: %2 von %Ln bestätigten Zeile(n), %3 sicher zugeordnet, %4 vorgeschlagen.</source>
+        <translation>
+            <numerusform>Adoptadas de %1: %2 de %Ln línea confirmada, %3 asignadas con certeza, %4 propuestas.</numerusform>
+            <numerusform>Adoptadas de %1: %2 de %Ln líneas confirmadas, %3 asignadas con certeza, %4 propuestas.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -270,10 +273,10 @@
         <translation>Conflicto %1 de %2, aún %3 pendientes</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
+        <source>%Ln Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
         <translation>
-            <numerusform>%n fila de %1 se contradice del mismo modo. ¿Vale la decisión para todas?</numerusform>
-            <numerusform>%n filas de %1 se contradicen del mismo modo. ¿Vale la decisión para todas?</numerusform>
+            <numerusform>%Ln fila de %1 se contradice del mismo modo. ¿Vale la decisión para todas?</numerusform>
+            <numerusform>%Ln filas de %1 se contradicen del mismo modo. ¿Vale la decisión para todas?</numerusform>
         </translation>
     </message>
     <message>
@@ -309,15 +312,11 @@ Ajena: %2</translation>
         <source>Alle Konflikte sind entschieden.</source>
         <translation>Todos los conflictos están resueltos.</translation>
     </message>
-    <message>
-        <source>%1 von %2 Konflikten sind noch offen.</source>
-        <translation>%1 de %2 conflictos siguen pendientes.</translation>
-    </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) widersprechen sich wie diese.</source>
+        <source>%Ln weitere Zeile(n) widersprechen sich wie diese.</source>
         <translation>
-            <numerusform>%n fila más se contradice como esta.</numerusform>
-            <numerusform>%n filas más se contradicen como esta.</numerusform>
+            <numerusform>%Ln fila más se contradice como esta.</numerusform>
+            <numerusform>%Ln filas más se contradicen como esta.</numerusform>
         </translation>
     </message>
     <message>
@@ -339,6 +338,13 @@ Ajena: %2</translation>
     <message>
         <source>Neu entscheiden</source>
         <translation>Decidir de nuevo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Konflikt(en) noch offen.</source>
+        <translation>
+            <numerusform>%1 de %Ln conflicto pendiente.</numerusform>
+            <numerusform>%1 de %Ln conflictos pendientes.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -457,10 +463,10 @@ Ajena: %2</translation>
         <translation>igual</translation>
     </message>
     <message numerus="yes">
-        <source>ersetzt wie in %n weiteren Zeile(n)</source>
+        <source>ersetzt wie in %Ln weiteren Zeile(n)</source>
         <translation>
-            <numerusform>sustituido como en %n fila más</numerusform>
-            <numerusform>sustituido como en %n filas más</numerusform>
+            <numerusform>sustituido como en %Ln fila más</numerusform>
+            <numerusform>sustituido como en %Ln filas más</numerusform>
         </translation>
     </message>
     <message>
@@ -523,10 +529,10 @@ Ajena: %2</translation>
         <translation>Asignada con certeza.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n línea</numerusform>
-            <numerusform>%n líneas</numerusform>
+            <numerusform>%Ln línea</numerusform>
+            <numerusform>%Ln líneas</numerusform>
         </translation>
     </message>
     <message>
@@ -609,21 +615,17 @@ Ajena: %2</translation>
         <translation>&amp;Descartar</translation>
     </message>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n fila</numerusform>
-            <numerusform>%1: %n filas</numerusform>
+            <numerusform>%1: %Ln fila</numerusform>
+            <numerusform>%1: %Ln filas</numerusform>
         </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>y %1 más</translation>
-    </message>
     <message numerus="yes">
-        <source>Noch %n Zeile(n) in Konflikt, in diesen Projekten:</source>
+        <source>Noch %Ln Zeile(n) in Konflikt, in diesen Projekten:</source>
         <translation>
-            <numerusform>Aún hay %n fila en conflicto, en estos proyectos:</numerusform>
-            <numerusform>Aún hay %n filas en conflicto, en estos proyectos:</numerusform>
+            <numerusform>Aún hay %Ln fila en conflicto, en estos proyectos:</numerusform>
+            <numerusform>Aún hay %Ln filas en conflicto, en estos proyectos:</numerusform>
         </translation>
     </message>
     <message>
@@ -665,6 +667,13 @@ Ajena: %2</translation>
     <message>
         <source>Die Mapping-Datei kann nicht angelegt werden.</source>
         <translation>No se puede crear el archivo de mapeo.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>y %Ln más</numerusform>
+            <numerusform>y %Ln más</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -728,6 +737,15 @@ Elija otro archivo.</translation>
     <message>
         <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte einen anderen Ordner wählen.</source>
         <translation>No se puede crear nada en la carpeta de %1 (%2). No se escribió nada. Elija otra carpeta.</translation>
+    </message>
+</context>
+<context>
+    <name>EditorArea</name>
+    <message>
+        <source>Keine Zeile dieses Projekts ist im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Zeilen zu sehen.</source>
+        <translation>Ninguna fila de este proyecto está en el filtro.
+Abra «%1» y elija «%2» para volver a ver todas las filas.</translation>
     </message>
 </context>
 <context>
@@ -855,17 +873,17 @@ Elija otro archivo.</translation>
         <translation>Leyendo las tablas...</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n línea</numerusform>
-            <numerusform>%n líneas</numerusform>
+            <numerusform>%Ln línea</numerusform>
+            <numerusform>%Ln líneas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>en %n proyecto</numerusform>
-            <numerusform>en %n proyectos</numerusform>
+            <numerusform>en %Ln proyecto</numerusform>
+            <numerusform>en %Ln proyectos</numerusform>
         </translation>
     </message>
     <message>
@@ -873,10 +891,10 @@ Elija otro archivo.</translation>
         <translation>Sin filtro: todas las filas</translation>
     </message>
     <message numerus="yes">
-        <source>%n Tabelle(n) nicht lesbar</source>
+        <source>%Ln Tabelle(n) nicht lesbar</source>
         <translation>
-            <numerusform>Tablas ilegibles: %n</numerusform>
-            <numerusform>Tablas ilegibles: %n</numerusform>
+            <numerusform>Tablas ilegibles: %Ln</numerusform>
+            <numerusform>Tablas ilegibles: %Ln</numerusform>
         </translation>
     </message>
     <message>
@@ -1025,10 +1043,10 @@ Elija otro archivo.</translation>
         <translation>Fila %1 en %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1</source>
+        <source>%Ln Zeile(n) in %1</source>
         <translation>
-            <numerusform>%n fila en %1</numerusform>
-            <numerusform>%n filas en %1</numerusform>
+            <numerusform>%Ln fila en %1</numerusform>
+            <numerusform>%Ln filas en %1</numerusform>
         </translation>
     </message>
     <message>
@@ -1357,10 +1375,10 @@ Elija otro archivo.</translation>
         <translation>La condición copiada aún no se puede usar así: falta un valor, es un rango o contiene comillas: %1</translation>
     </message>
     <message numerus="yes">
-        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.</source>
+        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %Ln Zeile(n) offen.</source>
         <translation>
-            <numerusform>Aquí, dentro del filtro, está todo hecho; fuera queda aún %n fila abierta.</numerusform>
-            <numerusform>Aquí, dentro del filtro, está todo hecho; fuera quedan aún %n filas abiertas.</numerusform>
+            <numerusform>Aquí, dentro del filtro, está todo hecho; fuera queda aún %Ln fila abierta.</numerusform>
+            <numerusform>Aquí, dentro del filtro, está todo hecho; fuera quedan aún %Ln filas abiertas.</numerusform>
         </translation>
     </message>
     <message>
@@ -1428,16 +1446,16 @@ Elija otro archivo.</translation>
         <translation>Se trata de todas las filas del proyecto.</translation>
     </message>
     <message>
-        <source>Gemeint sind die %1 gezeigten von %2 Zeilen des Projekts.</source>
-        <translation>Se trata de las %1 filas mostradas de las %2 del proyecto.</translation>
-    </message>
-    <message>
         <source>Filter: %1.</source>
         <translation>Filtro: %1.</translation>
     </message>
     <message>
         <source>Kein anderes Projekt hat solche Zeilen</source>
         <translation>Ningún otro proyecto tiene filas así</translation>
+    </message>
+    <message>
+        <source>Gemeint sind nur die gezeigten Zeilen des Projekts: %1 von %2.</source>
+        <translation>Se trata solo de las filas mostradas del proyecto: %1 de %2.</translation>
     </message>
 </context>
 <context>
@@ -1670,10 +1688,6 @@ Elija otro archivo.</translation>
         <translation>&amp;Cerrar</translation>
     </message>
     <message>
-        <source>Die ersten %1 Links; die Suche zeigt andere.</source>
-        <translation>Los primeros %1 enlaces; la búsqueda muestra otros.</translation>
-    </message>
-    <message>
         <source>Links: %1</source>
         <translation>Enlaces: %1</translation>
     </message>
@@ -1692,6 +1706,13 @@ Elija otro archivo.</translation>
     <message>
         <source>&amp;Wiederherstellen</source>
         <translation>&amp;Restaurar</translation>
+    </message>
+    <message numerus="yes">
+        <source>Die ersten %Ln Link(s); die Suche zeigt andere.</source>
+        <translation>
+            <numerusform>El primer enlace (%Ln); la búsqueda muestra otros.</numerusform>
+            <numerusform>Los primeros %Ln enlaces; la búsqueda muestra otros.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1814,15 +1835,18 @@ Elija otro archivo.</translation>
         <source>Nichts gefunden</source>
         <translation>No se encontró nada</translation>
     </message>
-    <message>
-        <source>Die ersten %1 von %2 Treffern</source>
-        <translation>Los primeros %1 de %2 resultados</translation>
+    <message numerus="yes">
+        <source>%Ln Treffer</source>
+        <translation>
+            <numerusform>%Ln resultado</numerusform>
+            <numerusform>%Ln resultados</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
-        <source>%n Treffer</source>
+        <source>Die ersten %1 von %Ln Treffer(n)</source>
         <translation>
-            <numerusform>%n resultado</numerusform>
-            <numerusform>%n resultados</numerusform>
+            <numerusform>Los primeros %1 de %Ln resultado</numerusform>
+            <numerusform>Los primeros %1 de %Ln resultados</numerusform>
         </translation>
     </message>
 </context>
@@ -2045,24 +2069,24 @@ Elija otro archivo.</translation>
         <translation>Cambios propios sobre la versión del archivo</translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): eigene Entscheidung</source>
+        <source>%Ln Konflikt(e): eigene Entscheidung</source>
         <translation>
-            <numerusform>%n conflicto: decisión propia</numerusform>
-            <numerusform>%n conflictos: decisión propia</numerusform>
+            <numerusform>%Ln conflicto: decisión propia</numerusform>
+            <numerusform>%Ln conflictos: decisión propia</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): Entscheidung der anderen Seite</source>
+        <source>%Ln Konflikt(e): Entscheidung der anderen Seite</source>
         <translation>
-            <numerusform>%n conflicto: decisión de la otra parte</numerusform>
-            <numerusform>%n conflictos: decisión de la otra parte</numerusform>
+            <numerusform>%Ln conflicto: decisión de la otra parte</numerusform>
+            <numerusform>%Ln conflictos: decisión de la otra parte</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): neu zu entscheiden</source>
+        <source>%Ln Konflikt(e): neu zu entscheiden</source>
         <translation>
-            <numerusform>%n conflicto: por decidir de nuevo</numerusform>
-            <numerusform>%n conflictos: por decidir de nuevo</numerusform>
+            <numerusform>%Ln conflicto: por decidir de nuevo</numerusform>
+            <numerusform>%Ln conflictos: por decidir de nuevo</numerusform>
         </translation>
     </message>
     <message>
@@ -2133,50 +2157,67 @@ Elija otro archivo.</translation>
         <translation>Cancelado, no se creó nada</translation>
     </message>
     <message>
-        <source>%1 Projekte: %2 am selben Ort, %3 an anderem, %4 aufgeteilt, %5 ohne Ziel, %6 unlesbar</source>
-        <translation>%1 proyectos: %2 en el mismo lugar, %3 en otro, %4 divididos, %5 sin destino, %6 ilegibles</translation>
-    </message>
-    <message>
         <source>Zeilen werden zugeordnet</source>
         <translation>Asignando filas</translation>
     </message>
-    <message>
-        <source>Abgebrochen: %1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>Cancelado: %1 de %2 proyectos con %3 filas, de ellas %4 asignadas, %5 por comprobar, %6 sin destino</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e): %1 am selben Ort, %2 an anderem, %3 aufgeteilt, %4 ohne Ziel, %5 unlesbar</source>
+        <translation>
+            <numerusform>%Ln proyecto: %1 en el mismo lugar, %2 en otro, %3 dividido, %4 sin destino, %5 ilegible</numerusform>
+            <numerusform>%Ln proyectos: %1 en el mismo lugar, %2 en otro, %3 divididos, %4 sin destino, %5 ilegibles</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 de %Ln proyecto</numerusform>
+            <numerusform>%1 de %Ln proyectos</numerusform>
+        </translation>
     </message>
     <message>
-        <source>%1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>%1 de %2 proyectos con %3 filas, de ellas %4 asignadas, %5 por comprobar, %6 sin destino</translation>
+        <source>davon %1 zugeordnet, %2 zu prüfen, %3 ohne Ziel</source>
+        <translation>de ellas %1 asignadas, %2 por comprobar, %3 sin destino</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>Cancelado: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 con %Ln fila</numerusform>
+            <numerusform>%1 con %Ln filas</numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>MergeState</name>
     <message numerus="yes">
-        <source>%n Änderung(en) übernommen.</source>
+        <source>%Ln Änderung(en) übernommen.</source>
         <translation>
-            <numerusform>%n cambio incorporado.</numerusform>
-            <numerusform>%n cambios incorporados.</numerusform>
+            <numerusform>%Ln cambio incorporado.</numerusform>
+            <numerusform>%Ln cambios incorporados.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) haben beide gleich entschieden.</source>
+        <source>%Ln Zeile(n) haben beide gleich entschieden.</source>
         <translation>
-            <numerusform>%n fila la decidieron ambas partes igual.</numerusform>
-            <numerusform>%n filas las decidieron ambas partes igual.</numerusform>
+            <numerusform>%Ln fila la decidieron ambas partes igual.</numerusform>
+            <numerusform>%Ln filas las decidieron ambas partes igual.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
+        <source>%Ln Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
         <translation>
-            <numerusform>%n fila se decidió de forma distinta y está marcada como conflicto.</numerusform>
-            <numerusform>%n filas se decidieron de forma distinta y están marcadas como conflicto.</numerusform>
+            <numerusform>%Ln fila se decidió de forma distinta y está marcada como conflicto.</numerusform>
+            <numerusform>%Ln filas se decidieron de forma distinta y están marcadas como conflicto.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
+        <source>%Ln andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
         <translation>
-            <numerusform>%n otra contradicción: vale la versión del archivo.</numerusform>
-            <numerusform>%n otras contradicciones: vale la versión del archivo.</numerusform>
+            <numerusform>%Ln otra contradicción: vale la versión del archivo.</numerusform>
+            <numerusform>%Ln otras contradicciones: vale la versión del archivo.</numerusform>
         </translation>
     </message>
 </context>
@@ -2202,17 +2243,17 @@ Elija otro archivo.</translation>
         <translation>Se están comparando las tablas</translation>
     </message>
     <message numerus="yes">
-        <source>%n zugeordnete Zeile(n) angesehen</source>
+        <source>%Ln zugeordnete Zeile(n) angesehen</source>
         <translation>
-            <numerusform>%n fila asignada revisada</numerusform>
-            <numerusform>%n filas asignadas revisadas</numerusform>
+            <numerusform>%Ln fila asignada revisada</numerusform>
+            <numerusform>%Ln filas asignadas revisadas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Fundstelle(n)</source>
+        <source>%Ln Fundstelle(n)</source>
         <translation>
-            <numerusform>%n hallazgo</numerusform>
-            <numerusform>%n hallazgos</numerusform>
+            <numerusform>%Ln hallazgo</numerusform>
+            <numerusform>%Ln hallazgos</numerusform>
         </translation>
     </message>
     <message>
@@ -2437,43 +2478,39 @@ Elija otro archivo.</translation>
 </context>
 <context>
     <name>PatternDock</name>
-    <message>
-        <source>Die Tabellen werden verglichen: %1 Projekte gelesen</source>
-        <translation>Se están comparando las tablas: %1 proyectos leídos</translation>
-    </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) mit Vorschlag</source>
+        <source>%Ln offene Zeile(n) mit Vorschlag</source>
         <translation>
-            <numerusform>%n fila abierta con propuesta</numerusform>
-            <numerusform>%n filas abiertas con propuesta</numerusform>
+            <numerusform>%Ln fila abierta con propuesta</numerusform>
+            <numerusform>%Ln filas abiertas con propuesta</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Muster(n)</source>
+        <source>in %Ln Muster(n)</source>
         <translation>
-            <numerusform>en %n patrón</numerusform>
-            <numerusform>en %n patrones</numerusform>
+            <numerusform>en %Ln patrón</numerusform>
+            <numerusform>en %Ln patrones</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon wird/werden noch verglichen</source>
+        <source>%Ln davon wird/werden noch verglichen</source>
         <translation>
-            <numerusform>%n de ellas aún se está comparando</numerusform>
-            <numerusform>%n de ellas aún se están comparando</numerusform>
+            <numerusform>%Ln de ellas aún se está comparando</numerusform>
+            <numerusform>%Ln de ellas aún se están comparando</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Gewählt: %n Zeile(n)</source>
+        <source>Gewählt: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>Elegida: %n fila</numerusform>
-            <numerusform>Elegidas: %n filas</numerusform>
+            <numerusform>Elegida: %Ln fila</numerusform>
+            <numerusform>Elegidas: %Ln filas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon herausgenommen</source>
+        <source>%Ln davon herausgenommen</source>
         <translation>
-            <numerusform>%n de ellas excluida</numerusform>
-            <numerusform>%n de ellas excluidas</numerusform>
+            <numerusform>%Ln de ellas excluida</numerusform>
+            <numerusform>%Ln de ellas excluidas</numerusform>
         </translation>
     </message>
     <message>
@@ -2481,41 +2518,48 @@ Elija otro archivo.</translation>
         <translation>Diferencias de las filas abiertas</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>en %n proyecto</numerusform>
-            <numerusform>en %n proyectos</numerusform>
+            <numerusform>en %Ln proyecto</numerusform>
+            <numerusform>en %Ln proyectos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <source>%Ln offene Zeile(n) ohne Nachfolger</source>
         <translation>
-            <numerusform>%n fila abierta sin sucesora</numerusform>
-            <numerusform>%n filas abiertas sin sucesora</numerusform>
+            <numerusform>%Ln fila abierta sin sucesora</numerusform>
+            <numerusform>%Ln filas abiertas sin sucesora</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Die Tabellen werden verglichen: %Ln Projekt(e) gelesen</source>
+        <translation>
+            <numerusform>Se están comparando las tablas: %Ln proyecto leído</numerusform>
+            <numerusform>Se están comparando las tablas: %Ln proyectos leídos</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>PatternModel</name>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n fila</numerusform>
-            <numerusform>%n filas</numerusform>
+            <numerusform>%Ln fila</numerusform>
+            <numerusform>%Ln filas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Projekt(e)</source>
+        <source>%Ln Projekt(e)</source>
         <translation>
-            <numerusform>%n proyecto</numerusform>
-            <numerusform>%n proyectos</numerusform>
+            <numerusform>%Ln proyecto</numerusform>
+            <numerusform>%Ln proyectos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) haben diese und andere Unterschiede</source>
+        <source>%Ln weitere Zeile(n) haben diese und andere Unterschiede</source>
         <translation>
-            <numerusform>%n fila más tiene estas y otras diferencias</numerusform>
-            <numerusform>%n filas más tienen estas y otras diferencias</numerusform>
+            <numerusform>%Ln fila más tiene estas y otras diferencias</numerusform>
+            <numerusform>%Ln filas más tienen estas y otras diferencias</numerusform>
         </translation>
     </message>
     <message>
@@ -2742,10 +2786,10 @@ Fila: %2
         <translation>Fila %1: %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
+        <source>%Ln Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
         <translation>
-            <numerusform>%n fila está confirmada aunque hay valores de su rango sin fila nueva.</numerusform>
-            <numerusform>%n filas están confirmadas aunque hay valores de sus rangos sin fila nueva.</numerusform>
+            <numerusform>%Ln fila está confirmada aunque hay valores de su rango sin fila nueva.</numerusform>
+            <numerusform>%Ln filas están confirmadas aunque hay valores de sus rangos sin fila nueva.</numerusform>
         </translation>
     </message>
     <message>
@@ -2760,19 +2804,15 @@ Fila: %2
 <context>
     <name>RangeDock</name>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n fila</numerusform>
-            <numerusform>%1: %n filas</numerusform>
+            <numerusform>%1: %Ln fila</numerusform>
+            <numerusform>%1: %Ln filas</numerusform>
         </translation>
     </message>
     <message>
         <source>Die Zeile hat keine Wertebereichszuordnung.</source>
         <translation>La fila no tiene asignación de rangos de valores.</translation>
-    </message>
-    <message>
-        <source>%1: %2 von %3 Werten zugeordnet</source>
-        <translation>%1: %2 de %3 valores asignados</translation>
     </message>
     <message>
         <source>fehlend: %1</source>
@@ -2789,6 +2829,13 @@ Fila: %2
     <message>
         <source>Wertebereich der Zeile</source>
         <translation>Rango de valores de la fila</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 von %Ln Wert(en) zugeordnet</source>
+        <translation>
+            <numerusform>%1: %2 de %Ln valor asignado</numerusform>
+            <numerusform>%1: %2 de %Ln valores asignados</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2831,10 +2878,6 @@ Fila: %2
     <message>
         <source>Wiederherstellung</source>
         <translation>Recuperación</translation>
-    </message>
-    <message>
-        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2 Schritte mit %3 Zeilen in %4 Projekten, zuletzt „%5“. Sie stammt von %6.</source>
-        <translation>De %1 hay trabajo que no se guardó: %2 pasos con %3 filas en %4 proyectos, el último «%5». Es de %6.</translation>
     </message>
     <message>
         <source>Gespeichert</source>
@@ -2884,16 +2927,37 @@ Fila: %2
         <source>&amp;Gespeicherten Stand öffnen</source>
         <translation>&amp;Abrir la versión guardada</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln Schritt(e)</source>
+        <translation>
+            <numerusform>%Ln paso</numerusform>
+            <numerusform>%Ln pasos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2, zuletzt „%3“. Sie stammt von %4.</source>
+        <translation>De %1 hay trabajo que no se guardó: %2, el último «%3». Es de %4.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 con %Ln fila</numerusform>
+            <numerusform>%1 con %Ln filas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 en %Ln proyecto</numerusform>
+            <numerusform>%1 en %Ln proyectos</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ReleaseCommands</name>
     <message>
         <source>Tabellen werden importiert</source>
         <translation>Importando tablas</translation>
-    </message>
-    <message>
-        <source>%1 Tabellen mit %2 Zeilen: %3 neu, %4 geändert, %5 unverändert, %6 nicht importiert</source>
-        <translation>%1 tablas con %2 filas: %3 nuevas, %4 cambiadas, %5 sin cambios, %6 no importadas</translation>
     </message>
     <message>
         <source>%1 hat keine CSV-Datei mehr und bleibt, wie es ist</source>
@@ -2932,10 +2996,6 @@ Fila: %2
         <translation>Cancelado, no se exportó nada</translation>
     </message>
     <message>
-        <source>%1 Zeilen nach %2 exportiert</source>
-        <translation>%1 filas exportadas a %2</translation>
-    </message>
-    <message>
         <source>Bericht schreiben</source>
         <translation>Escribir informe</translation>
     </message>
@@ -2966,6 +3026,31 @@ Fila: %2
     <message>
         <source>Seite %1 von %2</source>
         <translation>Página %1 de %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Tabelle(n)</source>
+        <translation>
+            <numerusform>%Ln tabla</numerusform>
+            <numerusform>%Ln tablas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 neu, %2 geändert, %3 unverändert, %4 nicht importiert</source>
+        <translation>%1 nuevas, %2 cambiadas, %3 sin cambios, %4 no importadas</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Zeile(n) nach %1 exportiert</source>
+        <translation>
+            <numerusform>%Ln fila exportada a %1</numerusform>
+            <numerusform>%Ln filas exportadas a %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 con %Ln fila</numerusform>
+            <numerusform>%1 con %Ln filas</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3011,17 +3096,17 @@ Fila: %2
         <translation>Se están leyendo las tablas</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dafür</source>
+        <source>%Ln Zeile(n) dafür</source>
         <translation>
-            <numerusform>%n fila a favor</numerusform>
-            <numerusform>%n filas a favor</numerusform>
+            <numerusform>%Ln fila a favor</numerusform>
+            <numerusform>%Ln filas a favor</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dagegen</source>
+        <source>%Ln Zeile(n) dagegen</source>
         <translation>
-            <numerusform>%n fila en contra</numerusform>
-            <numerusform>%n filas en contra</numerusform>
+            <numerusform>%Ln fila en contra</numerusform>
+            <numerusform>%Ln filas en contra</numerusform>
         </translation>
     </message>
 </context>
@@ -3038,10 +3123,6 @@ Fila: %2
     <message>
         <source>Erstellt am %1</source>
         <translation>Creado el %1</translation>
-    </message>
-    <message>
-        <source>Erledigt: %1 von %2 Zeilen; offen: %3.</source>
-        <translation>Resuelto: %1 de %2 filas; abiertas: %3.</translation>
     </message>
     <message>
         <source>Stand der Zeilen</source>
@@ -3267,6 +3348,10 @@ Fila: %2
         <source>Beurteilte Zeilen</source>
         <translation>Filas evaluadas</translation>
     </message>
+    <message>
+        <source>Erledigte Zeilen: %1 von %2; offen: %3.</source>
+        <translation>Filas resueltas: %1 de %2; abiertas: %3.</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3345,10 +3430,10 @@ Fila: %2
         <translation>Las tablas aún no se han comparado</translation>
     </message>
     <message numerus="yes">
-        <source>Von vorn: %n Zeile(n) offen</source>
+        <source>Von vorn: %Ln Zeile(n) offen</source>
         <translation>
-            <numerusform>Desde el principio: %n fila abierta</numerusform>
-            <numerusform>Desde el principio: %n filas abiertas</numerusform>
+            <numerusform>Desde el principio: %Ln fila abierta</numerusform>
+            <numerusform>Desde el principio: %Ln filas abiertas</numerusform>
         </translation>
     </message>
     <message>
@@ -3372,17 +3457,17 @@ Fila: %2
         <translation>No hay ningún patrón elegido, o todas sus filas están decididas</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n fila</numerusform>
-            <numerusform>%n filas</numerusform>
+            <numerusform>%Ln fila</numerusform>
+            <numerusform>%Ln filas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en) bestätigen?</source>
+        <source>in %Ln Projekt(en) bestätigen?</source>
         <translation>
-            <numerusform>¿confirmar en %n proyecto?</numerusform>
-            <numerusform>¿confirmar en %n proyectos?</numerusform>
+            <numerusform>¿confirmar en %Ln proyecto?</numerusform>
+            <numerusform>¿confirmar en %Ln proyectos?</numerusform>
         </translation>
     </message>
     <message>
@@ -3394,10 +3479,10 @@ Fila: %2
         <translation>&amp;Confirmar</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n fila confirmada</numerusform>
-            <numerusform>%n filas confirmadas</numerusform>
+            <numerusform>%Ln fila confirmada</numerusform>
+            <numerusform>%Ln filas confirmadas</numerusform>
         </translation>
     </message>
     <message>
@@ -3419,10 +3504,6 @@ Fila: %2
     <message>
         <source>Stichprobe</source>
         <translation>Muestra</translation>
-    </message>
-    <message>
-        <source>So viele von %1 Zeilen werden gezogen und einzeln beurteilt. %2 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %3 richtige weniger als 1 %.</source>
-        <translation>Tantas de %1 filas se sortean y se evalúan una a una. %2 correctas indican con un 95 % de certeza que menos del 5 % son erróneas, %3 correctas, menos del 1 %.</translation>
     </message>
     <message>
         <source>&amp;Ziehen</source>
@@ -3481,10 +3562,10 @@ Fila: %2
         <translation>&amp;Ver la fila errónea</translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind unsicher.</source>
+        <source>%Ln davon ist/sind unsicher.</source>
         <translation>
-            <numerusform>%n de ellas es dudosa.</numerusform>
-            <numerusform>%n de ellas son dudosas.</numerusform>
+            <numerusform>%Ln de ellas es dudosa.</numerusform>
+            <numerusform>%Ln de ellas son dudosas.</numerusform>
         </translation>
     </message>
     <message>
@@ -3492,22 +3573,29 @@ Fila: %2
         <translation>Todos los patrones están resueltos</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>en %n proyecto</numerusform>
-            <numerusform>en %n proyectos</numerusform>
+            <numerusform>en %Ln proyecto</numerusform>
+            <numerusform>en %Ln proyectos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n fila confirmada como descatalogada</numerusform>
-            <numerusform>%n filas confirmadas como descatalogadas</numerusform>
+            <numerusform>%Ln fila confirmada como descatalogada</numerusform>
+            <numerusform>%Ln filas confirmadas como descatalogadas</numerusform>
         </translation>
     </message>
     <message>
         <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
         <translation>La fila %1 de %2 es errónea. El conjunto se ha dividido; ¿con qué parte se sigue?</translation>
+    </message>
+    <message numerus="yes">
+        <source>So viele von %Ln Zeile(n) werden gezogen und einzeln beurteilt. %1 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %2 richtige weniger als 1 %.</source>
+        <translation>
+            <numerusform>Tantas de %Ln fila se sortean y se evalúan una a una. %1 correctas indican con un 95 % de certeza que menos del 5 % son erróneas, %2 correctas, menos del 1 %.</numerusform>
+            <numerusform>Tantas de %Ln filas se sortean y se evalúan una a una. %1 correctas indican con un 95 % de certeza que menos del 5 % son erróneas, %2 correctas, menos del 1 %.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3665,16 +3753,22 @@ Fila: %2
         <translation>Tras la última sesión concluida, el diario %1 no es legible. No se sabe qué había ahí; el diario se conserva.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passen noch %2 Änderungen, %3 passen nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
-        <translation>El diario %1 está dañado. Tras la parte dañada aún encajan %2 cambios, %3 ya no encajan; pueden faltar más. El diario se conserva.</translation>
-    </message>
-    <message>
         <source>Das Ende des Journals %1 ist nicht lesbar. Die letzte Änderung kann fehlen.</source>
         <translation>El final del diario %1 no es legible. Puede faltar el último cambio.</translation>
     </message>
-    <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
-        <translation>El diario %1 está dañado o no corresponde al archivo de mapeo. Faltan al menos %2 cambios posteriores; el diario se conserva.</translation>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passt/passen noch %Ln Änderung(en), %2 nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>El diario %1 está dañado. Tras la parte dañada aún encaja %Ln cambio, %2 ya no encajan; pueden faltar más. El diario se conserva.</numerusform>
+            <numerusform>El diario %1 está dañado. Tras la parte dañada aún encajan %Ln cambios, %2 ya no encajan; pueden faltar más. El diario se conserva.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %Ln spätere Änderung(en) fehlt/fehlen; das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>El diario %1 está dañado o no corresponde al archivo de mapeo. Falta al menos %Ln cambio posterior; el diario se conserva.</numerusform>
+            <numerusform>El diario %1 está dañado o no corresponde al archivo de mapeo. Faltan al menos %Ln cambios posteriores; el diario se conserva.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3926,11 +4020,6 @@ Fila: %2
         <translation>Todo decidido</translation>
     </message>
     <message>
-        <source>Offen: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Abiertas: &lt;a href=&quot;next&quot;&gt;%1 filas&lt;/a&gt; en %2 proyectos</translation>
-    </message>
-    <message>
         <source>Zeilen, die noch eine Entscheidung brauchen</source>
         <translation>Filas que aún necesitan una decisión</translation>
     </message>
@@ -3943,13 +4032,31 @@ Fila: %2
         <translation>Filtro: ninguna fila</translation>
     </message>
     <message>
-        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Filtro: &lt;a href=&quot;next&quot;&gt;%1 filas&lt;/a&gt; en %2 proyectos</translation>
-    </message>
-    <message>
         <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
         <translation>Filas que muestra el filtro sobre todas las filas</translation>
+    </message>
+    <message numerus="yes">
+        <source>&lt;a href=&quot;next&quot;&gt;%Ln Zeile(n)&lt;/a&gt;</source>
+        <translation>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln línea&lt;/a&gt;</numerusform>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln líneas&lt;/a&gt;</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Offen: %1</source>
+        <translation>Abiertas: %1</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>Filtro: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <extracomment>&quot;12 lines in 3 projects&quot;</extracomment>
+        <translation>
+            <numerusform>%1 en %Ln proyecto</numerusform>
+            <numerusform>%1 en %Ln proyectos</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3998,10 +4105,10 @@ Fila: %2
         <translation>&amp;Cerrar</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <source>Mit %Ln abhängigen &amp;zurücknehmen</source>
         <translation>
-            <numerusform>&amp;Deshacer con los dependientes (%n)</numerusform>
-            <numerusform>&amp;Deshacer con los dependientes (%n)</numerusform>
+            <numerusform>&amp;Deshacer con los dependientes (%Ln)</numerusform>
+            <numerusform>&amp;Deshacer con los dependientes (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -4009,10 +4116,10 @@ Fila: %2
         <translation>&amp;Deshacer solo este</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <source>Mit %Ln früheren &amp;wieder ausführen</source>
         <translation>
-            <numerusform>&amp;Rehacer con los anteriores (%n)</numerusform>
-            <numerusform>&amp;Rehacer con los anteriores (%n)</numerusform>
+            <numerusform>&amp;Rehacer con los anteriores (%Ln)</numerusform>
+            <numerusform>&amp;Rehacer con los anteriores (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -4048,20 +4155,20 @@ Fila: %2
         <translation>Ahora hay algo distinto que ningún paso de esta lista decidió, por ejemplo de otro programa. El paso ya no puede moverse.</translation>
     </message>
     <message numerus="yes">
-        <source>und %n weitere</source>
+        <source>und %Ln weitere</source>
         <translation>
-            <numerusform>y %n más</numerusform>
-            <numerusform>y %n más</numerusform>
+            <numerusform>y %Ln más</numerusform>
+            <numerusform>y %Ln más</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepListModel</name>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1 en %n proyecto</numerusform>
-            <numerusform>%1 en %n proyectos</numerusform>
+            <numerusform>%1 en %Ln proyecto</numerusform>
+            <numerusform>%1 en %Ln proyectos</numerusform>
         </translation>
     </message>
     <message>
@@ -4104,10 +4211,10 @@ Fila: %2
         <translation>El cambio en %1 solo surte efecto cuando las filas se asignan de nuevo. Entonces solo se conserva lo confirmado.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
+        <source>%Ln Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
         <translation>
-            <numerusform>%n fila en %1 estaba confirmada como descatalogada y ya no lo está: %2</numerusform>
-            <numerusform>%n filas en %1 estaban confirmadas como descatalogadas y ya no lo están: %2</numerusform>
+            <numerusform>%Ln fila en %1 estaba confirmada como descatalogada y ya no lo está: %2</numerusform>
+            <numerusform>%Ln filas en %1 estaban confirmadas como descatalogadas y ya no lo están: %2</numerusform>
         </translation>
     </message>
     <message>
@@ -4123,76 +4230,76 @@ Fila: %2
         <translation>Ha desaparecido una correspondencia de variables del proyecto de destino %1 en %2.</translation>
     </message>
     <message numerus="yes">
-        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %n andere Zeile(n): %4</source>
+        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %Ln andere Zeile(n): %4</source>
         <translation>
-            <numerusform>Fila %1 → %2 en %3: la fila de destino la tiene también %n fila más: %4</numerusform>
-            <numerusform>Fila %1 → %2 en %3: la fila de destino la tienen también %n filas más: %4</numerusform>
+            <numerusform>Fila %1 → %2 en %3: la fila de destino la tiene también %Ln fila más: %4</numerusform>
+            <numerusform>Fila %1 → %2 en %3: la fila de destino la tienen también %Ln filas más: %4</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
+        <source>%Ln Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
         <translation>
-            <numerusform>%n fila en %1 comparte su fila de destino con otras recién asignadas: %2</numerusform>
-            <numerusform>%n filas en %1 comparten su fila de destino con otras recién asignadas: %2</numerusform>
+            <numerusform>%Ln fila en %1 comparte su fila de destino con otras recién asignadas: %2</numerusform>
+            <numerusform>%Ln filas en %1 comparten su fila de destino con otras recién asignadas: %2</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepSummary</name>
     <message numerus="yes">
-        <source>%n Konflikt(e) angenommen</source>
+        <source>%Ln Konflikt(e) angenommen</source>
         <translation>
-            <numerusform>%n conflicto aceptado</numerusform>
-            <numerusform>%n conflictos aceptados</numerusform>
+            <numerusform>%Ln conflicto aceptado</numerusform>
+            <numerusform>%Ln conflictos aceptados</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n fila confirmada</numerusform>
-            <numerusform>%n filas confirmadas</numerusform>
+            <numerusform>%Ln fila confirmada</numerusform>
+            <numerusform>%Ln filas confirmadas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n fila confirmada como descatalogada</numerusform>
-            <numerusform>%n filas confirmadas como descatalogadas</numerusform>
+            <numerusform>%Ln fila confirmada como descatalogada</numerusform>
+            <numerusform>%Ln filas confirmadas como descatalogadas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) zugeordnet</source>
+        <source>%Ln Zeile(n) zugeordnet</source>
         <translation>
-            <numerusform>%n fila asignada</numerusform>
-            <numerusform>%n filas asignadas</numerusform>
+            <numerusform>%Ln fila asignada</numerusform>
+            <numerusform>%Ln filas asignadas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben</source>
         <translation>
-            <numerusform>quitada la asignación de %n fila</numerusform>
-            <numerusform>quitada la asignación de %n filas</numerusform>
+            <numerusform>quitada la asignación de %Ln fila</numerusform>
+            <numerusform>quitada la asignación de %Ln filas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Wertebereichszuordnung von %n Zeile(n) geändert</source>
+        <source>Wertebereichszuordnung von %Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>cambiada la asignación de rangos de valores de %n fila</numerusform>
-            <numerusform>cambiada la asignación de rangos de valores de %n filas</numerusform>
+            <numerusform>cambiada la asignación de rangos de valores de %Ln fila</numerusform>
+            <numerusform>cambiada la asignación de rangos de valores de %Ln filas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Konflikt von %n Zeile(n) gelöst</source>
+        <source>Konflikt von %Ln Zeile(n) gelöst</source>
         <translation>
-            <numerusform>resuelto el conflicto de %n fila</numerusform>
-            <numerusform>resuelto el conflicto de %n filas</numerusform>
+            <numerusform>resuelto el conflicto de %Ln fila</numerusform>
+            <numerusform>resuelto el conflicto de %Ln filas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) geändert</source>
+        <source>%Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>%n fila cambiada</numerusform>
-            <numerusform>%n filas cambiadas</numerusform>
+            <numerusform>%Ln fila cambiada</numerusform>
+            <numerusform>%Ln filas cambiadas</numerusform>
         </translation>
     </message>
     <message>
@@ -4260,10 +4367,10 @@ Fila: %2
         <translation>%1 en %2</translation>
     </message>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1 en %n proyecto</numerusform>
-            <numerusform>%1 en %n proyectos</numerusform>
+            <numerusform>%1 en %Ln proyecto</numerusform>
+            <numerusform>%1 en %Ln proyectos</numerusform>
         </translation>
     </message>
 </context>
@@ -4309,10 +4416,10 @@ Fila: %2
         <translation>Comprobando las asignaciones de rangos de valores</translation>
     </message>
     <message numerus="yes">
-        <source>%n Wertebereichszuordnung(en) geprüft</source>
+        <source>%Ln Wertebereichszuordnung(en) geprüft</source>
         <translation>
-            <numerusform>%n asignación de rangos de valores comprobada</numerusform>
-            <numerusform>%n asignaciones de rangos de valores comprobadas</numerusform>
+            <numerusform>%Ln asignación de rangos de valores comprobada</numerusform>
+            <numerusform>%Ln asignaciones de rangos de valores comprobadas</numerusform>
         </translation>
     </message>
     <message>
@@ -4320,10 +4427,10 @@ Fila: %2
         <translation>sin objeciones</translation>
     </message>
     <message numerus="yes">
-        <source>%n Beanstandung(en)</source>
+        <source>%Ln Beanstandung(en)</source>
         <translation>
-            <numerusform>%n objeción</numerusform>
-            <numerusform>%n objeciones</numerusform>
+            <numerusform>%Ln objeción</numerusform>
+            <numerusform>%Ln objeciones</numerusform>
         </translation>
     </message>
     <message>

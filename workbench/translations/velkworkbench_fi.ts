@@ -8,101 +8,101 @@
         <translation>Muutettavaa ei ole.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigen?</source>
+        <source>%Ln Zeile(n) bestätigen?</source>
         <translation>
-            <numerusform>Vahvistetaanko %n rivi?</numerusform>
-            <numerusform>Vahvistetaanko %n riviä?</numerusform>
+            <numerusform>Vahvistetaanko %Ln rivi?</numerusform>
+            <numerusform>Vahvistetaanko %Ln riviä?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigen?</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Vahvistetaanko %n rivi poistuneeksi?</numerusform>
-            <numerusform>Vahvistetaanko %n riviä poistuneeksi?</numerusform>
+            <numerusform>Vahvistetaanko %Ln rivi poistuneeksi?</numerusform>
+            <numerusform>Vahvistetaanko %Ln riviä poistuneeksi?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben?</source>
         <translation>
-            <numerusform>Perutaanko %n rivin kohdistus?</numerusform>
-            <numerusform>Perutaanko %n rivin kohdistus?</numerusform>
+            <numerusform>Perutaanko %Ln rivin kohdistus?</numerusform>
+            <numerusform>Perutaanko %Ln rivin kohdistus?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Perutaanko %n rivin kohdistus ja vahvistetaanko se poistuneeksi?</numerusform>
-            <numerusform>Perutaanko %n rivin kohdistus ja vahvistetaanko ne poistuneiksi?</numerusform>
+            <numerusform>Perutaanko %Ln rivin kohdistus ja vahvistetaanko se poistuneeksi?</numerusform>
+            <numerusform>Perutaanko %Ln rivin kohdistus ja vahvistetaanko ne poistuneiksi?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind schon bestätigt.</source>
+        <source>%Ln davon ist/sind schon bestätigt.</source>
         <translation>
-            <numerusform>%n niistä on jo vahvistettu.</numerusform>
-            <numerusform>%n niistä on jo vahvistettu.</numerusform>
+            <numerusform>%Ln niistä on jo vahvistettu.</numerusform>
+            <numerusform>%Ln niistä on jo vahvistettu.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon verliert/verlieren ihre Wertebereichszuordnung.</source>
+        <source>%Ln davon verliert/verlieren ihre Wertebereichszuordnung.</source>
         <translation>
-            <numerusform>%n niistä menettää arvoaluekohdistuksensa.</numerusform>
-            <numerusform>%n niistä menettää arvoaluekohdistuksensa.</numerusform>
+            <numerusform>%Ln niistä menettää arvoaluekohdistuksensa.</numerusform>
+            <numerusform>%Ln niistä menettää arvoaluekohdistuksensa.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
+        <source>%Ln Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
         <translation>
-            <numerusform>%n rivi ilman kohdetta jää vahvistamatta.</numerusform>
-            <numerusform>%n riviä ilman kohdetta jää vahvistamatta.</numerusform>
+            <numerusform>%Ln rivi ilman kohdetta jää vahvistamatta.</numerusform>
+            <numerusform>%Ln riviä ilman kohdetta jää vahvistamatta.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
+        <source>%Ln Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
         <translation>
-            <numerusform>%n rivi jää ennalleen.</numerusform>
-            <numerusform>%n riviä jää ennalleen.</numerusform>
+            <numerusform>%Ln rivi jää ennalleen.</numerusform>
+            <numerusform>%Ln riviä jää ennalleen.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
+        <source>%Ln Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
         <translation>
-            <numerusform>%n ristiriitaista riviä ei muuteta.</numerusform>
-            <numerusform>%n ristiriitaista riviä ei muuteta.</numerusform>
+            <numerusform>%Ln ristiriitaista riviä ei muuteta.</numerusform>
+            <numerusform>%Ln ristiriitaista riviä ei muuteta.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
+        <source>%Ln Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
         <translation>
-            <numerusform>%n rivi ei ole missään kohdeprojektissa.</numerusform>
-            <numerusform>%n riviä ei ole missään kohdeprojektissa.</numerusform>
+            <numerusform>%Ln rivi ei ole missään kohdeprojektissa.</numerusform>
+            <numerusform>%Ln riviä ei ole missään kohdeprojektissa.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt.</source>
+        <source>%Ln Zeile(n) bestätigt.</source>
         <translation>
-            <numerusform>%n rivi vahvistettu.</numerusform>
-            <numerusform>%n riviä vahvistettu.</numerusform>
+            <numerusform>%Ln rivi vahvistettu.</numerusform>
+            <numerusform>%Ln riviä vahvistettu.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt.</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>%n rivi vahvistettu poistuneeksi.</numerusform>
-            <numerusform>%n riviä vahvistettu poistuneiksi.</numerusform>
+            <numerusform>%Ln rivi vahvistettu poistuneeksi.</numerusform>
+            <numerusform>%Ln riviä vahvistettu poistuneiksi.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben.</source>
         <translation>
-            <numerusform>%n rivin kohdistus peruttu.</numerusform>
-            <numerusform>%n rivin kohdistus peruttu.</numerusform>
+            <numerusform>%Ln rivin kohdistus peruttu.</numerusform>
+            <numerusform>%Ln rivin kohdistus peruttu.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>%n rivin kohdistus peruttu ja rivi vahvistettu poistuneeksi.</numerusform>
-            <numerusform>%n rivin kohdistus peruttu ja rivit vahvistettu poistuneiksi.</numerusform>
+            <numerusform>%Ln rivin kohdistus peruttu ja rivi vahvistettu poistuneeksi.</numerusform>
+            <numerusform>%Ln rivin kohdistus peruttu ja rivit vahvistettu poistuneiksi.</numerusform>
         </translation>
     </message>
 </context>
@@ -160,10 +160,6 @@
         <translation>Tiedostosta %1 ei ole mitään otettavaa.</translation>
     </message>
     <message>
-        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
-        <translation>Otettu tiedostosta %1: %2 / %3 vahvistettua riviä, %4 varmasti kohdistettu, %5 ehdotettu.</translation>
-    </message>
-    <message>
         <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
         <translation>Tiedostossa ei ole kohdistusta luetteloversiosta %1.</translation>
     </message>
@@ -206,6 +202,13 @@
     <message>
         <source>Entscheidungen aus %1 übernommen: %2</source>
         <translation>Päätöksiä otettu tiedostosta %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Aus %1 übernommen: %2 von %Ln bestätigten Zeile(n), %3 sicher zugeordnet, %4 vorgeschlagen.</source>
+        <translation>
+            <numerusform>Otettu tiedostosta %1: %2/%Ln vahvistettu rivi, %3 varmasti kohdistettu, %4 ehdotettu.</numerusform>
+            <numerusform>Otettu tiedostosta %1: %2/%Ln vahvistettua riviä, %3 varmasti kohdistettu, %4 ehdotettu.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -270,10 +273,10 @@
         <translation>Ristiriita %1/%2, vielä %3 avoinna</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
+        <source>%Ln Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
         <translation>
-            <numerusform>%n rivi projektissa %1 on ristiriidassa samalla tavalla. Päteekö päätös kaikkiin?</numerusform>
-            <numerusform>%n riviä projektissa %1 on ristiriidassa samalla tavalla. Päteekö päätös kaikkiin?</numerusform>
+            <numerusform>%Ln rivi projektissa %1 on ristiriidassa samalla tavalla. Päteekö päätös kaikkiin?</numerusform>
+            <numerusform>%Ln riviä projektissa %1 on ristiriidassa samalla tavalla. Päteekö päätös kaikkiin?</numerusform>
         </translation>
     </message>
     <message>
@@ -309,15 +312,11 @@ Toisen: %2</translation>
         <source>Alle Konflikte sind entschieden.</source>
         <translation>Kaikki ristiriidat on ratkaistu.</translation>
     </message>
-    <message>
-        <source>%1 von %2 Konflikten sind noch offen.</source>
-        <translation>%1/%2 ristiriitaa on vielä avoinna.</translation>
-    </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) widersprechen sich wie diese.</source>
+        <source>%Ln weitere Zeile(n) widersprechen sich wie diese.</source>
         <translation>
-            <numerusform>Vielä %n rivi on ristiriidassa samoin kuin tämä.</numerusform>
-            <numerusform>Vielä %n riviä on ristiriidassa samoin kuin tämä.</numerusform>
+            <numerusform>Vielä %Ln rivi on ristiriidassa samoin kuin tämä.</numerusform>
+            <numerusform>Vielä %Ln riviä on ristiriidassa samoin kuin tämä.</numerusform>
         </translation>
     </message>
     <message>
@@ -339,6 +338,13 @@ Toisen: %2</translation>
     <message>
         <source>Neu entscheiden</source>
         <translation>Päätä uudelleen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Konflikt(en) noch offen.</source>
+        <translation>
+            <numerusform>%1/%Ln ristiriita vielä avoinna.</numerusform>
+            <numerusform>%1/%Ln ristiriitaa vielä avoinna.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -457,10 +463,10 @@ Toisen: %2</translation>
         <translation>sama</translation>
     </message>
     <message numerus="yes">
-        <source>ersetzt wie in %n weiteren Zeile(n)</source>
+        <source>ersetzt wie in %Ln weiteren Zeile(n)</source>
         <translation>
-            <numerusform>korvattu kuten %n muulla rivillä</numerusform>
-            <numerusform>korvattu kuten %n muulla rivillä</numerusform>
+            <numerusform>korvattu kuten %Ln muulla rivillä</numerusform>
+            <numerusform>korvattu kuten %Ln muulla rivillä</numerusform>
         </translation>
     </message>
     <message>
@@ -523,10 +529,10 @@ Toisen: %2</translation>
         <translation>Varmasti kohdistettu.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n rivi</numerusform>
-            <numerusform>%n riviä</numerusform>
+            <numerusform>%Ln rivi</numerusform>
+            <numerusform>%Ln riviä</numerusform>
         </translation>
     </message>
     <message>
@@ -609,21 +615,17 @@ Toisen: %2</translation>
         <translation>&amp;Hylkää</translation>
     </message>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n rivi</numerusform>
-            <numerusform>%1: %n riviä</numerusform>
+            <numerusform>%1: %Ln rivi</numerusform>
+            <numerusform>%1: %Ln riviä</numerusform>
         </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>ja %1 muuta</translation>
-    </message>
     <message numerus="yes">
-        <source>Noch %n Zeile(n) in Konflikt, in diesen Projekten:</source>
+        <source>Noch %Ln Zeile(n) in Konflikt, in diesen Projekten:</source>
         <translation>
-            <numerusform>Vielä %n rivi ristiriidassa, näissä projekteissa:</numerusform>
-            <numerusform>Vielä %n riviä ristiriidassa, näissä projekteissa:</numerusform>
+            <numerusform>Vielä %Ln rivi ristiriidassa, näissä projekteissa:</numerusform>
+            <numerusform>Vielä %Ln riviä ristiriidassa, näissä projekteissa:</numerusform>
         </translation>
     </message>
     <message>
@@ -665,6 +667,13 @@ Toisen: %2</translation>
     <message>
         <source>Die Mapping-Datei kann nicht angelegt werden.</source>
         <translation>Kohdistustiedostoa ei voi luoda.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>ja %Ln muuta</numerusform>
+            <numerusform>ja %Ln muuta</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -728,6 +737,15 @@ Valitse toinen tiedosto.</translation>
     <message>
         <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte einen anderen Ordner wählen.</source>
         <translation>Tiedoston %1 kansioon ei voi luoda mitään (%2). Mitään ei kirjoitettu. Valitse toinen kansio.</translation>
+    </message>
+</context>
+<context>
+    <name>EditorArea</name>
+    <message>
+        <source>Keine Zeile dieses Projekts ist im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Zeilen zu sehen.</source>
+        <translation>Mikään tämän projektin rivi ei ole suodattimessa.
+Avaa ”%1” ja valitse ”%2”, niin kaikki rivit näkyvät taas.</translation>
     </message>
 </context>
 <context>
@@ -855,17 +873,17 @@ Valitse toinen tiedosto.</translation>
         <translation>Tauluja luetaan...</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n rivi</numerusform>
-            <numerusform>%n riviä</numerusform>
+            <numerusform>%Ln rivi</numerusform>
+            <numerusform>%Ln riviä</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%n projektissa</numerusform>
-            <numerusform>%n projektissa</numerusform>
+            <numerusform>%Ln projektissa</numerusform>
+            <numerusform>%Ln projektissa</numerusform>
         </translation>
     </message>
     <message>
@@ -873,10 +891,10 @@ Valitse toinen tiedosto.</translation>
         <translation>Ei suodatinta: kaikki rivit</translation>
     </message>
     <message numerus="yes">
-        <source>%n Tabelle(n) nicht lesbar</source>
+        <source>%Ln Tabelle(n) nicht lesbar</source>
         <translation>
-            <numerusform>Lukukelvottomia tauluja: %n</numerusform>
-            <numerusform>Lukukelvottomia tauluja: %n</numerusform>
+            <numerusform>Lukukelvottomia tauluja: %Ln</numerusform>
+            <numerusform>Lukukelvottomia tauluja: %Ln</numerusform>
         </translation>
     </message>
     <message>
@@ -1025,10 +1043,10 @@ Valitse toinen tiedosto.</translation>
         <translation>Rivi %1 projektissa %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1</source>
+        <source>%Ln Zeile(n) in %1</source>
         <translation>
-            <numerusform>%n rivi projektissa %1</numerusform>
-            <numerusform>%n riviä projektissa %1</numerusform>
+            <numerusform>%Ln rivi projektissa %1</numerusform>
+            <numerusform>%Ln riviä projektissa %1</numerusform>
         </translation>
     </message>
     <message>
@@ -1357,10 +1375,10 @@ Valitse toinen tiedosto.</translation>
         <translation>Kopioitua ehtoa ei vielä voi käyttää näin: arvo puuttuu, on alue tai sisältää lainausmerkin: %1</translation>
     </message>
     <message numerus="yes">
-        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.</source>
+        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %Ln Zeile(n) offen.</source>
         <translation>
-            <numerusform>Täällä suodattimessa kaikki on tehty, ulkopuolella on vielä %n rivi avoinna.</numerusform>
-            <numerusform>Täällä suodattimessa kaikki on tehty, ulkopuolella on vielä %n riviä avoinna.</numerusform>
+            <numerusform>Täällä suodattimessa kaikki on tehty, ulkopuolella on vielä %Ln rivi avoinna.</numerusform>
+            <numerusform>Täällä suodattimessa kaikki on tehty, ulkopuolella on vielä %Ln riviä avoinna.</numerusform>
         </translation>
     </message>
     <message>
@@ -1428,16 +1446,16 @@ Valitse toinen tiedosto.</translation>
         <translation>Kyse on kaikista projektin riveistä.</translation>
     </message>
     <message>
-        <source>Gemeint sind die %1 gezeigten von %2 Zeilen des Projekts.</source>
-        <translation>Kyse on näytetyistä %1 rivistä projektin %2 rivistä.</translation>
-    </message>
-    <message>
         <source>Filter: %1.</source>
         <translation>Suodatin: %1.</translation>
     </message>
     <message>
         <source>Kein anderes Projekt hat solche Zeilen</source>
         <translation>Missään muussa projektissa ei ole tällaisia rivejä</translation>
+    </message>
+    <message>
+        <source>Gemeint sind nur die gezeigten Zeilen des Projekts: %1 von %2.</source>
+        <translation>Kyse on vain projektin näytetyistä riveistä: %1/%2.</translation>
     </message>
 </context>
 <context>
@@ -1670,10 +1688,6 @@ Valitse toinen tiedosto.</translation>
         <translation>&amp;Sulje</translation>
     </message>
     <message>
-        <source>Die ersten %1 Links; die Suche zeigt andere.</source>
-        <translation>Ensimmäiset %1 linkkiä; haku näyttää muita.</translation>
-    </message>
-    <message>
         <source>Links: %1</source>
         <translation>Linkkejä: %1</translation>
     </message>
@@ -1692,6 +1706,13 @@ Valitse toinen tiedosto.</translation>
     <message>
         <source>&amp;Wiederherstellen</source>
         <translation>&amp;Palauta</translation>
+    </message>
+    <message numerus="yes">
+        <source>Die ersten %Ln Link(s); die Suche zeigt andere.</source>
+        <translation>
+            <numerusform>Ensimmäinen linkki (%Ln); haku näyttää muita.</numerusform>
+            <numerusform>Ensimmäiset %Ln linkkiä; haku näyttää muita.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1814,15 +1835,18 @@ Valitse toinen tiedosto.</translation>
         <source>Nichts gefunden</source>
         <translation>Mitään ei löytynyt</translation>
     </message>
-    <message>
-        <source>Die ersten %1 von %2 Treffern</source>
-        <translation>Ensimmäiset %1/%2 osumaa</translation>
+    <message numerus="yes">
+        <source>%Ln Treffer</source>
+        <translation>
+            <numerusform>%Ln osuma</numerusform>
+            <numerusform>%Ln osumaa</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
-        <source>%n Treffer</source>
+        <source>Die ersten %1 von %Ln Treffer(n)</source>
         <translation>
-            <numerusform>%n osuma</numerusform>
-            <numerusform>%n osumaa</numerusform>
+            <numerusform>Ensimmäiset %1/%Ln osuma</numerusform>
+            <numerusform>Ensimmäiset %1/%Ln osumaa</numerusform>
         </translation>
     </message>
 </context>
@@ -2045,24 +2069,24 @@ Valitse toinen tiedosto.</translation>
         <translation>Omat muutokset tiedoston version päällä</translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): eigene Entscheidung</source>
+        <source>%Ln Konflikt(e): eigene Entscheidung</source>
         <translation>
-            <numerusform>%n ristiriita: oma päätös</numerusform>
-            <numerusform>%n ristiriitaa: oma päätös</numerusform>
+            <numerusform>%Ln ristiriita: oma päätös</numerusform>
+            <numerusform>%Ln ristiriitaa: oma päätös</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): Entscheidung der anderen Seite</source>
+        <source>%Ln Konflikt(e): Entscheidung der anderen Seite</source>
         <translation>
-            <numerusform>%n ristiriita: toisen osapuolen päätös</numerusform>
-            <numerusform>%n ristiriitaa: toisen osapuolen päätös</numerusform>
+            <numerusform>%Ln ristiriita: toisen osapuolen päätös</numerusform>
+            <numerusform>%Ln ristiriitaa: toisen osapuolen päätös</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): neu zu entscheiden</source>
+        <source>%Ln Konflikt(e): neu zu entscheiden</source>
         <translation>
-            <numerusform>%n ristiriita: päätettävä uudelleen</numerusform>
-            <numerusform>%n ristiriitaa: päätettävä uudelleen</numerusform>
+            <numerusform>%Ln ristiriita: päätettävä uudelleen</numerusform>
+            <numerusform>%Ln ristiriitaa: päätettävä uudelleen</numerusform>
         </translation>
     </message>
     <message>
@@ -2133,50 +2157,67 @@ Valitse toinen tiedosto.</translation>
         <translation>Keskeytetty, mitään ei luotu</translation>
     </message>
     <message>
-        <source>%1 Projekte: %2 am selben Ort, %3 an anderem, %4 aufgeteilt, %5 ohne Ziel, %6 unlesbar</source>
-        <translation>Projekteja %1: samassa paikassa %2, muualla %3, jaettu %4, ilman kohdetta %5, lukukelvottomia %6</translation>
-    </message>
-    <message>
         <source>Zeilen werden zugeordnet</source>
         <translation>Kohdistetaan rivejä</translation>
     </message>
-    <message>
-        <source>Abgebrochen: %1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>Keskeytetty: projekteja %1/%2, rivejä %3, joista kohdistettu %4, tarkistettava %5, ilman kohdetta %6</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e): %1 am selben Ort, %2 an anderem, %3 aufgeteilt, %4 ohne Ziel, %5 unlesbar</source>
+        <translation>
+            <numerusform>%Ln projekti: samassa paikassa %1, muualla %2, jaettu %3, ilman kohdetta %4, lukukelvottomia %5</numerusform>
+            <numerusform>%Ln projektia: samassa paikassa %1, muualla %2, jaettu %3, ilman kohdetta %4, lukukelvottomia %5</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1/%Ln projekti</numerusform>
+            <numerusform>%1/%Ln projektia</numerusform>
+        </translation>
     </message>
     <message>
-        <source>%1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>Projekteja %1/%2, rivejä %3, joista kohdistettu %4, tarkistettava %5, ilman kohdetta %6</translation>
+        <source>davon %1 zugeordnet, %2 zu prüfen, %3 ohne Ziel</source>
+        <translation>joista kohdistettu %1, tarkistettava %2, ilman kohdetta %3</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>Keskeytetty: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1, %Ln rivi</numerusform>
+            <numerusform>%1, %Ln riviä</numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>MergeState</name>
     <message numerus="yes">
-        <source>%n Änderung(en) übernommen.</source>
+        <source>%Ln Änderung(en) übernommen.</source>
         <translation>
-            <numerusform>%n muutos otettu mukaan.</numerusform>
-            <numerusform>%n muutosta otettu mukaan.</numerusform>
+            <numerusform>%Ln muutos otettu mukaan.</numerusform>
+            <numerusform>%Ln muutosta otettu mukaan.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) haben beide gleich entschieden.</source>
+        <source>%Ln Zeile(n) haben beide gleich entschieden.</source>
         <translation>
-            <numerusform>%n rivistä molemmat ovat päättäneet samoin.</numerusform>
-            <numerusform>%n rivistä molemmat ovat päättäneet samoin.</numerusform>
+            <numerusform>%Ln rivistä molemmat ovat päättäneet samoin.</numerusform>
+            <numerusform>%Ln rivistä molemmat ovat päättäneet samoin.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
+        <source>%Ln Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
         <translation>
-            <numerusform>%n rivistä on päätetty eri tavoin, ja se on merkitty ristiriidaksi.</numerusform>
-            <numerusform>%n rivistä on päätetty eri tavoin, ja ne on merkitty ristiriidaksi.</numerusform>
+            <numerusform>%Ln rivistä on päätetty eri tavoin, ja se on merkitty ristiriidaksi.</numerusform>
+            <numerusform>%Ln rivistä on päätetty eri tavoin, ja ne on merkitty ristiriidaksi.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
+        <source>%Ln andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
         <translation>
-            <numerusform>%n muu ristiriitaisuus: tiedoston versio pätee.</numerusform>
-            <numerusform>%n muuta ristiriitaisuutta: tiedoston versio pätee.</numerusform>
+            <numerusform>%Ln muu ristiriitaisuus: tiedoston versio pätee.</numerusform>
+            <numerusform>%Ln muuta ristiriitaisuutta: tiedoston versio pätee.</numerusform>
         </translation>
     </message>
 </context>
@@ -2202,17 +2243,17 @@ Valitse toinen tiedosto.</translation>
         <translation>Taulukoita verrataan</translation>
     </message>
     <message numerus="yes">
-        <source>%n zugeordnete Zeile(n) angesehen</source>
+        <source>%Ln zugeordnete Zeile(n) angesehen</source>
         <translation>
-            <numerusform>%n kohdistettu rivi katsottu</numerusform>
-            <numerusform>%n kohdistettua riviä katsottu</numerusform>
+            <numerusform>%Ln kohdistettu rivi katsottu</numerusform>
+            <numerusform>%Ln kohdistettua riviä katsottu</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Fundstelle(n)</source>
+        <source>%Ln Fundstelle(n)</source>
         <translation>
-            <numerusform>%n löydös</numerusform>
-            <numerusform>%n löydöstä</numerusform>
+            <numerusform>%Ln löydös</numerusform>
+            <numerusform>%Ln löydöstä</numerusform>
         </translation>
     </message>
     <message>
@@ -2437,43 +2478,39 @@ Valitse toinen tiedosto.</translation>
 </context>
 <context>
     <name>PatternDock</name>
-    <message>
-        <source>Die Tabellen werden verglichen: %1 Projekte gelesen</source>
-        <translation>Taulukoita verrataan: luettuja projekteja %1</translation>
-    </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) mit Vorschlag</source>
+        <source>%Ln offene Zeile(n) mit Vorschlag</source>
         <translation>
-            <numerusform>%n avoin rivi, jolla on ehdotus</numerusform>
-            <numerusform>%n avointa riviä, joilla on ehdotus</numerusform>
+            <numerusform>%Ln avoin rivi, jolla on ehdotus</numerusform>
+            <numerusform>%Ln avointa riviä, joilla on ehdotus</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Muster(n)</source>
+        <source>in %Ln Muster(n)</source>
         <translation>
-            <numerusform>%n mallissa</numerusform>
-            <numerusform>%n mallissa</numerusform>
+            <numerusform>%Ln mallissa</numerusform>
+            <numerusform>%Ln mallissa</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon wird/werden noch verglichen</source>
+        <source>%Ln davon wird/werden noch verglichen</source>
         <translation>
-            <numerusform>%n niistä on vielä vertailussa</numerusform>
-            <numerusform>%n niistä on vielä vertailussa</numerusform>
+            <numerusform>%Ln niistä on vielä vertailussa</numerusform>
+            <numerusform>%Ln niistä on vielä vertailussa</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Gewählt: %n Zeile(n)</source>
+        <source>Gewählt: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>Valittu: %n rivi</numerusform>
-            <numerusform>Valittu: %n riviä</numerusform>
+            <numerusform>Valittu: %Ln rivi</numerusform>
+            <numerusform>Valittu: %Ln riviä</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon herausgenommen</source>
+        <source>%Ln davon herausgenommen</source>
         <translation>
-            <numerusform>%n niistä jätetty pois</numerusform>
-            <numerusform>%n niistä jätetty pois</numerusform>
+            <numerusform>%Ln niistä jätetty pois</numerusform>
+            <numerusform>%Ln niistä jätetty pois</numerusform>
         </translation>
     </message>
     <message>
@@ -2481,41 +2518,48 @@ Valitse toinen tiedosto.</translation>
         <translation>Avointen rivien erot</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%n projektissa</numerusform>
-            <numerusform>%n projektissa</numerusform>
+            <numerusform>%Ln projektissa</numerusform>
+            <numerusform>%Ln projektissa</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <source>%Ln offene Zeile(n) ohne Nachfolger</source>
         <translation>
-            <numerusform>%n avoin rivi ilman seuraajaa</numerusform>
-            <numerusform>%n avointa riviä ilman seuraajaa</numerusform>
+            <numerusform>%Ln avoin rivi ilman seuraajaa</numerusform>
+            <numerusform>%Ln avointa riviä ilman seuraajaa</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Die Tabellen werden verglichen: %Ln Projekt(e) gelesen</source>
+        <translation>
+            <numerusform>Taulukoita verrataan: %Ln projekti luettu</numerusform>
+            <numerusform>Taulukoita verrataan: %Ln projektia luettu</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>PatternModel</name>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n rivi</numerusform>
-            <numerusform>%n riviä</numerusform>
+            <numerusform>%Ln rivi</numerusform>
+            <numerusform>%Ln riviä</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Projekt(e)</source>
+        <source>%Ln Projekt(e)</source>
         <translation>
-            <numerusform>%n projekti</numerusform>
-            <numerusform>%n projektia</numerusform>
+            <numerusform>%Ln projekti</numerusform>
+            <numerusform>%Ln projektia</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) haben diese und andere Unterschiede</source>
+        <source>%Ln weitere Zeile(n) haben diese und andere Unterschiede</source>
         <translation>
-            <numerusform>Vielä %n rivillä on näitä ja muita eroja</numerusform>
-            <numerusform>Vielä %n rivillä on näitä ja muita eroja</numerusform>
+            <numerusform>Vielä %Ln rivillä on näitä ja muita eroja</numerusform>
+            <numerusform>Vielä %Ln rivillä on näitä ja muita eroja</numerusform>
         </translation>
     </message>
     <message>
@@ -2742,10 +2786,10 @@ Rivi: %2
         <translation>Rivi %1: %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
+        <source>%Ln Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
         <translation>
-            <numerusform>%n rivi on vahvistettu, vaikka sen alueen arvoilla ei ole uutta riviä.</numerusform>
-            <numerusform>%n riviä on vahvistettu, vaikka niiden alueiden arvoilla ei ole uutta riviä.</numerusform>
+            <numerusform>%Ln rivi on vahvistettu, vaikka sen alueen arvoilla ei ole uutta riviä.</numerusform>
+            <numerusform>%Ln riviä on vahvistettu, vaikka niiden alueiden arvoilla ei ole uutta riviä.</numerusform>
         </translation>
     </message>
     <message>
@@ -2760,19 +2804,15 @@ Rivi: %2
 <context>
     <name>RangeDock</name>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n rivi</numerusform>
-            <numerusform>%1: %n riviä</numerusform>
+            <numerusform>%1: %Ln rivi</numerusform>
+            <numerusform>%1: %Ln riviä</numerusform>
         </translation>
     </message>
     <message>
         <source>Die Zeile hat keine Wertebereichszuordnung.</source>
         <translation>Rivillä ei ole arvoaluekohdistusta.</translation>
-    </message>
-    <message>
-        <source>%1: %2 von %3 Werten zugeordnet</source>
-        <translation>%1: %2/%3 arvoa kohdistettu</translation>
     </message>
     <message>
         <source>fehlend: %1</source>
@@ -2789,6 +2829,13 @@ Rivi: %2
     <message>
         <source>Wertebereich der Zeile</source>
         <translation>Rivin arvoalue</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 von %Ln Wert(en) zugeordnet</source>
+        <translation>
+            <numerusform>%1: %2/%Ln arvo kohdistettu</numerusform>
+            <numerusform>%1: %2/%Ln arvoa kohdistettu</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2831,10 +2878,6 @@ Rivi: %2
     <message>
         <source>Wiederherstellung</source>
         <translation>Palautus</translation>
-    </message>
-    <message>
-        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2 Schritte mit %3 Zeilen in %4 Projekten, zuletzt „%5“. Sie stammt von %6.</source>
-        <translation>Tiedostoon %1 liittyy työtä, jota ei tallennettu: vaiheita %2, rivejä %3, projekteja %4, viimeksi ”%5”. Sen on tehnyt %6.</translation>
     </message>
     <message>
         <source>Gespeichert</source>
@@ -2884,16 +2927,37 @@ Rivi: %2
         <source>&amp;Gespeicherten Stand öffnen</source>
         <translation>&amp;Avaa tallennettu versio</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln Schritt(e)</source>
+        <translation>
+            <numerusform>%Ln vaihe</numerusform>
+            <numerusform>%Ln vaihetta</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2, zuletzt „%3“. Sie stammt von %4.</source>
+        <translation>Tiedostoon %1 liittyy työtä, jota ei tallennettu: %2, viimeksi ”%3”. Sen on tehnyt %4.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1, %Ln rivi</numerusform>
+            <numerusform>%1, %Ln riviä</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1, %Ln projektissa</numerusform>
+            <numerusform>%1, %Ln projektissa</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ReleaseCommands</name>
     <message>
         <source>Tabellen werden importiert</source>
         <translation>Tuodaan taulukoita</translation>
-    </message>
-    <message>
-        <source>%1 Tabellen mit %2 Zeilen: %3 neu, %4 geändert, %5 unverändert, %6 nicht importiert</source>
-        <translation>Taulukoita %1, rivejä %2: uusia %3, muutettuja %4, muuttumattomia %5, tuomatta %6</translation>
     </message>
     <message>
         <source>%1 hat keine CSV-Datei mehr und bleibt, wie es ist</source>
@@ -2932,10 +2996,6 @@ Rivi: %2
         <translation>Keskeytetty, mitään ei viety</translation>
     </message>
     <message>
-        <source>%1 Zeilen nach %2 exportiert</source>
-        <translation>%1 riviä viety tiedostoon %2</translation>
-    </message>
-    <message>
         <source>Bericht schreiben</source>
         <translation>Kirjoita raportti</translation>
     </message>
@@ -2966,6 +3026,31 @@ Rivi: %2
     <message>
         <source>Seite %1 von %2</source>
         <translation>Sivu %1/%2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Tabelle(n)</source>
+        <translation>
+            <numerusform>%Ln taulukko</numerusform>
+            <numerusform>%Ln taulukkoa</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 neu, %2 geändert, %3 unverändert, %4 nicht importiert</source>
+        <translation>uusia %1, muutettuja %2, muuttumattomia %3, tuomatta %4</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Zeile(n) nach %1 exportiert</source>
+        <translation>
+            <numerusform>%Ln rivi viety tiedostoon %1</numerusform>
+            <numerusform>%Ln riviä viety tiedostoon %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1, %Ln rivi</numerusform>
+            <numerusform>%1, %Ln riviä</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3011,17 +3096,17 @@ Rivi: %2
         <translation>Taulukoita luetaan</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dafür</source>
+        <source>%Ln Zeile(n) dafür</source>
         <translation>
-            <numerusform>%n rivi puolesta</numerusform>
-            <numerusform>%n riviä puolesta</numerusform>
+            <numerusform>%Ln rivi puolesta</numerusform>
+            <numerusform>%Ln riviä puolesta</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dagegen</source>
+        <source>%Ln Zeile(n) dagegen</source>
         <translation>
-            <numerusform>%n rivi vastaan</numerusform>
-            <numerusform>%n riviä vastaan</numerusform>
+            <numerusform>%Ln rivi vastaan</numerusform>
+            <numerusform>%Ln riviä vastaan</numerusform>
         </translation>
     </message>
 </context>
@@ -3038,10 +3123,6 @@ Rivi: %2
     <message>
         <source>Erstellt am %1</source>
         <translation>Luotu %1</translation>
-    </message>
-    <message>
-        <source>Erledigt: %1 von %2 Zeilen; offen: %3.</source>
-        <translation>Valmiina: %1/%2 riviä; avoinna: %3.</translation>
     </message>
     <message>
         <source>Stand der Zeilen</source>
@@ -3267,6 +3348,10 @@ Rivi: %2
         <source>Beurteilte Zeilen</source>
         <translation>Arvioidut rivit</translation>
     </message>
+    <message>
+        <source>Erledigte Zeilen: %1 von %2; offen: %3.</source>
+        <translation>Valmiita rivejä: %1/%2; avoinna: %3.</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3345,10 +3430,10 @@ Rivi: %2
         <translation>Taulukoita ei ole vielä verrattu</translation>
     </message>
     <message numerus="yes">
-        <source>Von vorn: %n Zeile(n) offen</source>
+        <source>Von vorn: %Ln Zeile(n) offen</source>
         <translation>
-            <numerusform>Alusta: %n rivi avoinna</numerusform>
-            <numerusform>Alusta: %n riviä avoinna</numerusform>
+            <numerusform>Alusta: %Ln rivi avoinna</numerusform>
+            <numerusform>Alusta: %Ln riviä avoinna</numerusform>
         </translation>
     </message>
     <message>
@@ -3372,17 +3457,17 @@ Rivi: %2
         <translation>Mallia ei ole valittu, tai kaikista sen riveistä on päätetty</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n rivi</numerusform>
-            <numerusform>%n riviä</numerusform>
+            <numerusform>%Ln rivi</numerusform>
+            <numerusform>%Ln riviä</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en) bestätigen?</source>
+        <source>in %Ln Projekt(en) bestätigen?</source>
         <translation>
-            <numerusform>vahvistetaanko %n projektissa?</numerusform>
-            <numerusform>vahvistetaanko %n projektissa?</numerusform>
+            <numerusform>vahvistetaanko %Ln projektissa?</numerusform>
+            <numerusform>vahvistetaanko %Ln projektissa?</numerusform>
         </translation>
     </message>
     <message>
@@ -3394,10 +3479,10 @@ Rivi: %2
         <translation>&amp;Vahvista</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n rivi vahvistettu</numerusform>
-            <numerusform>%n riviä vahvistettu</numerusform>
+            <numerusform>%Ln rivi vahvistettu</numerusform>
+            <numerusform>%Ln riviä vahvistettu</numerusform>
         </translation>
     </message>
     <message>
@@ -3419,10 +3504,6 @@ Rivi: %2
     <message>
         <source>Stichprobe</source>
         <translation>Otos</translation>
-    </message>
-    <message>
-        <source>So viele von %1 Zeilen werden gezogen und einzeln beurteilt. %2 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %3 richtige weniger als 1 %.</source>
-        <translation>Näin monta riviä %1 rivistä arvotaan ja arvioidaan yksitellen. %2 oikeaa kertoo 95 %:n varmuudella, että alle 5 % on väärin, %3 oikeaa, että alle 1 %.</translation>
     </message>
     <message>
         <source>&amp;Ziehen</source>
@@ -3481,10 +3562,10 @@ Rivi: %2
         <translation>&amp;Katso väärää riviä</translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind unsicher.</source>
+        <source>%Ln davon ist/sind unsicher.</source>
         <translation>
-            <numerusform>%n niistä on epävarma.</numerusform>
-            <numerusform>%n niistä on epävarmoja.</numerusform>
+            <numerusform>%Ln niistä on epävarma.</numerusform>
+            <numerusform>%Ln niistä on epävarmoja.</numerusform>
         </translation>
     </message>
     <message>
@@ -3492,22 +3573,29 @@ Rivi: %2
         <translation>Kaikki mallit on käsitelty</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%n projektissa</numerusform>
-            <numerusform>%n projektissa</numerusform>
+            <numerusform>%Ln projektissa</numerusform>
+            <numerusform>%Ln projektissa</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n rivi vahvistettu poistuneeksi</numerusform>
-            <numerusform>%n riviä vahvistettu poistuneiksi</numerusform>
+            <numerusform>%Ln rivi vahvistettu poistuneeksi</numerusform>
+            <numerusform>%Ln riviä vahvistettu poistuneiksi</numerusform>
         </translation>
     </message>
     <message>
         <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
         <translation>Rivi %1 projektissa %2 on väärin. Joukko on jaettu; millä osalla jatketaan?</translation>
+    </message>
+    <message numerus="yes">
+        <source>So viele von %Ln Zeile(n) werden gezogen und einzeln beurteilt. %1 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %2 richtige weniger als 1 %.</source>
+        <translation>
+            <numerusform>Näin monta riviä %Ln rivistä arvotaan ja arvioidaan yksitellen. %1 oikeaa kertoo 95 %:n varmuudella, että alle 5 % on väärin, %2 oikeaa, että alle 1 %.</numerusform>
+            <numerusform>Näin monta riviä %Ln rivistä arvotaan ja arvioidaan yksitellen. %1 oikeaa kertoo 95 %:n varmuudella, että alle 5 % on väärin, %2 oikeaa, että alle 1 %.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3665,16 +3753,22 @@ Rivi: %2
         <translation>Viimeisen päättyneen istunnon jälkeen päiväkirjaa %1 ei voi lukea. Mitä siinä oli, ei tiedetä; päiväkirja säilytetään.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passen noch %2 Änderungen, %3 passen nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
-        <translation>Päiväkirja %1 on vaurioitunut. Vauriokohdan jälkeen %2 muutosta sopii vielä, %3 ei enää sovi; muitakin voi puuttua. Päiväkirja säilytetään.</translation>
-    </message>
-    <message>
         <source>Das Ende des Journals %1 ist nicht lesbar. Die letzte Änderung kann fehlen.</source>
         <translation>Päiväkirjan %1 loppua ei voi lukea. Viimeinen muutos saattaa puuttua.</translation>
     </message>
-    <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
-        <translation>Päiväkirja %1 on vaurioitunut tai ei sovi kohdistustiedostoon. Vähintään %2 myöhempää muutosta puuttuu; päiväkirja säilytetään.</translation>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passt/passen noch %Ln Änderung(en), %2 nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>Päiväkirja %1 on vaurioitunut. Vauriokohdan jälkeen %Ln muutos sopii vielä, %2 ei enää sovi; muitakin voi puuttua. Päiväkirja säilytetään.</numerusform>
+            <numerusform>Päiväkirja %1 on vaurioitunut. Vauriokohdan jälkeen %Ln muutosta sopii vielä, %2 ei enää sovi; muitakin voi puuttua. Päiväkirja säilytetään.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %Ln spätere Änderung(en) fehlt/fehlen; das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>Päiväkirja %1 on vaurioitunut tai ei sovi kohdistustiedostoon. Vähintään %Ln myöhempi muutos puuttuu; päiväkirja säilytetään.</numerusform>
+            <numerusform>Päiväkirja %1 on vaurioitunut tai ei sovi kohdistustiedostoon. Vähintään %Ln myöhempää muutosta puuttuu; päiväkirja säilytetään.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3926,11 +4020,6 @@ Rivi: %2
         <translation>Kaikesta on päätetty</translation>
     </message>
     <message>
-        <source>Offen: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Avoinna: &lt;a href=&quot;next&quot;&gt;%1 riviä&lt;/a&gt; %2 projektissa</translation>
-    </message>
-    <message>
         <source>Zeilen, die noch eine Entscheidung brauchen</source>
         <translation>Rivit, jotka vielä vaativat päätöksen</translation>
     </message>
@@ -3943,13 +4032,31 @@ Rivi: %2
         <translation>Suodatin: ei rivejä</translation>
     </message>
     <message>
-        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Suodatin: &lt;a href=&quot;next&quot;&gt;%1 riviä&lt;/a&gt; %2 projektissa</translation>
-    </message>
-    <message>
         <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
         <translation>Rivit, jotka suodatin kaikille riveille näyttää</translation>
+    </message>
+    <message numerus="yes">
+        <source>&lt;a href=&quot;next&quot;&gt;%Ln Zeile(n)&lt;/a&gt;</source>
+        <translation>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln rivi&lt;/a&gt;</numerusform>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln riviä&lt;/a&gt;</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Offen: %1</source>
+        <translation>Avoinna: %1</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>Suodatin: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <extracomment>&quot;12 lines in 3 projects&quot;</extracomment>
+        <translation>
+            <numerusform>%1, %Ln projektissa</numerusform>
+            <numerusform>%1, %Ln projektissa</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3998,10 +4105,10 @@ Rivi: %2
         <translation>&amp;Sulje</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <source>Mit %Ln abhängigen &amp;zurücknehmen</source>
         <translation>
-            <numerusform>&amp;Peru riippuvien kanssa (%n)</numerusform>
-            <numerusform>&amp;Peru riippuvien kanssa (%n)</numerusform>
+            <numerusform>&amp;Peru riippuvien kanssa (%Ln)</numerusform>
+            <numerusform>&amp;Peru riippuvien kanssa (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -4009,10 +4116,10 @@ Rivi: %2
         <translation>&amp;Peru vain tämä</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <source>Mit %Ln früheren &amp;wieder ausführen</source>
         <translation>
-            <numerusform>T&amp;ee uudelleen aiempien kanssa (%n)</numerusform>
-            <numerusform>T&amp;ee uudelleen aiempien kanssa (%n)</numerusform>
+            <numerusform>T&amp;ee uudelleen aiempien kanssa (%Ln)</numerusform>
+            <numerusform>T&amp;ee uudelleen aiempien kanssa (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -4048,20 +4155,20 @@ Rivi: %2
         <translation>Siinä on nyt jotain muuta, mitä mikään luettelon vaihe ei päättänyt, esimerkiksi toisen ohjelman jälki. Vaihetta ei voi enää siirtää.</translation>
     </message>
     <message numerus="yes">
-        <source>und %n weitere</source>
+        <source>und %Ln weitere</source>
         <translation>
-            <numerusform>ja %n muuta</numerusform>
-            <numerusform>ja %n muuta</numerusform>
+            <numerusform>ja %Ln muuta</numerusform>
+            <numerusform>ja %Ln muuta</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepListModel</name>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1, %n projektissa</numerusform>
-            <numerusform>%1, %n projektissa</numerusform>
+            <numerusform>%1, %Ln projektissa</numerusform>
+            <numerusform>%1, %Ln projektissa</numerusform>
         </translation>
     </message>
     <message>
@@ -4104,10 +4211,10 @@ Rivi: %2
         <translation>Projektin %1 muutos vaikuttaa vasta, kun rivit kohdistetaan uudelleen. Silloin säilyy vain se, mikä on vahvistettu.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
+        <source>%Ln Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
         <translation>
-            <numerusform>%n rivi projektissa %1 oli vahvistettu poistuneeksi eikä enää ole: %2</numerusform>
-            <numerusform>%n riviä projektissa %1 oli vahvistettu poistuneiksi eikä enää ole: %2</numerusform>
+            <numerusform>%Ln rivi projektissa %1 oli vahvistettu poistuneeksi eikä enää ole: %2</numerusform>
+            <numerusform>%Ln riviä projektissa %1 oli vahvistettu poistuneiksi eikä enää ole: %2</numerusform>
         </translation>
     </message>
     <message>
@@ -4123,76 +4230,76 @@ Rivi: %2
         <translation>Kohdeprojektin %1 muuttujien kohdistus projektissa %2 on poistunut.</translation>
     </message>
     <message numerus="yes">
-        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %n andere Zeile(n): %4</source>
+        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %Ln andere Zeile(n): %4</source>
         <translation>
-            <numerusform>Rivi %1 → %2 projektissa %3: kohderivi on myös %n muulla rivillä: %4</numerusform>
-            <numerusform>Rivi %1 → %2 projektissa %3: kohderivi on myös %n muulla rivillä: %4</numerusform>
+            <numerusform>Rivi %1 → %2 projektissa %3: kohderivi on myös %Ln muulla rivillä: %4</numerusform>
+            <numerusform>Rivi %1 → %2 projektissa %3: kohderivi on myös %Ln muulla rivillä: %4</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
+        <source>%Ln Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
         <translation>
-            <numerusform>%n rivi projektissa %1 jakaa kohderivinsä äsken kohdistettujen kanssa: %2</numerusform>
-            <numerusform>%n riviä projektissa %1 jakaa kohderivinsä äsken kohdistettujen kanssa: %2</numerusform>
+            <numerusform>%Ln rivi projektissa %1 jakaa kohderivinsä äsken kohdistettujen kanssa: %2</numerusform>
+            <numerusform>%Ln riviä projektissa %1 jakaa kohderivinsä äsken kohdistettujen kanssa: %2</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepSummary</name>
     <message numerus="yes">
-        <source>%n Konflikt(e) angenommen</source>
+        <source>%Ln Konflikt(e) angenommen</source>
         <translation>
-            <numerusform>%n ristiriita hyväksytty</numerusform>
-            <numerusform>%n ristiriitaa hyväksytty</numerusform>
+            <numerusform>%Ln ristiriita hyväksytty</numerusform>
+            <numerusform>%Ln ristiriitaa hyväksytty</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n rivi vahvistettu</numerusform>
-            <numerusform>%n riviä vahvistettu</numerusform>
+            <numerusform>%Ln rivi vahvistettu</numerusform>
+            <numerusform>%Ln riviä vahvistettu</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n rivi vahvistettu poistuneeksi</numerusform>
-            <numerusform>%n riviä vahvistettu poistuneiksi</numerusform>
+            <numerusform>%Ln rivi vahvistettu poistuneeksi</numerusform>
+            <numerusform>%Ln riviä vahvistettu poistuneiksi</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) zugeordnet</source>
+        <source>%Ln Zeile(n) zugeordnet</source>
         <translation>
-            <numerusform>%n rivi kohdistettu</numerusform>
-            <numerusform>%n riviä kohdistettu</numerusform>
+            <numerusform>%Ln rivi kohdistettu</numerusform>
+            <numerusform>%Ln riviä kohdistettu</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben</source>
         <translation>
-            <numerusform>%n rivin kohdistus peruttu</numerusform>
-            <numerusform>%n rivin kohdistus peruttu</numerusform>
+            <numerusform>%Ln rivin kohdistus peruttu</numerusform>
+            <numerusform>%Ln rivin kohdistus peruttu</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Wertebereichszuordnung von %n Zeile(n) geändert</source>
+        <source>Wertebereichszuordnung von %Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>%n rivin arvoaluekohdistus muutettu</numerusform>
-            <numerusform>%n rivin arvoaluekohdistus muutettu</numerusform>
+            <numerusform>%Ln rivin arvoaluekohdistus muutettu</numerusform>
+            <numerusform>%Ln rivin arvoaluekohdistus muutettu</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Konflikt von %n Zeile(n) gelöst</source>
+        <source>Konflikt von %Ln Zeile(n) gelöst</source>
         <translation>
-            <numerusform>%n rivin ristiriita ratkaistu</numerusform>
-            <numerusform>%n rivin ristiriita ratkaistu</numerusform>
+            <numerusform>%Ln rivin ristiriita ratkaistu</numerusform>
+            <numerusform>%Ln rivin ristiriita ratkaistu</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) geändert</source>
+        <source>%Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>%n rivi muutettu</numerusform>
-            <numerusform>%n riviä muutettu</numerusform>
+            <numerusform>%Ln rivi muutettu</numerusform>
+            <numerusform>%Ln riviä muutettu</numerusform>
         </translation>
     </message>
     <message>
@@ -4260,10 +4367,10 @@ Rivi: %2
         <translation>%1 projektissa %2</translation>
     </message>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1, %n projektissa</numerusform>
-            <numerusform>%1, %n projektissa</numerusform>
+            <numerusform>%1, %Ln projektissa</numerusform>
+            <numerusform>%1, %Ln projektissa</numerusform>
         </translation>
     </message>
 </context>
@@ -4309,10 +4416,10 @@ Rivi: %2
         <translation>Tarkistetaan arvoaluekohdistuksia</translation>
     </message>
     <message numerus="yes">
-        <source>%n Wertebereichszuordnung(en) geprüft</source>
+        <source>%Ln Wertebereichszuordnung(en) geprüft</source>
         <translation>
-            <numerusform>%n arvoaluekohdistus tarkistettu</numerusform>
-            <numerusform>%n arvoaluekohdistusta tarkistettu</numerusform>
+            <numerusform>%Ln arvoaluekohdistus tarkistettu</numerusform>
+            <numerusform>%Ln arvoaluekohdistusta tarkistettu</numerusform>
         </translation>
     </message>
     <message>
@@ -4320,10 +4427,10 @@ Rivi: %2
         <translation>ei huomautettavaa</translation>
     </message>
     <message numerus="yes">
-        <source>%n Beanstandung(en)</source>
+        <source>%Ln Beanstandung(en)</source>
         <translation>
-            <numerusform>%n huomautus</numerusform>
-            <numerusform>%n huomautusta</numerusform>
+            <numerusform>%Ln huomautus</numerusform>
+            <numerusform>%Ln huomautusta</numerusform>
         </translation>
     </message>
     <message>

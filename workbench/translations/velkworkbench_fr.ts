@@ -8,101 +8,101 @@
         <translation>Il n&apos;y a rien à modifier.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigen?</source>
+        <source>%Ln Zeile(n) bestätigen?</source>
         <translation>
-            <numerusform>Confirmer %n ligne ?</numerusform>
-            <numerusform>Confirmer %n lignes ?</numerusform>
+            <numerusform>Confirmer %Ln ligne ?</numerusform>
+            <numerusform>Confirmer %Ln lignes ?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigen?</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Confirmer %n ligne comme retirée du catalogue ?</numerusform>
-            <numerusform>Confirmer %n lignes comme retirées du catalogue ?</numerusform>
+            <numerusform>Confirmer %Ln ligne comme retirée du catalogue ?</numerusform>
+            <numerusform>Confirmer %Ln lignes comme retirées du catalogue ?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben?</source>
         <translation>
-            <numerusform>Annuler l&apos;affectation de %n ligne ?</numerusform>
-            <numerusform>Annuler l&apos;affectation de %n lignes ?</numerusform>
+            <numerusform>Annuler l&apos;affectation de %Ln ligne ?</numerusform>
+            <numerusform>Annuler l&apos;affectation de %Ln lignes ?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Annuler l&apos;affectation de %n ligne et la confirmer comme retirée du catalogue ?</numerusform>
-            <numerusform>Annuler l&apos;affectation de %n lignes et les confirmer comme retirées du catalogue ?</numerusform>
+            <numerusform>Annuler l&apos;affectation de %Ln ligne et la confirmer comme retirée du catalogue ?</numerusform>
+            <numerusform>Annuler l&apos;affectation de %Ln lignes et les confirmer comme retirées du catalogue ?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind schon bestätigt.</source>
+        <source>%Ln davon ist/sind schon bestätigt.</source>
         <translation>
-            <numerusform>%n d&apos;entre elles est déjà confirmée.</numerusform>
-            <numerusform>%n d&apos;entre elles sont déjà confirmées.</numerusform>
+            <numerusform>%Ln d&apos;entre elles est déjà confirmée.</numerusform>
+            <numerusform>%Ln d&apos;entre elles sont déjà confirmées.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon verliert/verlieren ihre Wertebereichszuordnung.</source>
+        <source>%Ln davon verliert/verlieren ihre Wertebereichszuordnung.</source>
         <translation>
-            <numerusform>%n d&apos;entre elles perd son affectation de plages de valeurs.</numerusform>
-            <numerusform>%n d&apos;entre elles perdent leurs affectations de plages de valeurs.</numerusform>
+            <numerusform>%Ln d&apos;entre elles perd son affectation de plages de valeurs.</numerusform>
+            <numerusform>%Ln d&apos;entre elles perdent leurs affectations de plages de valeurs.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
+        <source>%Ln Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
         <translation>
-            <numerusform>%n ligne sans cible reste non confirmée.</numerusform>
-            <numerusform>%n lignes sans cible restent non confirmées.</numerusform>
+            <numerusform>%Ln ligne sans cible reste non confirmée.</numerusform>
+            <numerusform>%Ln lignes sans cible restent non confirmées.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
+        <source>%Ln Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
         <translation>
-            <numerusform>%n ligne reste telle quelle.</numerusform>
-            <numerusform>%n lignes restent telles quelles.</numerusform>
+            <numerusform>%Ln ligne reste telle quelle.</numerusform>
+            <numerusform>%Ln lignes restent telles quelles.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
+        <source>%Ln Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
         <translation>
-            <numerusform>%n ligne en conflit n&apos;est pas modifiée.</numerusform>
-            <numerusform>%n lignes en conflit ne sont pas modifiées.</numerusform>
+            <numerusform>%Ln ligne en conflit n&apos;est pas modifiée.</numerusform>
+            <numerusform>%Ln lignes en conflit ne sont pas modifiées.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
+        <source>%Ln Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
         <translation>
-            <numerusform>%n ligne ne figure dans aucun projet cible.</numerusform>
-            <numerusform>%n lignes ne figurent dans aucun projet cible.</numerusform>
+            <numerusform>%Ln ligne ne figure dans aucun projet cible.</numerusform>
+            <numerusform>%Ln lignes ne figurent dans aucun projet cible.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt.</source>
+        <source>%Ln Zeile(n) bestätigt.</source>
         <translation>
-            <numerusform>%n ligne confirmée.</numerusform>
-            <numerusform>%n lignes confirmées.</numerusform>
+            <numerusform>%Ln ligne confirmée.</numerusform>
+            <numerusform>%Ln lignes confirmées.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt.</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>%n ligne confirmée comme retirée du catalogue.</numerusform>
-            <numerusform>%n lignes confirmées comme retirées du catalogue.</numerusform>
+            <numerusform>%Ln ligne confirmée comme retirée du catalogue.</numerusform>
+            <numerusform>%Ln lignes confirmées comme retirées du catalogue.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben.</source>
         <translation>
-            <numerusform>Affectation de %n ligne annulée.</numerusform>
-            <numerusform>Affectation de %n lignes annulée.</numerusform>
+            <numerusform>Affectation de %Ln ligne annulée.</numerusform>
+            <numerusform>Affectation de %Ln lignes annulée.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>Affectation de %n ligne annulée, confirmée comme retirée du catalogue.</numerusform>
-            <numerusform>Affectation de %n lignes annulée, confirmées comme retirées du catalogue.</numerusform>
+            <numerusform>Affectation de %Ln ligne annulée, confirmée comme retirée du catalogue.</numerusform>
+            <numerusform>Affectation de %Ln lignes annulée, confirmées comme retirées du catalogue.</numerusform>
         </translation>
     </message>
 </context>
@@ -160,10 +160,6 @@
         <translation>Il n&apos;y a rien à reprendre de %1.</translation>
     </message>
     <message>
-        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
-        <translation>Reprises de %1 : %2 lignes confirmées sur %3, %4 affectées avec certitude, %5 proposées.</translation>
-    </message>
-    <message>
         <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
         <translation>Le fichier ne contient aucun mapping depuis la version du catalogue %1.</translation>
     </message>
@@ -206,6 +202,13 @@
     <message>
         <source>Entscheidungen aus %1 übernommen: %2</source>
         <translation>Décisions reprises de %1 : %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Aus %1 übernommen: %2 von %Ln bestätigten Zeile(n), %3 sicher zugeordnet, %4 vorgeschlagen.</source>
+        <translation>
+            <numerusform>Reprises de %1 : %2 sur %Ln ligne confirmée, %3 affectées avec certitude, %4 proposées.</numerusform>
+            <numerusform>Reprises de %1 : %2 sur %Ln lignes confirmées, %3 affectées avec certitude, %4 proposées.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -270,10 +273,10 @@
         <translation>Conflit %1 sur %2, encore %3 à régler</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
+        <source>%Ln Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
         <translation>
-            <numerusform>%n ligne de %1 se contredit de la même manière. La décision vaut-elle pour toutes ?</numerusform>
-            <numerusform>%n lignes de %1 se contredisent de la même manière. La décision vaut-elle pour toutes ?</numerusform>
+            <numerusform>%Ln ligne de %1 se contredit de la même manière. La décision vaut-elle pour toutes ?</numerusform>
+            <numerusform>%Ln lignes de %1 se contredisent de la même manière. La décision vaut-elle pour toutes ?</numerusform>
         </translation>
     </message>
     <message>
@@ -309,15 +312,11 @@ L&apos;autre : %2</translation>
         <source>Alle Konflikte sind entschieden.</source>
         <translation>Tous les conflits sont réglés.</translation>
     </message>
-    <message>
-        <source>%1 von %2 Konflikten sind noch offen.</source>
-        <translation>%1 conflits sur %2 restent à régler.</translation>
-    </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) widersprechen sich wie diese.</source>
+        <source>%Ln weitere Zeile(n) widersprechen sich wie diese.</source>
         <translation>
-            <numerusform>%n autre ligne se contredit comme celle-ci.</numerusform>
-            <numerusform>%n autres lignes se contredisent comme celle-ci.</numerusform>
+            <numerusform>%Ln autre ligne se contredit comme celle-ci.</numerusform>
+            <numerusform>%Ln autres lignes se contredisent comme celle-ci.</numerusform>
         </translation>
     </message>
     <message>
@@ -339,6 +338,13 @@ L&apos;autre : %2</translation>
     <message>
         <source>Neu entscheiden</source>
         <translation>Décider à nouveau</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Konflikt(en) noch offen.</source>
+        <translation>
+            <numerusform>%1 sur %Ln conflit reste à régler.</numerusform>
+            <numerusform>%1 sur %Ln conflits restent à régler.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -457,10 +463,10 @@ L&apos;autre : %2</translation>
         <translation>égal</translation>
     </message>
     <message numerus="yes">
-        <source>ersetzt wie in %n weiteren Zeile(n)</source>
+        <source>ersetzt wie in %Ln weiteren Zeile(n)</source>
         <translation>
-            <numerusform>remplacé comme dans %n autre ligne</numerusform>
-            <numerusform>remplacé comme dans %n autres lignes</numerusform>
+            <numerusform>remplacé comme dans %Ln autre ligne</numerusform>
+            <numerusform>remplacé comme dans %Ln autres lignes</numerusform>
         </translation>
     </message>
     <message>
@@ -523,10 +529,10 @@ L&apos;autre : %2</translation>
         <translation>Affectée avec certitude.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n ligne</numerusform>
-            <numerusform>%n lignes</numerusform>
+            <numerusform>%Ln ligne</numerusform>
+            <numerusform>%Ln lignes</numerusform>
         </translation>
     </message>
     <message>
@@ -609,21 +615,17 @@ L&apos;autre : %2</translation>
         <translation>&amp;Abandonner</translation>
     </message>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1 : %n ligne</numerusform>
-            <numerusform>%1 : %n lignes</numerusform>
+            <numerusform>%1 : %Ln ligne</numerusform>
+            <numerusform>%1 : %Ln lignes</numerusform>
         </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>et %1 autres</translation>
-    </message>
     <message numerus="yes">
-        <source>Noch %n Zeile(n) in Konflikt, in diesen Projekten:</source>
+        <source>Noch %Ln Zeile(n) in Konflikt, in diesen Projekten:</source>
         <translation>
-            <numerusform>Encore %n ligne en conflit, dans ces projets :</numerusform>
-            <numerusform>Encore %n lignes en conflit, dans ces projets :</numerusform>
+            <numerusform>Encore %Ln ligne en conflit, dans ces projets :</numerusform>
+            <numerusform>Encore %Ln lignes en conflit, dans ces projets :</numerusform>
         </translation>
     </message>
     <message>
@@ -665,6 +667,13 @@ L&apos;autre : %2</translation>
     <message>
         <source>Die Mapping-Datei kann nicht angelegt werden.</source>
         <translation>Le fichier de mapping ne peut pas être créé.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>et %Ln de plus</numerusform>
+            <numerusform>et %Ln de plus</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -728,6 +737,15 @@ Choisissez un autre fichier.</translation>
     <message>
         <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte einen anderen Ordner wählen.</source>
         <translation>Rien ne peut être créé dans le dossier de %1 (%2). Rien n&apos;a été écrit. Choisissez un autre dossier.</translation>
+    </message>
+</context>
+<context>
+    <name>EditorArea</name>
+    <message>
+        <source>Keine Zeile dieses Projekts ist im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Zeilen zu sehen.</source>
+        <translation>Aucune ligne de ce projet n&apos;est dans le filtre.
+Ouvrez « %1 » et choisissez « %2 » pour revoir toutes les lignes.</translation>
     </message>
 </context>
 <context>
@@ -855,17 +873,17 @@ Choisissez un autre fichier.</translation>
         <translation>Lecture des tables...</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n ligne</numerusform>
-            <numerusform>%n lignes</numerusform>
+            <numerusform>%Ln ligne</numerusform>
+            <numerusform>%Ln lignes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>dans %n projet</numerusform>
-            <numerusform>dans %n projets</numerusform>
+            <numerusform>dans %Ln projet</numerusform>
+            <numerusform>dans %Ln projets</numerusform>
         </translation>
     </message>
     <message>
@@ -873,10 +891,10 @@ Choisissez un autre fichier.</translation>
         <translation>Aucun filtre : toutes les lignes</translation>
     </message>
     <message numerus="yes">
-        <source>%n Tabelle(n) nicht lesbar</source>
+        <source>%Ln Tabelle(n) nicht lesbar</source>
         <translation>
-            <numerusform>Tables illisibles : %n</numerusform>
-            <numerusform>Tables illisibles : %n</numerusform>
+            <numerusform>Tables illisibles : %Ln</numerusform>
+            <numerusform>Tables illisibles : %Ln</numerusform>
         </translation>
     </message>
     <message>
@@ -1025,10 +1043,10 @@ Choisissez un autre fichier.</translation>
         <translation>Ligne %1 dans %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1</source>
+        <source>%Ln Zeile(n) in %1</source>
         <translation>
-            <numerusform>%n ligne dans %1</numerusform>
-            <numerusform>%n lignes dans %1</numerusform>
+            <numerusform>%Ln ligne dans %1</numerusform>
+            <numerusform>%Ln lignes dans %1</numerusform>
         </translation>
     </message>
     <message>
@@ -1357,10 +1375,10 @@ Choisissez un autre fichier.</translation>
         <translation>La condition copiée n&apos;est pas utilisable telle quelle : une valeur manque, est une plage ou contient un guillemet : %1</translation>
     </message>
     <message numerus="yes">
-        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.</source>
+        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %Ln Zeile(n) offen.</source>
         <translation>
-            <numerusform>Tout est traité dans ce filtre ; en dehors, %n ligne est encore ouverte.</numerusform>
-            <numerusform>Tout est traité dans ce filtre ; en dehors, %n lignes sont encore ouvertes.</numerusform>
+            <numerusform>Tout est traité dans ce filtre ; en dehors, %Ln ligne est encore ouverte.</numerusform>
+            <numerusform>Tout est traité dans ce filtre ; en dehors, %Ln lignes sont encore ouvertes.</numerusform>
         </translation>
     </message>
     <message>
@@ -1428,16 +1446,16 @@ Choisissez un autre fichier.</translation>
         <translation>Il s&apos;agit de toutes les lignes du projet.</translation>
     </message>
     <message>
-        <source>Gemeint sind die %1 gezeigten von %2 Zeilen des Projekts.</source>
-        <translation>Il s&apos;agit des %1 lignes affichées sur les %2 du projet.</translation>
-    </message>
-    <message>
         <source>Filter: %1.</source>
         <translation>Filtre : %1.</translation>
     </message>
     <message>
         <source>Kein anderes Projekt hat solche Zeilen</source>
         <translation>Aucun autre projet n’a de telles lignes</translation>
+    </message>
+    <message>
+        <source>Gemeint sind nur die gezeigten Zeilen des Projekts: %1 von %2.</source>
+        <translation>Seules les lignes affichées du projet sont concernées : %1 sur %2.</translation>
     </message>
 </context>
 <context>
@@ -1670,10 +1688,6 @@ Choisissez un autre fichier.</translation>
         <translation>&amp;Fermer</translation>
     </message>
     <message>
-        <source>Die ersten %1 Links; die Suche zeigt andere.</source>
-        <translation>Les %1 premiers liens ; la recherche en montre d&apos;autres.</translation>
-    </message>
-    <message>
         <source>Links: %1</source>
         <translation>Liens : %1</translation>
     </message>
@@ -1692,6 +1706,13 @@ Choisissez un autre fichier.</translation>
     <message>
         <source>&amp;Wiederherstellen</source>
         <translation>&amp;Rétablir</translation>
+    </message>
+    <message numerus="yes">
+        <source>Die ersten %Ln Link(s); die Suche zeigt andere.</source>
+        <translation>
+            <numerusform>Le premier lien (%Ln) ; la recherche en montre d&apos;autres.</numerusform>
+            <numerusform>Les %Ln premiers liens ; la recherche en montre d&apos;autres.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1814,15 +1835,18 @@ Choisissez un autre fichier.</translation>
         <source>Nichts gefunden</source>
         <translation>Rien trouvé</translation>
     </message>
-    <message>
-        <source>Die ersten %1 von %2 Treffern</source>
-        <translation>Les %1 premiers résultats sur %2</translation>
+    <message numerus="yes">
+        <source>%Ln Treffer</source>
+        <translation>
+            <numerusform>%Ln résultat</numerusform>
+            <numerusform>%Ln résultats</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
-        <source>%n Treffer</source>
+        <source>Die ersten %1 von %Ln Treffer(n)</source>
         <translation>
-            <numerusform>%n résultat</numerusform>
-            <numerusform>%n résultats</numerusform>
+            <numerusform>Les %1 premiers sur %Ln résultat</numerusform>
+            <numerusform>Les %1 premiers sur %Ln résultats</numerusform>
         </translation>
     </message>
 </context>
@@ -2045,24 +2069,24 @@ Choisissez un autre fichier.</translation>
         <translation>Mes modifications sur la version du fichier</translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): eigene Entscheidung</source>
+        <source>%Ln Konflikt(e): eigene Entscheidung</source>
         <translation>
-            <numerusform>%n conflit : ma décision</numerusform>
-            <numerusform>%n conflits : ma décision</numerusform>
+            <numerusform>%Ln conflit : ma décision</numerusform>
+            <numerusform>%Ln conflits : ma décision</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): Entscheidung der anderen Seite</source>
+        <source>%Ln Konflikt(e): Entscheidung der anderen Seite</source>
         <translation>
-            <numerusform>%n conflit : décision de l&apos;autre côté</numerusform>
-            <numerusform>%n conflits : décision de l&apos;autre côté</numerusform>
+            <numerusform>%Ln conflit : décision de l&apos;autre côté</numerusform>
+            <numerusform>%Ln conflits : décision de l&apos;autre côté</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): neu zu entscheiden</source>
+        <source>%Ln Konflikt(e): neu zu entscheiden</source>
         <translation>
-            <numerusform>%n conflit : à décider à nouveau</numerusform>
-            <numerusform>%n conflits : à décider à nouveau</numerusform>
+            <numerusform>%Ln conflit : à décider à nouveau</numerusform>
+            <numerusform>%Ln conflits : à décider à nouveau</numerusform>
         </translation>
     </message>
     <message>
@@ -2133,50 +2157,67 @@ Choisissez un autre fichier.</translation>
         <translation>Interrompu, rien n&apos;a été créé</translation>
     </message>
     <message>
-        <source>%1 Projekte: %2 am selben Ort, %3 an anderem, %4 aufgeteilt, %5 ohne Ziel, %6 unlesbar</source>
-        <translation>%1 projets : %2 au même endroit, %3 ailleurs, %4 répartis, %5 sans cible, %6 illisibles</translation>
-    </message>
-    <message>
         <source>Zeilen werden zugeordnet</source>
         <translation>Affectation des lignes</translation>
     </message>
-    <message>
-        <source>Abgebrochen: %1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>Interrompu : %1 projets sur %2 avec %3 lignes, dont %4 affectées, %5 à vérifier, %6 sans cible</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e): %1 am selben Ort, %2 an anderem, %3 aufgeteilt, %4 ohne Ziel, %5 unlesbar</source>
+        <translation>
+            <numerusform>%Ln projet : %1 au même endroit, %2 ailleurs, %3 réparti, %4 sans cible, %5 illisible</numerusform>
+            <numerusform>%Ln projets : %1 au même endroit, %2 ailleurs, %3 répartis, %4 sans cible, %5 illisibles</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 sur %Ln projet</numerusform>
+            <numerusform>%1 sur %Ln projets</numerusform>
+        </translation>
     </message>
     <message>
-        <source>%1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>%1 projets sur %2 avec %3 lignes, dont %4 affectées, %5 à vérifier, %6 sans cible</translation>
+        <source>davon %1 zugeordnet, %2 zu prüfen, %3 ohne Ziel</source>
+        <translation>dont %1 affectées, %2 à vérifier, %3 sans cible</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>Interrompu : %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 avec %Ln ligne</numerusform>
+            <numerusform>%1 avec %Ln lignes</numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>MergeState</name>
     <message numerus="yes">
-        <source>%n Änderung(en) übernommen.</source>
+        <source>%Ln Änderung(en) übernommen.</source>
         <translation>
-            <numerusform>%n modification reprise.</numerusform>
-            <numerusform>%n modifications reprises.</numerusform>
+            <numerusform>%Ln modification reprise.</numerusform>
+            <numerusform>%Ln modifications reprises.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) haben beide gleich entschieden.</source>
+        <source>%Ln Zeile(n) haben beide gleich entschieden.</source>
         <translation>
-            <numerusform>%n ligne a été décidée de la même façon des deux côtés.</numerusform>
-            <numerusform>%n lignes ont été décidées de la même façon des deux côtés.</numerusform>
+            <numerusform>%Ln ligne a été décidée de la même façon des deux côtés.</numerusform>
+            <numerusform>%Ln lignes ont été décidées de la même façon des deux côtés.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
+        <source>%Ln Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
         <translation>
-            <numerusform>%n ligne a été décidée différemment et marquée en conflit.</numerusform>
-            <numerusform>%n lignes ont été décidées différemment et marquées en conflit.</numerusform>
+            <numerusform>%Ln ligne a été décidée différemment et marquée en conflit.</numerusform>
+            <numerusform>%Ln lignes ont été décidées différemment et marquées en conflit.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
+        <source>%Ln andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
         <translation>
-            <numerusform>%n autre contradiction : la version du fichier vaut.</numerusform>
-            <numerusform>%n autres contradictions : la version du fichier vaut.</numerusform>
+            <numerusform>%Ln autre contradiction : la version du fichier vaut.</numerusform>
+            <numerusform>%Ln autres contradictions : la version du fichier vaut.</numerusform>
         </translation>
     </message>
 </context>
@@ -2202,17 +2243,17 @@ Choisissez un autre fichier.</translation>
         <translation>Comparaison des tables en cours</translation>
     </message>
     <message numerus="yes">
-        <source>%n zugeordnete Zeile(n) angesehen</source>
+        <source>%Ln zugeordnete Zeile(n) angesehen</source>
         <translation>
-            <numerusform>%n ligne affectée examinée</numerusform>
-            <numerusform>%n lignes affectées examinées</numerusform>
+            <numerusform>%Ln ligne affectée examinée</numerusform>
+            <numerusform>%Ln lignes affectées examinées</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Fundstelle(n)</source>
+        <source>%Ln Fundstelle(n)</source>
         <translation>
-            <numerusform>%n anomalie</numerusform>
-            <numerusform>%n anomalies</numerusform>
+            <numerusform>%Ln anomalie</numerusform>
+            <numerusform>%Ln anomalies</numerusform>
         </translation>
     </message>
     <message>
@@ -2437,43 +2478,39 @@ Choisissez un autre fichier.</translation>
 </context>
 <context>
     <name>PatternDock</name>
-    <message>
-        <source>Die Tabellen werden verglichen: %1 Projekte gelesen</source>
-        <translation>Comparaison des tables en cours : %1 projets lus</translation>
-    </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) mit Vorschlag</source>
+        <source>%Ln offene Zeile(n) mit Vorschlag</source>
         <translation>
-            <numerusform>%n ligne ouverte avec proposition</numerusform>
-            <numerusform>%n lignes ouvertes avec proposition</numerusform>
+            <numerusform>%Ln ligne ouverte avec proposition</numerusform>
+            <numerusform>%Ln lignes ouvertes avec proposition</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Muster(n)</source>
+        <source>in %Ln Muster(n)</source>
         <translation>
-            <numerusform>dans %n motif</numerusform>
-            <numerusform>dans %n motifs</numerusform>
+            <numerusform>dans %Ln motif</numerusform>
+            <numerusform>dans %Ln motifs</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon wird/werden noch verglichen</source>
+        <source>%Ln davon wird/werden noch verglichen</source>
         <translation>
-            <numerusform>%n d&apos;entre elles est encore en cours de comparaison</numerusform>
-            <numerusform>%n d&apos;entre elles sont encore en cours de comparaison</numerusform>
+            <numerusform>%Ln d&apos;entre elles est encore en cours de comparaison</numerusform>
+            <numerusform>%Ln d&apos;entre elles sont encore en cours de comparaison</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Gewählt: %n Zeile(n)</source>
+        <source>Gewählt: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>Choisie : %n ligne</numerusform>
-            <numerusform>Choisies : %n lignes</numerusform>
+            <numerusform>Choisie : %Ln ligne</numerusform>
+            <numerusform>Choisies : %Ln lignes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon herausgenommen</source>
+        <source>%Ln davon herausgenommen</source>
         <translation>
-            <numerusform>%n d&apos;entre elles retirée</numerusform>
-            <numerusform>%n d&apos;entre elles retirées</numerusform>
+            <numerusform>%Ln d&apos;entre elles retirée</numerusform>
+            <numerusform>%Ln d&apos;entre elles retirées</numerusform>
         </translation>
     </message>
     <message>
@@ -2481,41 +2518,48 @@ Choisissez un autre fichier.</translation>
         <translation>Différences des lignes ouvertes</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>dans %n projet</numerusform>
-            <numerusform>dans %n projets</numerusform>
+            <numerusform>dans %Ln projet</numerusform>
+            <numerusform>dans %Ln projets</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <source>%Ln offene Zeile(n) ohne Nachfolger</source>
         <translation>
-            <numerusform>%n ligne ouverte sans successeur</numerusform>
-            <numerusform>%n lignes ouvertes sans successeur</numerusform>
+            <numerusform>%Ln ligne ouverte sans successeur</numerusform>
+            <numerusform>%Ln lignes ouvertes sans successeur</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Die Tabellen werden verglichen: %Ln Projekt(e) gelesen</source>
+        <translation>
+            <numerusform>Comparaison des tables en cours : %Ln projet lu</numerusform>
+            <numerusform>Comparaison des tables en cours : %Ln projets lus</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>PatternModel</name>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n ligne</numerusform>
-            <numerusform>%n lignes</numerusform>
+            <numerusform>%Ln ligne</numerusform>
+            <numerusform>%Ln lignes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Projekt(e)</source>
+        <source>%Ln Projekt(e)</source>
         <translation>
-            <numerusform>%n projet</numerusform>
-            <numerusform>%n projets</numerusform>
+            <numerusform>%Ln projet</numerusform>
+            <numerusform>%Ln projets</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) haben diese und andere Unterschiede</source>
+        <source>%Ln weitere Zeile(n) haben diese und andere Unterschiede</source>
         <translation>
-            <numerusform>%n autre ligne a ces différences et d&apos;autres</numerusform>
-            <numerusform>%n autres lignes ont ces différences et d&apos;autres</numerusform>
+            <numerusform>%Ln autre ligne a ces différences et d&apos;autres</numerusform>
+            <numerusform>%Ln autres lignes ont ces différences et d&apos;autres</numerusform>
         </translation>
     </message>
     <message>
@@ -2742,10 +2786,10 @@ Ligne : %2
         <translation>Ligne %1 : %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
+        <source>%Ln Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
         <translation>
-            <numerusform>%n ligne est confirmée bien que des valeurs de sa plage n&apos;aient pas de nouvelle ligne.</numerusform>
-            <numerusform>%n lignes sont confirmées bien que des valeurs de leurs plages n&apos;aient pas de nouvelle ligne.</numerusform>
+            <numerusform>%Ln ligne est confirmée bien que des valeurs de sa plage n&apos;aient pas de nouvelle ligne.</numerusform>
+            <numerusform>%Ln lignes sont confirmées bien que des valeurs de leurs plages n&apos;aient pas de nouvelle ligne.</numerusform>
         </translation>
     </message>
     <message>
@@ -2760,19 +2804,15 @@ Ligne : %2
 <context>
     <name>RangeDock</name>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1 : %n ligne</numerusform>
-            <numerusform>%1 : %n lignes</numerusform>
+            <numerusform>%1 : %Ln ligne</numerusform>
+            <numerusform>%1 : %Ln lignes</numerusform>
         </translation>
     </message>
     <message>
         <source>Die Zeile hat keine Wertebereichszuordnung.</source>
         <translation>La ligne n&apos;a pas d&apos;affectation de plages de valeurs.</translation>
-    </message>
-    <message>
-        <source>%1: %2 von %3 Werten zugeordnet</source>
-        <translation>%1 : %2 valeurs affectées sur %3</translation>
     </message>
     <message>
         <source>fehlend: %1</source>
@@ -2789,6 +2829,13 @@ Ligne : %2
     <message>
         <source>Wertebereich der Zeile</source>
         <translation>Plage de valeurs de la ligne</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 von %Ln Wert(en) zugeordnet</source>
+        <translation>
+            <numerusform>%1 : %2 sur %Ln valeur affectée</numerusform>
+            <numerusform>%1 : %2 sur %Ln valeurs affectées</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2831,10 +2878,6 @@ Ligne : %2
     <message>
         <source>Wiederherstellung</source>
         <translation>Récupération</translation>
-    </message>
-    <message>
-        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2 Schritte mit %3 Zeilen in %4 Projekten, zuletzt „%5“. Sie stammt von %6.</source>
-        <translation>Il existe pour %1 du travail non enregistré : %2 étapes avec %3 lignes dans %4 projets, la dernière étant « %5 ». Il vient de %6.</translation>
     </message>
     <message>
         <source>Gespeichert</source>
@@ -2884,16 +2927,37 @@ Ligne : %2
         <source>&amp;Gespeicherten Stand öffnen</source>
         <translation>&amp;Ouvrir la version enregistrée</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln Schritt(e)</source>
+        <translation>
+            <numerusform>%Ln étape</numerusform>
+            <numerusform>%Ln étapes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2, zuletzt „%3“. Sie stammt von %4.</source>
+        <translation>Il existe pour %1 du travail non enregistré : %2, la dernière étant « %3 ». Il vient de %4.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 avec %Ln ligne</numerusform>
+            <numerusform>%1 avec %Ln lignes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 dans %Ln projet</numerusform>
+            <numerusform>%1 dans %Ln projets</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ReleaseCommands</name>
     <message>
         <source>Tabellen werden importiert</source>
         <translation>Importation des tables</translation>
-    </message>
-    <message>
-        <source>%1 Tabellen mit %2 Zeilen: %3 neu, %4 geändert, %5 unverändert, %6 nicht importiert</source>
-        <translation>%1 tables avec %2 lignes : %3 nouvelles, %4 modifiées, %5 inchangées, %6 non importées</translation>
     </message>
     <message>
         <source>%1 hat keine CSV-Datei mehr und bleibt, wie es ist</source>
@@ -2932,10 +2996,6 @@ Ligne : %2
         <translation>Interrompu, rien n&apos;a été exporté</translation>
     </message>
     <message>
-        <source>%1 Zeilen nach %2 exportiert</source>
-        <translation>%1 lignes exportées vers %2</translation>
-    </message>
-    <message>
         <source>Bericht schreiben</source>
         <translation>Écrire un rapport</translation>
     </message>
@@ -2966,6 +3026,31 @@ Ligne : %2
     <message>
         <source>Seite %1 von %2</source>
         <translation>Page %1 sur %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Tabelle(n)</source>
+        <translation>
+            <numerusform>%Ln table</numerusform>
+            <numerusform>%Ln tables</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 neu, %2 geändert, %3 unverändert, %4 nicht importiert</source>
+        <translation>%1 nouvelles, %2 modifiées, %3 inchangées, %4 non importées</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Zeile(n) nach %1 exportiert</source>
+        <translation>
+            <numerusform>%Ln ligne exportée vers %1</numerusform>
+            <numerusform>%Ln lignes exportées vers %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 avec %Ln ligne</numerusform>
+            <numerusform>%1 avec %Ln lignes</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3011,17 +3096,17 @@ Ligne : %2
         <translation>Lecture des tables en cours</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dafür</source>
+        <source>%Ln Zeile(n) dafür</source>
         <translation>
-            <numerusform>%n ligne pour</numerusform>
-            <numerusform>%n lignes pour</numerusform>
+            <numerusform>%Ln ligne pour</numerusform>
+            <numerusform>%Ln lignes pour</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dagegen</source>
+        <source>%Ln Zeile(n) dagegen</source>
         <translation>
-            <numerusform>%n ligne contre</numerusform>
-            <numerusform>%n lignes contre</numerusform>
+            <numerusform>%Ln ligne contre</numerusform>
+            <numerusform>%Ln lignes contre</numerusform>
         </translation>
     </message>
 </context>
@@ -3038,10 +3123,6 @@ Ligne : %2
     <message>
         <source>Erstellt am %1</source>
         <translation>Créé le %1</translation>
-    </message>
-    <message>
-        <source>Erledigt: %1 von %2 Zeilen; offen: %3.</source>
-        <translation>Réglées : %1 lignes sur %2 ; ouvertes : %3.</translation>
     </message>
     <message>
         <source>Stand der Zeilen</source>
@@ -3267,6 +3348,10 @@ Ligne : %2
         <source>Beurteilte Zeilen</source>
         <translation>Lignes jugées</translation>
     </message>
+    <message>
+        <source>Erledigte Zeilen: %1 von %2; offen: %3.</source>
+        <translation>Lignes réglées : %1 sur %2 ; ouvertes : %3.</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3345,10 +3430,10 @@ Ligne : %2
         <translation>Les tables ne sont pas encore comparées</translation>
     </message>
     <message numerus="yes">
-        <source>Von vorn: %n Zeile(n) offen</source>
+        <source>Von vorn: %Ln Zeile(n) offen</source>
         <translation>
-            <numerusform>Depuis le début : %n ligne ouverte</numerusform>
-            <numerusform>Depuis le début : %n lignes ouvertes</numerusform>
+            <numerusform>Depuis le début : %Ln ligne ouverte</numerusform>
+            <numerusform>Depuis le début : %Ln lignes ouvertes</numerusform>
         </translation>
     </message>
     <message>
@@ -3372,17 +3457,17 @@ Ligne : %2
         <translation>Aucun motif n&apos;est sélectionné, ou toutes ses lignes sont décidées</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n ligne</numerusform>
-            <numerusform>%n lignes</numerusform>
+            <numerusform>%Ln ligne</numerusform>
+            <numerusform>%Ln lignes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en) bestätigen?</source>
+        <source>in %Ln Projekt(en) bestätigen?</source>
         <translation>
-            <numerusform>confirmer dans %n projet ?</numerusform>
-            <numerusform>confirmer dans %n projets ?</numerusform>
+            <numerusform>confirmer dans %Ln projet ?</numerusform>
+            <numerusform>confirmer dans %Ln projets ?</numerusform>
         </translation>
     </message>
     <message>
@@ -3394,10 +3479,10 @@ Ligne : %2
         <translation>&amp;Confirmer</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n ligne confirmée</numerusform>
-            <numerusform>%n lignes confirmées</numerusform>
+            <numerusform>%Ln ligne confirmée</numerusform>
+            <numerusform>%Ln lignes confirmées</numerusform>
         </translation>
     </message>
     <message>
@@ -3419,10 +3504,6 @@ Ligne : %2
     <message>
         <source>Stichprobe</source>
         <translation>Échantillon</translation>
-    </message>
-    <message>
-        <source>So viele von %1 Zeilen werden gezogen und einzeln beurteilt. %2 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %3 richtige weniger als 1 %.</source>
-        <translation>Ce nombre de lignes sur %1 est tiré au sort et jugé une par une. %2 justes indiquent avec 95 % de certitude que moins de 5 % sont fausses, %3 justes moins de 1 %.</translation>
     </message>
     <message>
         <source>&amp;Ziehen</source>
@@ -3481,10 +3562,10 @@ Ligne : %2
         <translation>&amp;Voir la ligne fausse</translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind unsicher.</source>
+        <source>%Ln davon ist/sind unsicher.</source>
         <translation>
-            <numerusform>%n d&apos;entre elles est incertaine.</numerusform>
-            <numerusform>%n d&apos;entre elles sont incertaines.</numerusform>
+            <numerusform>%Ln d&apos;entre elles est incertaine.</numerusform>
+            <numerusform>%Ln d&apos;entre elles sont incertaines.</numerusform>
         </translation>
     </message>
     <message>
@@ -3492,22 +3573,29 @@ Ligne : %2
         <translation>Tous les motifs sont traités</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>dans %n projet</numerusform>
-            <numerusform>dans %n projets</numerusform>
+            <numerusform>dans %Ln projet</numerusform>
+            <numerusform>dans %Ln projets</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n ligne confirmée comme retirée du catalogue</numerusform>
-            <numerusform>%n lignes confirmées comme retirées du catalogue</numerusform>
+            <numerusform>%Ln ligne confirmée comme retirée du catalogue</numerusform>
+            <numerusform>%Ln lignes confirmées comme retirées du catalogue</numerusform>
         </translation>
     </message>
     <message>
         <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
         <translation>La ligne %1 dans %2 est fausse. L&apos;ensemble est divisé ; avec quelle partie faut-il continuer ?</translation>
+    </message>
+    <message numerus="yes">
+        <source>So viele von %Ln Zeile(n) werden gezogen und einzeln beurteilt. %1 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %2 richtige weniger als 1 %.</source>
+        <translation>
+            <numerusform>Ce nombre sur %Ln ligne est tiré au sort et jugé une par une. %1 justes indiquent avec 95 % de certitude que moins de 5 % sont fausses, %2 justes moins de 1 %.</numerusform>
+            <numerusform>Ce nombre de lignes sur %Ln est tiré au sort et jugé une par une. %1 justes indiquent avec 95 % de certitude que moins de 5 % sont fausses, %2 justes moins de 1 %.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3665,16 +3753,22 @@ Ligne : %2
         <translation>Après la dernière session terminée, le journal %1 n&apos;est pas lisible. Ce qui s&apos;y trouvait n&apos;est pas connu ; le journal est conservé.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passen noch %2 Änderungen, %3 passen nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
-        <translation>Le journal %1 est endommagé. Après l&apos;endroit abîmé, %2 modifications conviennent encore, %3 ne conviennent plus ; d&apos;autres peuvent manquer. Le journal est conservé.</translation>
-    </message>
-    <message>
         <source>Das Ende des Journals %1 ist nicht lesbar. Die letzte Änderung kann fehlen.</source>
         <translation>La fin du journal %1 n&apos;est pas lisible. La dernière modification peut manquer.</translation>
     </message>
-    <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
-        <translation>Le journal %1 est endommagé ou ne correspond pas au fichier de mapping. Au moins %2 modifications ultérieures manquent ; le journal est conservé.</translation>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passt/passen noch %Ln Änderung(en), %2 nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>Le journal %1 est endommagé. Après l&apos;endroit abîmé, %Ln modification convient encore, %2 ne conviennent plus ; d&apos;autres peuvent manquer. Le journal est conservé.</numerusform>
+            <numerusform>Le journal %1 est endommagé. Après l&apos;endroit abîmé, %Ln modifications conviennent encore, %2 ne conviennent plus ; d&apos;autres peuvent manquer. Le journal est conservé.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %Ln spätere Änderung(en) fehlt/fehlen; das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>Le journal %1 est endommagé ou ne correspond pas au fichier de mapping. Au moins %Ln modification ultérieure manque ; le journal est conservé.</numerusform>
+            <numerusform>Le journal %1 est endommagé ou ne correspond pas au fichier de mapping. Au moins %Ln modifications ultérieures manquent ; le journal est conservé.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3926,11 +4020,6 @@ Ligne : %2
         <translation>Tout est décidé</translation>
     </message>
     <message>
-        <source>Offen: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Ouvertes : &lt;a href=&quot;next&quot;&gt;%1 lignes&lt;/a&gt; dans %2 projets</translation>
-    </message>
-    <message>
         <source>Zeilen, die noch eine Entscheidung brauchen</source>
         <translation>Lignes qui attendent encore une décision</translation>
     </message>
@@ -3943,13 +4032,31 @@ Ligne : %2
         <translation>Filtre : aucune ligne</translation>
     </message>
     <message>
-        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Filtre : &lt;a href=&quot;next&quot;&gt;%1 lignes&lt;/a&gt; dans %2 projets</translation>
-    </message>
-    <message>
         <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
         <translation>Lignes que montre le filtre sur toutes les lignes</translation>
+    </message>
+    <message numerus="yes">
+        <source>&lt;a href=&quot;next&quot;&gt;%Ln Zeile(n)&lt;/a&gt;</source>
+        <translation>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln ligne&lt;/a&gt;</numerusform>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln lignes&lt;/a&gt;</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Offen: %1</source>
+        <translation>Ouvertes : %1</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>Filtre : %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <extracomment>&quot;12 lines in 3 projects&quot;</extracomment>
+        <translation>
+            <numerusform>%1 dans %Ln projet</numerusform>
+            <numerusform>%1 dans %Ln projets</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3998,10 +4105,10 @@ Ligne : %2
         <translation>&amp;Fermer</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <source>Mit %Ln abhängigen &amp;zurücknehmen</source>
         <translation>
-            <numerusform>&amp;Annuler avec les dépendantes (%n)</numerusform>
-            <numerusform>&amp;Annuler avec les dépendantes (%n)</numerusform>
+            <numerusform>&amp;Annuler avec les dépendantes (%Ln)</numerusform>
+            <numerusform>&amp;Annuler avec les dépendantes (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -4009,10 +4116,10 @@ Ligne : %2
         <translation>&amp;Annuler seulement celle-ci</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <source>Mit %Ln früheren &amp;wieder ausführen</source>
         <translation>
-            <numerusform>Re&amp;faire avec les précédentes (%n)</numerusform>
-            <numerusform>Re&amp;faire avec les précédentes (%n)</numerusform>
+            <numerusform>Re&amp;faire avec les précédentes (%Ln)</numerusform>
+            <numerusform>Re&amp;faire avec les précédentes (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -4048,20 +4155,20 @@ Ligne : %2
         <translation>Il y a maintenant autre chose, qu’aucune étape de cette liste n’a décidé, par exemple un autre programme. L’étape ne peut plus être déplacée.</translation>
     </message>
     <message numerus="yes">
-        <source>und %n weitere</source>
+        <source>und %Ln weitere</source>
         <translation>
-            <numerusform>et %n de plus</numerusform>
-            <numerusform>et %n de plus</numerusform>
+            <numerusform>et %Ln de plus</numerusform>
+            <numerusform>et %Ln de plus</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepListModel</name>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1 dans %n projet</numerusform>
-            <numerusform>%1 dans %n projets</numerusform>
+            <numerusform>%1 dans %Ln projet</numerusform>
+            <numerusform>%1 dans %Ln projets</numerusform>
         </translation>
     </message>
     <message>
@@ -4104,10 +4211,10 @@ Ligne : %2
         <translation>La modification dans %1 ne prend effet que lorsque les lignes sont affectées de nouveau. Seul ce qui est confirmé est alors conservé.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
+        <source>%Ln Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
         <translation>
-            <numerusform>%n ligne dans %1 était confirmée comme retirée du catalogue et ne l&apos;est plus : %2</numerusform>
-            <numerusform>%n lignes dans %1 étaient confirmées comme retirées du catalogue et ne le sont plus : %2</numerusform>
+            <numerusform>%Ln ligne dans %1 était confirmée comme retirée du catalogue et ne l&apos;est plus : %2</numerusform>
+            <numerusform>%Ln lignes dans %1 étaient confirmées comme retirées du catalogue et ne le sont plus : %2</numerusform>
         </translation>
     </message>
     <message>
@@ -4123,76 +4230,76 @@ Ligne : %2
         <translation>Une correspondance de variables du projet cible %1 dans %2 a disparu.</translation>
     </message>
     <message numerus="yes">
-        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %n andere Zeile(n): %4</source>
+        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %Ln andere Zeile(n): %4</source>
         <translation>
-            <numerusform>Ligne %1 → %2 dans %3 : %n autre ligne a aussi la ligne cible : %4</numerusform>
-            <numerusform>Ligne %1 → %2 dans %3 : %n autres lignes ont aussi la ligne cible : %4</numerusform>
+            <numerusform>Ligne %1 → %2 dans %3 : %Ln autre ligne a aussi la ligne cible : %4</numerusform>
+            <numerusform>Ligne %1 → %2 dans %3 : %Ln autres lignes ont aussi la ligne cible : %4</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
+        <source>%Ln Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
         <translation>
-            <numerusform>%n ligne dans %1 partage sa ligne cible avec des lignes nouvellement affectées : %2</numerusform>
-            <numerusform>%n lignes dans %1 partagent leur ligne cible avec des lignes nouvellement affectées : %2</numerusform>
+            <numerusform>%Ln ligne dans %1 partage sa ligne cible avec des lignes nouvellement affectées : %2</numerusform>
+            <numerusform>%Ln lignes dans %1 partagent leur ligne cible avec des lignes nouvellement affectées : %2</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepSummary</name>
     <message numerus="yes">
-        <source>%n Konflikt(e) angenommen</source>
+        <source>%Ln Konflikt(e) angenommen</source>
         <translation>
-            <numerusform>%n conflit accepté</numerusform>
-            <numerusform>%n conflits acceptés</numerusform>
+            <numerusform>%Ln conflit accepté</numerusform>
+            <numerusform>%Ln conflits acceptés</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n ligne confirmée</numerusform>
-            <numerusform>%n lignes confirmées</numerusform>
+            <numerusform>%Ln ligne confirmée</numerusform>
+            <numerusform>%Ln lignes confirmées</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n ligne confirmée comme retirée du catalogue</numerusform>
-            <numerusform>%n lignes confirmées comme retirées du catalogue</numerusform>
+            <numerusform>%Ln ligne confirmée comme retirée du catalogue</numerusform>
+            <numerusform>%Ln lignes confirmées comme retirées du catalogue</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) zugeordnet</source>
+        <source>%Ln Zeile(n) zugeordnet</source>
         <translation>
-            <numerusform>%n ligne affectée</numerusform>
-            <numerusform>%n lignes affectées</numerusform>
+            <numerusform>%Ln ligne affectée</numerusform>
+            <numerusform>%Ln lignes affectées</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben</source>
         <translation>
-            <numerusform>affectation de %n ligne annulée</numerusform>
-            <numerusform>affectation de %n lignes annulée</numerusform>
+            <numerusform>affectation de %Ln ligne annulée</numerusform>
+            <numerusform>affectation de %Ln lignes annulée</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Wertebereichszuordnung von %n Zeile(n) geändert</source>
+        <source>Wertebereichszuordnung von %Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>affectation de plages de valeurs de %n ligne modifiée</numerusform>
-            <numerusform>affectation de plages de valeurs de %n lignes modifiée</numerusform>
+            <numerusform>affectation de plages de valeurs de %Ln ligne modifiée</numerusform>
+            <numerusform>affectation de plages de valeurs de %Ln lignes modifiée</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Konflikt von %n Zeile(n) gelöst</source>
+        <source>Konflikt von %Ln Zeile(n) gelöst</source>
         <translation>
-            <numerusform>conflit de %n ligne résolu</numerusform>
-            <numerusform>conflit de %n lignes résolu</numerusform>
+            <numerusform>conflit de %Ln ligne résolu</numerusform>
+            <numerusform>conflit de %Ln lignes résolu</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) geändert</source>
+        <source>%Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>%n ligne modifiée</numerusform>
-            <numerusform>%n lignes modifiées</numerusform>
+            <numerusform>%Ln ligne modifiée</numerusform>
+            <numerusform>%Ln lignes modifiées</numerusform>
         </translation>
     </message>
     <message>
@@ -4260,10 +4367,10 @@ Ligne : %2
         <translation>%1 dans %2</translation>
     </message>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1 dans %n projet</numerusform>
-            <numerusform>%1 dans %n projets</numerusform>
+            <numerusform>%1 dans %Ln projet</numerusform>
+            <numerusform>%1 dans %Ln projets</numerusform>
         </translation>
     </message>
 </context>
@@ -4309,10 +4416,10 @@ Ligne : %2
         <translation>Vérification des affectations de plages de valeurs</translation>
     </message>
     <message numerus="yes">
-        <source>%n Wertebereichszuordnung(en) geprüft</source>
+        <source>%Ln Wertebereichszuordnung(en) geprüft</source>
         <translation>
-            <numerusform>%n affectation de plages de valeurs vérifiée</numerusform>
-            <numerusform>%n affectations de plages de valeurs vérifiées</numerusform>
+            <numerusform>%Ln affectation de plages de valeurs vérifiée</numerusform>
+            <numerusform>%Ln affectations de plages de valeurs vérifiées</numerusform>
         </translation>
     </message>
     <message>
@@ -4320,10 +4427,10 @@ Ligne : %2
         <translation>aucune anomalie</translation>
     </message>
     <message numerus="yes">
-        <source>%n Beanstandung(en)</source>
+        <source>%Ln Beanstandung(en)</source>
         <translation>
-            <numerusform>%n anomalie</numerusform>
-            <numerusform>%n anomalies</numerusform>
+            <numerusform>%Ln anomalie</numerusform>
+            <numerusform>%Ln anomalies</numerusform>
         </translation>
     </message>
     <message>

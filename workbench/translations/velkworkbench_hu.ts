@@ -8,87 +8,87 @@
         <translation>Nincs mit módosítani.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigen?</source>
+        <source>%Ln Zeile(n) bestätigen?</source>
         <translation>
-            <numerusform>Megerősíti a(z) %n sort?</numerusform>
+            <numerusform>Megerősíti a(z) %Ln sort?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigen?</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Megerősíti a(z) %n sort megszűntként?</numerusform>
+            <numerusform>Megerősíti a(z) %Ln sort megszűntként?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben?</source>
         <translation>
-            <numerusform>Megszünteti %n sor hozzárendelését?</numerusform>
+            <numerusform>Megszünteti %Ln sor hozzárendelését?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Megszünteti %n sor hozzárendelését, és megerősíti megszűntként?</numerusform>
+            <numerusform>Megszünteti %Ln sor hozzárendelését, és megerősíti megszűntként?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind schon bestätigt.</source>
+        <source>%Ln davon ist/sind schon bestätigt.</source>
         <translation>
-            <numerusform>Közülük %n már meg van erősítve.</numerusform>
+            <numerusform>Közülük %Ln már meg van erősítve.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon verliert/verlieren ihre Wertebereichszuordnung.</source>
+        <source>%Ln davon verliert/verlieren ihre Wertebereichszuordnung.</source>
         <translation>
-            <numerusform>Közülük %n elveszíti az értéktartomány-hozzárendelését.</numerusform>
+            <numerusform>Közülük %Ln elveszíti az értéktartomány-hozzárendelését.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
+        <source>%Ln Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
         <translation>
-            <numerusform>%n cél nélküli sor megerősítetlen marad.</numerusform>
+            <numerusform>%Ln cél nélküli sor megerősítetlen marad.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
+        <source>%Ln Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
         <translation>
-            <numerusform>%n sor marad, ahogy van.</numerusform>
+            <numerusform>%Ln sor marad, ahogy van.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
+        <source>%Ln Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
         <translation>
-            <numerusform>%n ütköző sor nem módosul.</numerusform>
+            <numerusform>%Ln ütköző sor nem módosul.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
+        <source>%Ln Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
         <translation>
-            <numerusform>%n sor egyetlen célprojektben sem szerepel.</numerusform>
+            <numerusform>%Ln sor egyetlen célprojektben sem szerepel.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt.</source>
+        <source>%Ln Zeile(n) bestätigt.</source>
         <translation>
-            <numerusform>%n sor megerősítve.</numerusform>
+            <numerusform>%Ln sor megerősítve.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt.</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>%n sor megszűntként megerősítve.</numerusform>
+            <numerusform>%Ln sor megszűntként megerősítve.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben.</source>
         <translation>
-            <numerusform>%n sor hozzárendelése megszüntetve.</numerusform>
+            <numerusform>%Ln sor hozzárendelése megszüntetve.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>%n sor hozzárendelése megszüntetve, megszűntként megerősítve.</numerusform>
+            <numerusform>%Ln sor hozzárendelése megszüntetve, megszűntként megerősítve.</numerusform>
         </translation>
     </message>
 </context>
@@ -146,10 +146,6 @@
         <translation>A(z) %1 fájlból nincs mit átvenni.</translation>
     </message>
     <message>
-        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
-        <translation>Átvéve innen: %1: %3 megerősített sorból %2, %4 biztosan hozzárendelve, %5 javasolva.</translation>
-    </message>
-    <message>
         <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
         <translation>A fájlban nincs leképezés a(z) %1 katalógusverzióról.</translation>
     </message>
@@ -192,6 +188,12 @@
     <message>
         <source>Entscheidungen aus %1 übernommen: %2</source>
         <translation>Átvett döntések innen: %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Aus %1 übernommen: %2 von %Ln bestätigten Zeile(n), %3 sicher zugeordnet, %4 vorgeschlagen.</source>
+        <translation>
+            <numerusform>Átvéve innen: %1: %Ln megerősített sorból %2, %3 biztosan hozzárendelve, %4 javasolva.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -256,9 +258,9 @@
         <translation>%1. ütközés, összesen %2, még nyitott: %3</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
+        <source>%Ln Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
         <translation>
-            <numerusform>%1: %n sor ugyanúgy ellentmondásos. Mindegyikre érvényes a döntés?</numerusform>
+            <numerusform>%1: %Ln sor ugyanúgy ellentmondásos. Mindegyikre érvényes a döntés?</numerusform>
         </translation>
     </message>
     <message>
@@ -294,14 +296,10 @@ Másik: %2</translation>
         <source>Alle Konflikte sind entschieden.</source>
         <translation>Minden ütközés eldöntve.</translation>
     </message>
-    <message>
-        <source>%1 von %2 Konflikten sind noch offen.</source>
-        <translation>Még nyitott ütközések: %1, összesen %2.</translation>
-    </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) widersprechen sich wie diese.</source>
+        <source>%Ln weitere Zeile(n) widersprechen sich wie diese.</source>
         <translation>
-            <numerusform>További %n sor ugyanígy ellentmondásos.</numerusform>
+            <numerusform>További %Ln sor ugyanígy ellentmondásos.</numerusform>
         </translation>
     </message>
     <message>
@@ -323,6 +321,12 @@ Másik: %2</translation>
     <message>
         <source>Neu entscheiden</source>
         <translation>Újra dönteni</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Konflikt(en) noch offen.</source>
+        <translation>
+            <numerusform>Még nyitott ütközések: %1, összesen %Ln.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -441,9 +445,9 @@ Másik: %2</translation>
         <translation>egyező</translation>
     </message>
     <message numerus="yes">
-        <source>ersetzt wie in %n weiteren Zeile(n)</source>
+        <source>ersetzt wie in %Ln weiteren Zeile(n)</source>
         <translation>
-            <numerusform>helyettesítve, mint további %n sorban</numerusform>
+            <numerusform>helyettesítve, mint további %Ln sorban</numerusform>
         </translation>
     </message>
     <message>
@@ -506,9 +510,9 @@ Másik: %2</translation>
         <translation>Biztosan hozzárendelve.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n sor</numerusform>
+            <numerusform>%Ln sor</numerusform>
         </translation>
     </message>
     <message>
@@ -591,19 +595,15 @@ Másik: %2</translation>
         <translation>&amp;Elvetés</translation>
     </message>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n sor</numerusform>
+            <numerusform>%1: %Ln sor</numerusform>
         </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>és további %1</translation>
-    </message>
     <message numerus="yes">
-        <source>Noch %n Zeile(n) in Konflikt, in diesen Projekten:</source>
+        <source>Noch %Ln Zeile(n) in Konflikt, in diesen Projekten:</source>
         <translation>
-            <numerusform>Még %n sor ütközik, ezekben a projektekben:</numerusform>
+            <numerusform>Még %Ln sor ütközik, ezekben a projektekben:</numerusform>
         </translation>
     </message>
     <message>
@@ -645,6 +645,12 @@ Másik: %2</translation>
     <message>
         <source>Die Mapping-Datei kann nicht angelegt werden.</source>
         <translation>A leképezésfájl nem hozható létre.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>és még %Ln</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -708,6 +714,15 @@ Válasszon másik fájlt.</translation>
     <message>
         <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte einen anderen Ordner wählen.</source>
         <translation>A(z) %1 mappájában semmi sem hozható létre (%2). Semmi sem lett kiírva. Válasszon másik mappát.</translation>
+    </message>
+</context>
+<context>
+    <name>EditorArea</name>
+    <message>
+        <source>Keine Zeile dieses Projekts ist im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Zeilen zu sehen.</source>
+        <translation>A projekt egyetlen sora sincs a szűrőben.
+Nyissa meg ezt: „%1”, és válassza ezt: „%2”, hogy újra minden sor látsszon.</translation>
     </message>
 </context>
 <context>
@@ -835,15 +850,15 @@ Válasszon másik fájlt.</translation>
         <translation>A táblák olvasása...</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n sor</numerusform>
+            <numerusform>%Ln sor</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%n projektben</numerusform>
+            <numerusform>%Ln projektben</numerusform>
         </translation>
     </message>
     <message>
@@ -851,9 +866,9 @@ Válasszon másik fájlt.</translation>
         <translation>Nincs szűrő: minden sor</translation>
     </message>
     <message numerus="yes">
-        <source>%n Tabelle(n) nicht lesbar</source>
+        <source>%Ln Tabelle(n) nicht lesbar</source>
         <translation>
-            <numerusform>Olvashatatlan táblák: %n</numerusform>
+            <numerusform>Olvashatatlan táblák: %Ln</numerusform>
         </translation>
     </message>
     <message>
@@ -1002,9 +1017,9 @@ Válasszon másik fájlt.</translation>
         <translation>%1. sor itt: %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1</source>
+        <source>%Ln Zeile(n) in %1</source>
         <translation>
-            <numerusform>%n sor itt: %1</numerusform>
+            <numerusform>%Ln sor itt: %1</numerusform>
         </translation>
     </message>
     <message>
@@ -1333,9 +1348,9 @@ Válasszon másik fájlt.</translation>
         <translation>A másolt feltétel így még nem használható: egy érték hiányzik, tartomány vagy idézőjelet tartalmaz: %1</translation>
     </message>
     <message numerus="yes">
-        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.</source>
+        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %Ln Zeile(n) offen.</source>
         <translation>
-            <numerusform>Itt a szűrőben minden kész, azon kívül még %n sor nyitott.</numerusform>
+            <numerusform>Itt a szűrőben minden kész, azon kívül még %Ln sor nyitott.</numerusform>
         </translation>
     </message>
     <message>
@@ -1403,16 +1418,16 @@ Válasszon másik fájlt.</translation>
         <translation>A projekt minden soráról szó van.</translation>
     </message>
     <message>
-        <source>Gemeint sind die %1 gezeigten von %2 Zeilen des Projekts.</source>
-        <translation>A megjelenített %1 sorról van szó a projekt %2 sorából.</translation>
-    </message>
-    <message>
         <source>Filter: %1.</source>
         <translation>Szűrő: %1.</translation>
     </message>
     <message>
         <source>Kein anderes Projekt hat solche Zeilen</source>
         <translation>Más projektnek nincs ilyen sora</translation>
+    </message>
+    <message>
+        <source>Gemeint sind nur die gezeigten Zeilen des Projekts: %1 von %2.</source>
+        <translation>Csak a projekt megjelenített sorairól van szó: %1 / %2.</translation>
     </message>
 </context>
 <context>
@@ -1645,10 +1660,6 @@ Válasszon másik fájlt.</translation>
         <translation>&amp;Bezárás</translation>
     </message>
     <message>
-        <source>Die ersten %1 Links; die Suche zeigt andere.</source>
-        <translation>Az első %1 hivatkozás; a keresés mutat másokat.</translation>
-    </message>
-    <message>
         <source>Links: %1</source>
         <translation>Hivatkozások: %1</translation>
     </message>
@@ -1667,6 +1678,12 @@ Válasszon másik fájlt.</translation>
     <message>
         <source>&amp;Wiederherstellen</source>
         <translation>&amp;Visszaállítás</translation>
+    </message>
+    <message numerus="yes">
+        <source>Die ersten %Ln Link(s); die Suche zeigt andere.</source>
+        <translation>
+            <numerusform>Az első %Ln hivatkozás; a keresés mutat másokat.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1789,14 +1806,16 @@ Válasszon másik fájlt.</translation>
         <source>Nichts gefunden</source>
         <translation>Nincs találat</translation>
     </message>
-    <message>
-        <source>Die ersten %1 von %2 Treffern</source>
-        <translation>Az első %1 találat, összesen %2</translation>
+    <message numerus="yes">
+        <source>%Ln Treffer</source>
+        <translation>
+            <numerusform>%Ln találat</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
-        <source>%n Treffer</source>
+        <source>Die ersten %1 von %Ln Treffer(n)</source>
         <translation>
-            <numerusform>%n találat</numerusform>
+            <numerusform>Az első %1 találat, összesen %Ln</numerusform>
         </translation>
     </message>
 </context>
@@ -2019,21 +2038,21 @@ Válasszon másik fájlt.</translation>
         <translation>Saját módosítások a fájl verzióján</translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): eigene Entscheidung</source>
+        <source>%Ln Konflikt(e): eigene Entscheidung</source>
         <translation>
-            <numerusform>%n ütközés: saját döntés</numerusform>
+            <numerusform>%Ln ütközés: saját döntés</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): Entscheidung der anderen Seite</source>
+        <source>%Ln Konflikt(e): Entscheidung der anderen Seite</source>
         <translation>
-            <numerusform>%n ütközés: a másik oldal döntése</numerusform>
+            <numerusform>%Ln ütközés: a másik oldal döntése</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): neu zu entscheiden</source>
+        <source>%Ln Konflikt(e): neu zu entscheiden</source>
         <translation>
-            <numerusform>%n ütközés: újra eldöntendő</numerusform>
+            <numerusform>%Ln ütközés: újra eldöntendő</numerusform>
         </translation>
     </message>
     <message>
@@ -2104,46 +2123,60 @@ Válasszon másik fájlt.</translation>
         <translation>Megszakítva, semmi sem jött létre</translation>
     </message>
     <message>
-        <source>%1 Projekte: %2 am selben Ort, %3 an anderem, %4 aufgeteilt, %5 ohne Ziel, %6 unlesbar</source>
-        <translation>%1 projekt: %2 ugyanott, %3 máshol, %4 felosztva, %5 cél nélkül, %6 olvashatatlan</translation>
-    </message>
-    <message>
         <source>Zeilen werden zugeordnet</source>
         <translation>Sorok hozzárendelése</translation>
     </message>
-    <message>
-        <source>Abgebrochen: %1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>Megszakítva: %1 / %2 projekt %3 sorral, ebből %4 hozzárendelve, %5 ellenőrizendő, %6 cél nélkül</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e): %1 am selben Ort, %2 an anderem, %3 aufgeteilt, %4 ohne Ziel, %5 unlesbar</source>
+        <translation>
+            <numerusform>%Ln projekt: %1 ugyanott, %2 máshol, %3 felosztva, %4 cél nélkül, %5 olvashatatlan</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 / %Ln projekt</numerusform>
+        </translation>
     </message>
     <message>
-        <source>%1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>%1 / %2 projekt %3 sorral, ebből %4 hozzárendelve, %5 ellenőrizendő, %6 cél nélkül</translation>
+        <source>davon %1 zugeordnet, %2 zu prüfen, %3 ohne Ziel</source>
+        <translation>ebből %1 hozzárendelve, %2 ellenőrizendő, %3 cél nélkül</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>Megszakítva: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1, %Ln sorral</numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>MergeState</name>
     <message numerus="yes">
-        <source>%n Änderung(en) übernommen.</source>
+        <source>%Ln Änderung(en) übernommen.</source>
         <translation>
-            <numerusform>%n módosítás átvéve.</numerusform>
+            <numerusform>%Ln módosítás átvéve.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) haben beide gleich entschieden.</source>
+        <source>%Ln Zeile(n) haben beide gleich entschieden.</source>
         <translation>
-            <numerusform>%n sorról mindketten egyformán döntöttek.</numerusform>
+            <numerusform>%Ln sorról mindketten egyformán döntöttek.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
+        <source>%Ln Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
         <translation>
-            <numerusform>%n sorról eltérően döntöttek, ütközésként megjelölve.</numerusform>
+            <numerusform>%Ln sorról eltérően döntöttek, ütközésként megjelölve.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
+        <source>%Ln andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
         <translation>
-            <numerusform>%n egyéb ellentmondás: a fájl verziója érvényes.</numerusform>
+            <numerusform>%Ln egyéb ellentmondás: a fájl verziója érvényes.</numerusform>
         </translation>
     </message>
 </context>
@@ -2169,15 +2202,15 @@ Válasszon másik fájlt.</translation>
         <translation>Táblázatok összehasonlítása folyamatban</translation>
     </message>
     <message numerus="yes">
-        <source>%n zugeordnete Zeile(n) angesehen</source>
+        <source>%Ln zugeordnete Zeile(n) angesehen</source>
         <translation>
-            <numerusform>%n hozzárendelt sor megvizsgálva</numerusform>
+            <numerusform>%Ln hozzárendelt sor megvizsgálva</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Fundstelle(n)</source>
+        <source>%Ln Fundstelle(n)</source>
         <translation>
-            <numerusform>%n lelet</numerusform>
+            <numerusform>%Ln lelet</numerusform>
         </translation>
     </message>
     <message>
@@ -2402,38 +2435,34 @@ Válasszon másik fájlt.</translation>
 </context>
 <context>
     <name>PatternDock</name>
-    <message>
-        <source>Die Tabellen werden verglichen: %1 Projekte gelesen</source>
-        <translation>Táblázatok összehasonlítása folyamatban: %1 projekt beolvasva</translation>
-    </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) mit Vorschlag</source>
+        <source>%Ln offene Zeile(n) mit Vorschlag</source>
         <translation>
-            <numerusform>%n nyitott sor javaslattal</numerusform>
+            <numerusform>%Ln nyitott sor javaslattal</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Muster(n)</source>
+        <source>in %Ln Muster(n)</source>
         <translation>
-            <numerusform>%n mintában</numerusform>
+            <numerusform>%Ln mintában</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon wird/werden noch verglichen</source>
+        <source>%Ln davon wird/werden noch verglichen</source>
         <translation>
-            <numerusform>közülük %n összehasonlítása még folyamatban</numerusform>
+            <numerusform>közülük %Ln összehasonlítása még folyamatban</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Gewählt: %n Zeile(n)</source>
+        <source>Gewählt: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>Kijelölve: %n sor</numerusform>
+            <numerusform>Kijelölve: %Ln sor</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon herausgenommen</source>
+        <source>%Ln davon herausgenommen</source>
         <translation>
-            <numerusform>közülük %n kivéve</numerusform>
+            <numerusform>közülük %Ln kivéve</numerusform>
         </translation>
     </message>
     <message>
@@ -2441,36 +2470,42 @@ Válasszon másik fájlt.</translation>
         <translation>A nyitott sorok különbségei</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%n projektben</numerusform>
+            <numerusform>%Ln projektben</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <source>%Ln offene Zeile(n) ohne Nachfolger</source>
         <translation>
-            <numerusform>%n nyitott sor utód nélkül</numerusform>
+            <numerusform>%Ln nyitott sor utód nélkül</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Die Tabellen werden verglichen: %Ln Projekt(e) gelesen</source>
+        <translation>
+            <numerusform>Táblázatok összehasonlítása folyamatban: %Ln projekt beolvasva</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>PatternModel</name>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n sor</numerusform>
+            <numerusform>%Ln sor</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Projekt(e)</source>
+        <source>%Ln Projekt(e)</source>
         <translation>
-            <numerusform>%n projekt</numerusform>
+            <numerusform>%Ln projekt</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) haben diese und andere Unterschiede</source>
+        <source>%Ln weitere Zeile(n) haben diese und andere Unterschiede</source>
         <translation>
-            <numerusform>További %n sorban vannak ezek és más különbségek</numerusform>
+            <numerusform>További %Ln sorban vannak ezek és más különbségek</numerusform>
         </translation>
     </message>
     <message>
@@ -2697,9 +2732,9 @@ Sor: %2
         <translation>%1. sor: %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
+        <source>%Ln Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
         <translation>
-            <numerusform>%n sor meg van erősítve, bár tartományának egyes értékeihez nincs új sor.</numerusform>
+            <numerusform>%Ln sor meg van erősítve, bár tartományának egyes értékeihez nincs új sor.</numerusform>
         </translation>
     </message>
     <message>
@@ -2714,18 +2749,14 @@ Sor: %2
 <context>
     <name>RangeDock</name>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n sor</numerusform>
+            <numerusform>%1: %Ln sor</numerusform>
         </translation>
     </message>
     <message>
         <source>Die Zeile hat keine Wertebereichszuordnung.</source>
         <translation>A sornak nincs értéktartomány-hozzárendelése.</translation>
-    </message>
-    <message>
-        <source>%1: %2 von %3 Werten zugeordnet</source>
-        <translation>%1: %2 / %3 érték hozzárendelve</translation>
     </message>
     <message>
         <source>fehlend: %1</source>
@@ -2742,6 +2773,12 @@ Sor: %2
     <message>
         <source>Wertebereich der Zeile</source>
         <translation>A sor értéktartománya</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 von %Ln Wert(en) zugeordnet</source>
+        <translation>
+            <numerusform>%1: %2 / %Ln érték hozzárendelve</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2784,10 +2821,6 @@ Sor: %2
     <message>
         <source>Wiederherstellung</source>
         <translation>Helyreállítás</translation>
-    </message>
-    <message>
-        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2 Schritte mit %3 Zeilen in %4 Projekten, zuletzt „%5“. Sie stammt von %6.</source>
-        <translation>A(z) %1 fájlhoz el nem mentett munka tartozik: %2 lépés %3 sorral %4 projektben, a legutóbbi: „%5”. Ettől származik: %6.</translation>
     </message>
     <message>
         <source>Gespeichert</source>
@@ -2837,16 +2870,34 @@ Sor: %2
         <source>&amp;Gespeicherten Stand öffnen</source>
         <translation>&amp;Mentett verzió megnyitása</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln Schritt(e)</source>
+        <translation>
+            <numerusform>%Ln lépés</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2, zuletzt „%3“. Sie stammt von %4.</source>
+        <translation>A(z) %1 fájlhoz el nem mentett munka tartozik: %2, a legutóbbi: „%3”. Ettől származik: %4.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1, %Ln sorral</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1, %Ln projektben</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ReleaseCommands</name>
     <message>
         <source>Tabellen werden importiert</source>
         <translation>Táblázatok importálása</translation>
-    </message>
-    <message>
-        <source>%1 Tabellen mit %2 Zeilen: %3 neu, %4 geändert, %5 unverändert, %6 nicht importiert</source>
-        <translation>%1 táblázat %2 sorral: %3 új, %4 módosított, %5 változatlan, %6 nem importált</translation>
     </message>
     <message>
         <source>%1 hat keine CSV-Datei mehr und bleibt, wie es ist</source>
@@ -2885,10 +2936,6 @@ Sor: %2
         <translation>Megszakítva, semmi sem lett exportálva</translation>
     </message>
     <message>
-        <source>%1 Zeilen nach %2 exportiert</source>
-        <translation>%1 sor exportálva ide: %2</translation>
-    </message>
-    <message>
         <source>Bericht schreiben</source>
         <translation>Jelentés írása</translation>
     </message>
@@ -2919,6 +2966,28 @@ Sor: %2
     <message>
         <source>Seite %1 von %2</source>
         <translation>%1. oldal, összesen %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Tabelle(n)</source>
+        <translation>
+            <numerusform>%Ln táblázat</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 neu, %2 geändert, %3 unverändert, %4 nicht importiert</source>
+        <translation>%1 új, %2 módosított, %3 változatlan, %4 nem importált</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Zeile(n) nach %1 exportiert</source>
+        <translation>
+            <numerusform>%Ln sor exportálva ide: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1, %Ln sorral</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2964,15 +3033,15 @@ Sor: %2
         <translation>Táblázatok olvasása folyamatban</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dafür</source>
+        <source>%Ln Zeile(n) dafür</source>
         <translation>
-            <numerusform>%n sor mellette</numerusform>
+            <numerusform>%Ln sor mellette</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dagegen</source>
+        <source>%Ln Zeile(n) dagegen</source>
         <translation>
-            <numerusform>%n sor ellene</numerusform>
+            <numerusform>%Ln sor ellene</numerusform>
         </translation>
     </message>
 </context>
@@ -2989,10 +3058,6 @@ Sor: %2
     <message>
         <source>Erstellt am %1</source>
         <translation>Készült: %1</translation>
-    </message>
-    <message>
-        <source>Erledigt: %1 von %2 Zeilen; offen: %3.</source>
-        <translation>Kész: %1 / %2 sor; nyitott: %3.</translation>
     </message>
     <message>
         <source>Stand der Zeilen</source>
@@ -3218,6 +3283,10 @@ Sor: %2
         <source>Beurteilte Zeilen</source>
         <translation>Elbírált sorok</translation>
     </message>
+    <message>
+        <source>Erledigte Zeilen: %1 von %2; offen: %3.</source>
+        <translation>Kész sorok: %1 / %2; nyitott: %3.</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3296,9 +3365,9 @@ Sor: %2
         <translation>A táblázatok még nincsenek összehasonlítva</translation>
     </message>
     <message numerus="yes">
-        <source>Von vorn: %n Zeile(n) offen</source>
+        <source>Von vorn: %Ln Zeile(n) offen</source>
         <translation>
-            <numerusform>Elölről: %n nyitott sor</numerusform>
+            <numerusform>Elölről: %Ln nyitott sor</numerusform>
         </translation>
     </message>
     <message>
@@ -3322,15 +3391,15 @@ Sor: %2
         <translation>Nincs kijelölt minta, vagy minden sora eldöntve</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n sor</numerusform>
+            <numerusform>%Ln sor</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en) bestätigen?</source>
+        <source>in %Ln Projekt(en) bestätigen?</source>
         <translation>
-            <numerusform>%n projektben megerősíti?</numerusform>
+            <numerusform>%Ln projektben megerősíti?</numerusform>
         </translation>
     </message>
     <message>
@@ -3342,9 +3411,9 @@ Sor: %2
         <translation>&amp;Megerősítés</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n sor megerősítve</numerusform>
+            <numerusform>%Ln sor megerősítve</numerusform>
         </translation>
     </message>
     <message>
@@ -3366,10 +3435,6 @@ Sor: %2
     <message>
         <source>Stichprobe</source>
         <translation>Minta</translation>
-    </message>
-    <message>
-        <source>So viele von %1 Zeilen werden gezogen und einzeln beurteilt. %2 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %3 richtige weniger als 1 %.</source>
-        <translation>Ennyi sor kerül kisorsolásra %1 közül, és egyenként kell megítélni. %2 helyes sor 95 % bizonyossággal azt jelenti, hogy 5 %-nál kevesebb a hibás, %3 helyes pedig 1 %-nál kevesebbet.</translation>
     </message>
     <message>
         <source>&amp;Ziehen</source>
@@ -3428,9 +3493,9 @@ Sor: %2
         <translation>&amp;Hibás sor megtekintése</translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind unsicher.</source>
+        <source>%Ln davon ist/sind unsicher.</source>
         <translation>
-            <numerusform>közülük %n bizonytalan.</numerusform>
+            <numerusform>közülük %Ln bizonytalan.</numerusform>
         </translation>
     </message>
     <message>
@@ -3438,20 +3503,26 @@ Sor: %2
         <translation>Minden minta kész</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%n projektben</numerusform>
+            <numerusform>%Ln projektben</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n sor megszűntként megerősítve</numerusform>
+            <numerusform>%Ln sor megszűntként megerősítve</numerusform>
         </translation>
     </message>
     <message>
         <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
         <translation>A(z) %1. sor (%2) hibás. A halmaz fel van osztva; melyik résszel folytatódjon?</translation>
+    </message>
+    <message numerus="yes">
+        <source>So viele von %Ln Zeile(n) werden gezogen und einzeln beurteilt. %1 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %2 richtige weniger als 1 %.</source>
+        <translation>
+            <numerusform>Ennyi sor kerül kisorsolásra %Ln közül, és egyenként kell megítélni. %1 helyes sor 95 % bizonyossággal azt jelenti, hogy 5 %-nál kevesebb a hibás, %2 helyes pedig 1 %-nál kevesebbet.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3609,16 +3680,20 @@ Sor: %2
         <translation>Az utolsó lezárt munkamenet mögött a(z) %1 napló nem olvasható. Nem ismert, mi állt ott; a napló megmarad.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passen noch %2 Änderungen, %3 passen nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
-        <translation>A(z) %1 napló sérült. A sérülés mögött %2 módosítás még illik, %3 már nem; továbbiak is hiányozhatnak. A napló megmarad.</translation>
-    </message>
-    <message>
         <source>Das Ende des Journals %1 ist nicht lesbar. Die letzte Änderung kann fehlen.</source>
         <translation>A(z) %1 napló vége nem olvasható. Az utolsó módosítás hiányozhat.</translation>
     </message>
-    <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
-        <translation>A(z) %1 napló sérült vagy nem illik a leképezésfájlhoz. Legalább %2 későbbi módosítás hiányzik; a napló megmarad.</translation>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passt/passen noch %Ln Änderung(en), %2 nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>A(z) %1 napló sérült. A sérülés mögött %Ln módosítás még illik, %2 már nem; továbbiak is hiányozhatnak. A napló megmarad.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %Ln spätere Änderung(en) fehlt/fehlen; das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>A(z) %1 napló sérült vagy nem illik a leképezésfájlhoz. Legalább %Ln későbbi módosítás hiányzik; a napló megmarad.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3870,11 +3945,6 @@ Sor: %2
         <translation>Minden eldöntve</translation>
     </message>
     <message>
-        <source>Offen: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Nyitott: &lt;a href=&quot;next&quot;&gt;%1 sor&lt;/a&gt; %2 projektben</translation>
-    </message>
-    <message>
         <source>Zeilen, die noch eine Entscheidung brauchen</source>
         <translation>Sorok, amelyekhez még döntés kell</translation>
     </message>
@@ -3887,13 +3957,29 @@ Sor: %2
         <translation>Szűrő: egy sor sem</translation>
     </message>
     <message>
-        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Szűrő: &lt;a href=&quot;next&quot;&gt;%1 sor&lt;/a&gt; %2 projektben</translation>
-    </message>
-    <message>
         <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
         <translation>Sorok, amelyeket az összes sorra vonatkozó szűrő mutat</translation>
+    </message>
+    <message numerus="yes">
+        <source>&lt;a href=&quot;next&quot;&gt;%Ln Zeile(n)&lt;/a&gt;</source>
+        <translation>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln sor&lt;/a&gt;</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Offen: %1</source>
+        <translation>Nyitott: %1</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>Szűrő: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <extracomment>&quot;12 lines in 3 projects&quot;</extracomment>
+        <translation>
+            <numerusform>%1, %Ln projektben</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3942,9 +4028,9 @@ Sor: %2
         <translation>&amp;Bezárás</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <source>Mit %Ln abhängigen &amp;zurücknehmen</source>
         <translation>
-            <numerusform>&amp;Visszavonás a ráépülőkkel (%n)</numerusform>
+            <numerusform>&amp;Visszavonás a ráépülőkkel (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -3952,9 +4038,9 @@ Sor: %2
         <translation>&amp;Csak ennek visszavonása</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <source>Mit %Ln früheren &amp;wieder ausführen</source>
         <translation>
-            <numerusform>Ú&amp;jra a korábbiakkal (%n)</numerusform>
+            <numerusform>Ú&amp;jra a korábbiakkal (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -3990,18 +4076,18 @@ Sor: %2
         <translation>Most valami más áll ott, amiről e lista egyik lépése sem döntött, például egy másik programé. A lépés már nem mozgatható.</translation>
     </message>
     <message numerus="yes">
-        <source>und %n weitere</source>
+        <source>und %Ln weitere</source>
         <translation>
-            <numerusform>és még %n</numerusform>
+            <numerusform>és még %Ln</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepListModel</name>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1, %n projektben</numerusform>
+            <numerusform>%1, %Ln projektben</numerusform>
         </translation>
     </message>
     <message>
@@ -4044,9 +4130,9 @@ Sor: %2
         <translation>A módosítás (%1) csak akkor lép életbe, ha a sorokat újra hozzárendelik. Ekkor csak az marad meg, ami meg van erősítve.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
+        <source>%Ln Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
         <translation>
-            <numerusform>%n sor (%1) megszűntként volt megerősítve, és már nem az: %2</numerusform>
+            <numerusform>%Ln sor (%1) megszűntként volt megerősítve, és már nem az: %2</numerusform>
         </translation>
     </message>
     <message>
@@ -4062,66 +4148,66 @@ Sor: %2
         <translation>A(z) %1 célprojekt egy változóleképezése megszűnt itt: %2.</translation>
     </message>
     <message numerus="yes">
-        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %n andere Zeile(n): %4</source>
+        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %Ln andere Zeile(n): %4</source>
         <translation>
-            <numerusform>%1 → %2. sor itt: %3: a célsort további %n sor is használja: %4</numerusform>
+            <numerusform>%1 → %2. sor itt: %3: a célsort további %Ln sor is használja: %4</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
+        <source>%Ln Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
         <translation>
-            <numerusform>%n sor (%1) újonnan hozzárendeltekkel osztozik a célsorán: %2</numerusform>
+            <numerusform>%Ln sor (%1) újonnan hozzárendeltekkel osztozik a célsorán: %2</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepSummary</name>
     <message numerus="yes">
-        <source>%n Konflikt(e) angenommen</source>
+        <source>%Ln Konflikt(e) angenommen</source>
         <translation>
-            <numerusform>%n ütközés elfogadva</numerusform>
+            <numerusform>%Ln ütközés elfogadva</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n sor megerősítve</numerusform>
+            <numerusform>%Ln sor megerősítve</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n sor megszűntként megerősítve</numerusform>
+            <numerusform>%Ln sor megszűntként megerősítve</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) zugeordnet</source>
+        <source>%Ln Zeile(n) zugeordnet</source>
         <translation>
-            <numerusform>%n sor hozzárendelve</numerusform>
+            <numerusform>%Ln sor hozzárendelve</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben</source>
         <translation>
-            <numerusform>%n sor hozzárendelése megszüntetve</numerusform>
+            <numerusform>%Ln sor hozzárendelése megszüntetve</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Wertebereichszuordnung von %n Zeile(n) geändert</source>
+        <source>Wertebereichszuordnung von %Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>%n sor értéktartomány-hozzárendelése módosítva</numerusform>
+            <numerusform>%Ln sor értéktartomány-hozzárendelése módosítva</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Konflikt von %n Zeile(n) gelöst</source>
+        <source>Konflikt von %Ln Zeile(n) gelöst</source>
         <translation>
-            <numerusform>%n sor ütközése feloldva</numerusform>
+            <numerusform>%Ln sor ütközése feloldva</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) geändert</source>
+        <source>%Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>%n sor módosítva</numerusform>
+            <numerusform>%Ln sor módosítva</numerusform>
         </translation>
     </message>
     <message>
@@ -4189,9 +4275,9 @@ Sor: %2
         <translation>%1 itt: %2</translation>
     </message>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1, %n projektben</numerusform>
+            <numerusform>%1, %Ln projektben</numerusform>
         </translation>
     </message>
 </context>
@@ -4237,9 +4323,9 @@ Sor: %2
         <translation>Értéktartomány-hozzárendelések ellenőrzése</translation>
     </message>
     <message numerus="yes">
-        <source>%n Wertebereichszuordnung(en) geprüft</source>
+        <source>%Ln Wertebereichszuordnung(en) geprüft</source>
         <translation>
-            <numerusform>%n értéktartomány-hozzárendelés ellenőrizve</numerusform>
+            <numerusform>%Ln értéktartomány-hozzárendelés ellenőrizve</numerusform>
         </translation>
     </message>
     <message>
@@ -4247,9 +4333,9 @@ Sor: %2
         <translation>nincs kifogás</translation>
     </message>
     <message numerus="yes">
-        <source>%n Beanstandung(en)</source>
+        <source>%Ln Beanstandung(en)</source>
         <translation>
-            <numerusform>%n kifogás</numerusform>
+            <numerusform>%Ln kifogás</numerusform>
         </translation>
     </message>
     <message>

@@ -8,87 +8,87 @@
         <translation>Tidak ada yang perlu diubah.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigen?</source>
+        <source>%Ln Zeile(n) bestätigen?</source>
         <translation>
-            <numerusform>Konfirmasi %n baris?</numerusform>
+            <numerusform>Konfirmasi %Ln baris?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigen?</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Konfirmasi %n baris sebagai tidak berlaku?</numerusform>
+            <numerusform>Konfirmasi %Ln baris sebagai tidak berlaku?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben?</source>
         <translation>
-            <numerusform>Batalkan penetapan %n baris?</numerusform>
+            <numerusform>Batalkan penetapan %Ln baris?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Batalkan penetapan %n baris dan konfirmasi sebagai tidak berlaku?</numerusform>
+            <numerusform>Batalkan penetapan %Ln baris dan konfirmasi sebagai tidak berlaku?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind schon bestätigt.</source>
+        <source>%Ln davon ist/sind schon bestätigt.</source>
         <translation>
-            <numerusform>%n di antaranya sudah dikonfirmasi.</numerusform>
+            <numerusform>%Ln di antaranya sudah dikonfirmasi.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon verliert/verlieren ihre Wertebereichszuordnung.</source>
+        <source>%Ln davon verliert/verlieren ihre Wertebereichszuordnung.</source>
         <translation>
-            <numerusform>%n di antaranya kehilangan penetapan rentang nilainya.</numerusform>
+            <numerusform>%Ln di antaranya kehilangan penetapan rentang nilainya.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
+        <source>%Ln Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
         <translation>
-            <numerusform>%n baris tanpa target tetap belum dikonfirmasi.</numerusform>
+            <numerusform>%Ln baris tanpa target tetap belum dikonfirmasi.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
+        <source>%Ln Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
         <translation>
-            <numerusform>%n baris tetap seperti adanya.</numerusform>
+            <numerusform>%Ln baris tetap seperti adanya.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
+        <source>%Ln Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
         <translation>
-            <numerusform>%n baris dengan konflik tidak diubah.</numerusform>
+            <numerusform>%Ln baris dengan konflik tidak diubah.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
+        <source>%Ln Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
         <translation>
-            <numerusform>%n baris tidak tercatat dalam proyek target mana pun.</numerusform>
+            <numerusform>%Ln baris tidak tercatat dalam proyek target mana pun.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt.</source>
+        <source>%Ln Zeile(n) bestätigt.</source>
         <translation>
-            <numerusform>%n baris dikonfirmasi.</numerusform>
+            <numerusform>%Ln baris dikonfirmasi.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt.</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>%n baris dikonfirmasi sebagai tidak berlaku.</numerusform>
+            <numerusform>%Ln baris dikonfirmasi sebagai tidak berlaku.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben.</source>
         <translation>
-            <numerusform>Penetapan %n baris dibatalkan.</numerusform>
+            <numerusform>Penetapan %Ln baris dibatalkan.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>Penetapan %n baris dibatalkan dan dikonfirmasi sebagai tidak berlaku.</numerusform>
+            <numerusform>Penetapan %Ln baris dibatalkan dan dikonfirmasi sebagai tidak berlaku.</numerusform>
         </translation>
     </message>
 </context>
@@ -146,10 +146,6 @@
         <translation>Tidak ada yang dapat diambil alih dari %1.</translation>
     </message>
     <message>
-        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
-        <translation>Diambil alih dari %1: %2 dari %3 baris terkonfirmasi, %4 ditetapkan dengan pasti, %5 diusulkan.</translation>
-    </message>
-    <message>
         <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
         <translation>Berkas tidak memuat pemetaan dari rilis katalog %1.</translation>
     </message>
@@ -192,6 +188,12 @@
     <message>
         <source>Entscheidungen aus %1 übernommen: %2</source>
         <translation>Keputusan diambil alih dari %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Aus %1 übernommen: %2 von %Ln bestätigten Zeile(n), %3 sicher zugeordnet, %4 vorgeschlagen.</source>
+        <translation>
+            <numerusform>Diambil alih dari %1: %2 dari %Ln baris terkonfirmasi, %3 ditetapkan dengan pasti, %4 diusulkan.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -256,9 +258,9 @@
         <translation>Konflik %1 dari %2, masih %3 terbuka</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
+        <source>%Ln Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
         <translation>
-            <numerusform>%n baris dari %1 bertentangan dengan cara yang sama. Apakah keputusan berlaku untuk semua?</numerusform>
+            <numerusform>%Ln baris dari %1 bertentangan dengan cara yang sama. Apakah keputusan berlaku untuk semua?</numerusform>
         </translation>
     </message>
     <message>
@@ -294,14 +296,10 @@ Milik pihak lain: %2</translation>
         <source>Alle Konflikte sind entschieden.</source>
         <translation>Semua konflik sudah diputuskan.</translation>
     </message>
-    <message>
-        <source>%1 von %2 Konflikten sind noch offen.</source>
-        <translation>%1 dari %2 konflik masih terbuka.</translation>
-    </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) widersprechen sich wie diese.</source>
+        <source>%Ln weitere Zeile(n) widersprechen sich wie diese.</source>
         <translation>
-            <numerusform>%n baris lagi bertentangan seperti ini.</numerusform>
+            <numerusform>%Ln baris lagi bertentangan seperti ini.</numerusform>
         </translation>
     </message>
     <message>
@@ -323,6 +321,12 @@ Milik pihak lain: %2</translation>
     <message>
         <source>Neu entscheiden</source>
         <translation>Putuskan ulang</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Konflikt(en) noch offen.</source>
+        <translation>
+            <numerusform>%1 dari %Ln konflik masih terbuka.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -441,9 +445,9 @@ Milik pihak lain: %2</translation>
         <translation>sama</translation>
     </message>
     <message numerus="yes">
-        <source>ersetzt wie in %n weiteren Zeile(n)</source>
+        <source>ersetzt wie in %Ln weiteren Zeile(n)</source>
         <translation>
-            <numerusform>diganti seperti di %n baris lain</numerusform>
+            <numerusform>diganti seperti di %Ln baris lain</numerusform>
         </translation>
     </message>
     <message>
@@ -506,9 +510,9 @@ Milik pihak lain: %2</translation>
         <translation>Ditetapkan dengan pasti.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n baris</numerusform>
+            <numerusform>%Ln baris</numerusform>
         </translation>
     </message>
     <message>
@@ -591,19 +595,15 @@ Milik pihak lain: %2</translation>
         <translation>&amp;Buang</translation>
     </message>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n baris</numerusform>
+            <numerusform>%1: %Ln baris</numerusform>
         </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>dan %1 lainnya</translation>
-    </message>
     <message numerus="yes">
-        <source>Noch %n Zeile(n) in Konflikt, in diesen Projekten:</source>
+        <source>Noch %Ln Zeile(n) in Konflikt, in diesen Projekten:</source>
         <translation>
-            <numerusform>Masih %n baris berkonflik, di proyek-proyek ini:</numerusform>
+            <numerusform>Masih %Ln baris berkonflik, di proyek-proyek ini:</numerusform>
         </translation>
     </message>
     <message>
@@ -645,6 +645,12 @@ Milik pihak lain: %2</translation>
     <message>
         <source>Die Mapping-Datei kann nicht angelegt werden.</source>
         <translation>Berkas pemetaan tidak dapat dibuat.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>dan %Ln lagi</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -708,6 +714,15 @@ Harap pilih berkas lain.</translation>
     <message>
         <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte einen anderen Ordner wählen.</source>
         <translation>Tidak ada yang dapat dibuat di folder %1 (%2). Tidak ada yang ditulis. Harap pilih folder lain.</translation>
+    </message>
+</context>
+<context>
+    <name>EditorArea</name>
+    <message>
+        <source>Keine Zeile dieses Projekts ist im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Zeilen zu sehen.</source>
+        <translation>Tidak ada baris proyek ini dalam filter.
+Buka “%1” dan pilih “%2” untuk melihat semua baris lagi.</translation>
     </message>
 </context>
 <context>
@@ -835,15 +850,15 @@ Harap pilih berkas lain.</translation>
         <translation>Membaca tabel...</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n baris</numerusform>
+            <numerusform>%Ln baris</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>di %n proyek</numerusform>
+            <numerusform>di %Ln proyek</numerusform>
         </translation>
     </message>
     <message>
@@ -851,9 +866,9 @@ Harap pilih berkas lain.</translation>
         <translation>Tanpa filter: semua baris</translation>
     </message>
     <message numerus="yes">
-        <source>%n Tabelle(n) nicht lesbar</source>
+        <source>%Ln Tabelle(n) nicht lesbar</source>
         <translation>
-            <numerusform>Tabel tak terbaca: %n</numerusform>
+            <numerusform>Tabel tak terbaca: %Ln</numerusform>
         </translation>
     </message>
     <message>
@@ -1002,9 +1017,9 @@ Harap pilih berkas lain.</translation>
         <translation>Baris %1 di %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1</source>
+        <source>%Ln Zeile(n) in %1</source>
         <translation>
-            <numerusform>%n baris di %1</numerusform>
+            <numerusform>%Ln baris di %1</numerusform>
         </translation>
     </message>
     <message>
@@ -1333,9 +1348,9 @@ Harap pilih berkas lain.</translation>
         <translation>Syarat yang disalin belum dapat dipakai begitu saja: ada nilai yang kosong, berupa rentang, atau berisi tanda kutip: %1</translation>
     </message>
     <message numerus="yes">
-        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.</source>
+        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %Ln Zeile(n) offen.</source>
         <translation>
-            <numerusform>Di dalam saringan ini semuanya selesai, di luarnya masih %n baris terbuka.</numerusform>
+            <numerusform>Di dalam saringan ini semuanya selesai, di luarnya masih %Ln baris terbuka.</numerusform>
         </translation>
     </message>
     <message>
@@ -1403,16 +1418,16 @@ Harap pilih berkas lain.</translation>
         <translation>Yang dimaksud adalah semua baris proyek.</translation>
     </message>
     <message>
-        <source>Gemeint sind die %1 gezeigten von %2 Zeilen des Projekts.</source>
-        <translation>Yang dimaksud adalah %1 baris yang ditampilkan dari %2 baris proyek.</translation>
-    </message>
-    <message>
         <source>Filter: %1.</source>
         <translation>Saringan: %1.</translation>
     </message>
     <message>
         <source>Kein anderes Projekt hat solche Zeilen</source>
         <translation>Tidak ada proyek lain dengan baris seperti itu</translation>
+    </message>
+    <message>
+        <source>Gemeint sind nur die gezeigten Zeilen des Projekts: %1 von %2.</source>
+        <translation>Yang dimaksud hanya baris proyek yang ditampilkan: %1 dari %2.</translation>
     </message>
 </context>
 <context>
@@ -1645,10 +1660,6 @@ Harap pilih berkas lain.</translation>
         <translation>T&amp;utup</translation>
     </message>
     <message>
-        <source>Die ersten %1 Links; die Suche zeigt andere.</source>
-        <translation>%1 tautan pertama; pencarian menampilkan yang lain.</translation>
-    </message>
-    <message>
         <source>Links: %1</source>
         <translation>Tautan: %1</translation>
     </message>
@@ -1667,6 +1678,12 @@ Harap pilih berkas lain.</translation>
     <message>
         <source>&amp;Wiederherstellen</source>
         <translation>&amp;Pulihkan</translation>
+    </message>
+    <message numerus="yes">
+        <source>Die ersten %Ln Link(s); die Suche zeigt andere.</source>
+        <translation>
+            <numerusform>%Ln tautan pertama; pencarian menampilkan yang lain.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1789,14 +1806,16 @@ Harap pilih berkas lain.</translation>
         <source>Nichts gefunden</source>
         <translation>Tidak ada yang ditemukan</translation>
     </message>
-    <message>
-        <source>Die ersten %1 von %2 Treffern</source>
-        <translation>%1 temuan pertama dari %2</translation>
+    <message numerus="yes">
+        <source>%Ln Treffer</source>
+        <translation>
+            <numerusform>%Ln temuan</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
-        <source>%n Treffer</source>
+        <source>Die ersten %1 von %Ln Treffer(n)</source>
         <translation>
-            <numerusform>%n temuan</numerusform>
+            <numerusform>%1 temuan pertama dari %Ln</numerusform>
         </translation>
     </message>
 </context>
@@ -2019,21 +2038,21 @@ Harap pilih berkas lain.</translation>
         <translation>Perubahan sendiri di atas versi berkas</translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): eigene Entscheidung</source>
+        <source>%Ln Konflikt(e): eigene Entscheidung</source>
         <translation>
-            <numerusform>%n konflik: keputusan sendiri</numerusform>
+            <numerusform>%Ln konflik: keputusan sendiri</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): Entscheidung der anderen Seite</source>
+        <source>%Ln Konflikt(e): Entscheidung der anderen Seite</source>
         <translation>
-            <numerusform>%n konflik: keputusan pihak lain</numerusform>
+            <numerusform>%Ln konflik: keputusan pihak lain</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): neu zu entscheiden</source>
+        <source>%Ln Konflikt(e): neu zu entscheiden</source>
         <translation>
-            <numerusform>%n konflik: diputuskan ulang</numerusform>
+            <numerusform>%Ln konflik: diputuskan ulang</numerusform>
         </translation>
     </message>
     <message>
@@ -2104,46 +2123,60 @@ Harap pilih berkas lain.</translation>
         <translation>Dibatalkan, tidak ada yang dibuat</translation>
     </message>
     <message>
-        <source>%1 Projekte: %2 am selben Ort, %3 an anderem, %4 aufgeteilt, %5 ohne Ziel, %6 unlesbar</source>
-        <translation>%1 proyek: %2 di tempat yang sama, %3 di tempat lain, %4 dibagi, %5 tanpa target, %6 tidak terbaca</translation>
-    </message>
-    <message>
         <source>Zeilen werden zugeordnet</source>
         <translation>Menetapkan baris</translation>
     </message>
-    <message>
-        <source>Abgebrochen: %1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>Dibatalkan: %1 dari %2 proyek dengan %3 baris, di antaranya %4 ditetapkan, %5 perlu diperiksa, %6 tanpa target</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e): %1 am selben Ort, %2 an anderem, %3 aufgeteilt, %4 ohne Ziel, %5 unlesbar</source>
+        <translation>
+            <numerusform>%Ln proyek: %1 di tempat yang sama, %2 di tempat lain, %3 dibagi, %4 tanpa target, %5 tidak terbaca</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 dari %Ln proyek</numerusform>
+        </translation>
     </message>
     <message>
-        <source>%1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>%1 dari %2 proyek dengan %3 baris, di antaranya %4 ditetapkan, %5 perlu diperiksa, %6 tanpa target</translation>
+        <source>davon %1 zugeordnet, %2 zu prüfen, %3 ohne Ziel</source>
+        <translation>di antaranya %1 ditetapkan, %2 perlu diperiksa, %3 tanpa target</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>Dibatalkan: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 dengan %Ln baris</numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>MergeState</name>
     <message numerus="yes">
-        <source>%n Änderung(en) übernommen.</source>
+        <source>%Ln Änderung(en) übernommen.</source>
         <translation>
-            <numerusform>%n perubahan diambil alih.</numerusform>
+            <numerusform>%Ln perubahan diambil alih.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) haben beide gleich entschieden.</source>
+        <source>%Ln Zeile(n) haben beide gleich entschieden.</source>
         <translation>
-            <numerusform>%n baris diputuskan sama oleh keduanya.</numerusform>
+            <numerusform>%Ln baris diputuskan sama oleh keduanya.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
+        <source>%Ln Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
         <translation>
-            <numerusform>%n baris diputuskan berbeda dan ditandai sebagai konflik.</numerusform>
+            <numerusform>%Ln baris diputuskan berbeda dan ditandai sebagai konflik.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
+        <source>%Ln andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
         <translation>
-            <numerusform>%n pertentangan lain: versi berkas yang berlaku.</numerusform>
+            <numerusform>%Ln pertentangan lain: versi berkas yang berlaku.</numerusform>
         </translation>
     </message>
 </context>
@@ -2169,15 +2202,15 @@ Harap pilih berkas lain.</translation>
         <translation>Tabel sedang dibandingkan</translation>
     </message>
     <message numerus="yes">
-        <source>%n zugeordnete Zeile(n) angesehen</source>
+        <source>%Ln zugeordnete Zeile(n) angesehen</source>
         <translation>
-            <numerusform>%n baris yang ditetapkan telah dilihat</numerusform>
+            <numerusform>%Ln baris yang ditetapkan telah dilihat</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Fundstelle(n)</source>
+        <source>%Ln Fundstelle(n)</source>
         <translation>
-            <numerusform>%n temuan</numerusform>
+            <numerusform>%Ln temuan</numerusform>
         </translation>
     </message>
     <message>
@@ -2402,38 +2435,34 @@ Harap pilih berkas lain.</translation>
 </context>
 <context>
     <name>PatternDock</name>
-    <message>
-        <source>Die Tabellen werden verglichen: %1 Projekte gelesen</source>
-        <translation>Tabel sedang dibandingkan: %1 proyek dibaca</translation>
-    </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) mit Vorschlag</source>
+        <source>%Ln offene Zeile(n) mit Vorschlag</source>
         <translation>
-            <numerusform>%n baris terbuka dengan usulan</numerusform>
+            <numerusform>%Ln baris terbuka dengan usulan</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Muster(n)</source>
+        <source>in %Ln Muster(n)</source>
         <translation>
-            <numerusform>dalam %n pola</numerusform>
+            <numerusform>dalam %Ln pola</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon wird/werden noch verglichen</source>
+        <source>%Ln davon wird/werden noch verglichen</source>
         <translation>
-            <numerusform>%n di antaranya masih dibandingkan</numerusform>
+            <numerusform>%Ln di antaranya masih dibandingkan</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Gewählt: %n Zeile(n)</source>
+        <source>Gewählt: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>Dipilih: %n baris</numerusform>
+            <numerusform>Dipilih: %Ln baris</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon herausgenommen</source>
+        <source>%Ln davon herausgenommen</source>
         <translation>
-            <numerusform>%n di antaranya dikeluarkan</numerusform>
+            <numerusform>%Ln di antaranya dikeluarkan</numerusform>
         </translation>
     </message>
     <message>
@@ -2441,36 +2470,42 @@ Harap pilih berkas lain.</translation>
         <translation>Perbedaan baris terbuka</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>di %n proyek</numerusform>
+            <numerusform>di %Ln proyek</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <source>%Ln offene Zeile(n) ohne Nachfolger</source>
         <translation>
-            <numerusform>%n baris terbuka tanpa penerus</numerusform>
+            <numerusform>%Ln baris terbuka tanpa penerus</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Die Tabellen werden verglichen: %Ln Projekt(e) gelesen</source>
+        <translation>
+            <numerusform>Tabel sedang dibandingkan: %Ln proyek dibaca</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>PatternModel</name>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n baris</numerusform>
+            <numerusform>%Ln baris</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Projekt(e)</source>
+        <source>%Ln Projekt(e)</source>
         <translation>
-            <numerusform>%n proyek</numerusform>
+            <numerusform>%Ln proyek</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) haben diese und andere Unterschiede</source>
+        <source>%Ln weitere Zeile(n) haben diese und andere Unterschiede</source>
         <translation>
-            <numerusform>%n baris lagi memiliki perbedaan ini dan lainnya</numerusform>
+            <numerusform>%Ln baris lagi memiliki perbedaan ini dan lainnya</numerusform>
         </translation>
     </message>
     <message>
@@ -2697,9 +2732,9 @@ Baris: %2
         <translation>Baris %1: %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
+        <source>%Ln Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
         <translation>
-            <numerusform>%n baris dikonfirmasi meskipun nilai dalam rentangnya tidak memiliki baris baru.</numerusform>
+            <numerusform>%Ln baris dikonfirmasi meskipun nilai dalam rentangnya tidak memiliki baris baru.</numerusform>
         </translation>
     </message>
     <message>
@@ -2714,18 +2749,14 @@ Baris: %2
 <context>
     <name>RangeDock</name>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n baris</numerusform>
+            <numerusform>%1: %Ln baris</numerusform>
         </translation>
     </message>
     <message>
         <source>Die Zeile hat keine Wertebereichszuordnung.</source>
         <translation>Baris tidak memiliki penetapan rentang nilai.</translation>
-    </message>
-    <message>
-        <source>%1: %2 von %3 Werten zugeordnet</source>
-        <translation>%1: %2 dari %3 nilai ditetapkan</translation>
     </message>
     <message>
         <source>fehlend: %1</source>
@@ -2742,6 +2773,12 @@ Baris: %2
     <message>
         <source>Wertebereich der Zeile</source>
         <translation>Rentang nilai baris</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 von %Ln Wert(en) zugeordnet</source>
+        <translation>
+            <numerusform>%1: %2 dari %Ln nilai ditetapkan</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2784,10 +2821,6 @@ Baris: %2
     <message>
         <source>Wiederherstellung</source>
         <translation>Pemulihan</translation>
-    </message>
-    <message>
-        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2 Schritte mit %3 Zeilen in %4 Projekten, zuletzt „%5“. Sie stammt von %6.</source>
-        <translation>Untuk %1 ada pekerjaan yang belum disimpan: %2 langkah dengan %3 baris di %4 proyek, terakhir “%5”. Berasal dari %6.</translation>
     </message>
     <message>
         <source>Gespeichert</source>
@@ -2837,16 +2870,34 @@ Baris: %2
         <source>&amp;Gespeicherten Stand öffnen</source>
         <translation>&amp;Buka versi tersimpan</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln Schritt(e)</source>
+        <translation>
+            <numerusform>%Ln langkah</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2, zuletzt „%3“. Sie stammt von %4.</source>
+        <translation>Untuk %1 ada pekerjaan yang belum disimpan: %2, terakhir “%3”. Berasal dari %4.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 dengan %Ln baris</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 di %Ln proyek</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ReleaseCommands</name>
     <message>
         <source>Tabellen werden importiert</source>
         <translation>Mengimpor tabel</translation>
-    </message>
-    <message>
-        <source>%1 Tabellen mit %2 Zeilen: %3 neu, %4 geändert, %5 unverändert, %6 nicht importiert</source>
-        <translation>%1 tabel dengan %2 baris: %3 baru, %4 diubah, %5 tidak berubah, %6 tidak diimpor</translation>
     </message>
     <message>
         <source>%1 hat keine CSV-Datei mehr und bleibt, wie es ist</source>
@@ -2885,10 +2936,6 @@ Baris: %2
         <translation>Dibatalkan, tidak ada yang diekspor</translation>
     </message>
     <message>
-        <source>%1 Zeilen nach %2 exportiert</source>
-        <translation>%1 baris diekspor ke %2</translation>
-    </message>
-    <message>
         <source>Bericht schreiben</source>
         <translation>Tulis laporan</translation>
     </message>
@@ -2919,6 +2966,28 @@ Baris: %2
     <message>
         <source>Seite %1 von %2</source>
         <translation>Halaman %1 dari %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Tabelle(n)</source>
+        <translation>
+            <numerusform>%Ln tabel</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 neu, %2 geändert, %3 unverändert, %4 nicht importiert</source>
+        <translation>%1 baru, %2 diubah, %3 tidak berubah, %4 tidak diimpor</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Zeile(n) nach %1 exportiert</source>
+        <translation>
+            <numerusform>%Ln baris diekspor ke %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 dengan %Ln baris</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2964,15 +3033,15 @@ Baris: %2
         <translation>Tabel sedang dibaca</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dafür</source>
+        <source>%Ln Zeile(n) dafür</source>
         <translation>
-            <numerusform>%n baris mendukung</numerusform>
+            <numerusform>%Ln baris mendukung</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dagegen</source>
+        <source>%Ln Zeile(n) dagegen</source>
         <translation>
-            <numerusform>%n baris menentang</numerusform>
+            <numerusform>%Ln baris menentang</numerusform>
         </translation>
     </message>
 </context>
@@ -2989,10 +3058,6 @@ Baris: %2
     <message>
         <source>Erstellt am %1</source>
         <translation>Dibuat pada %1</translation>
-    </message>
-    <message>
-        <source>Erledigt: %1 von %2 Zeilen; offen: %3.</source>
-        <translation>Selesai: %1 dari %2 baris; terbuka: %3.</translation>
     </message>
     <message>
         <source>Stand der Zeilen</source>
@@ -3218,6 +3283,10 @@ Baris: %2
         <source>Beurteilte Zeilen</source>
         <translation>Baris yang dinilai</translation>
     </message>
+    <message>
+        <source>Erledigte Zeilen: %1 von %2; offen: %3.</source>
+        <translation>Baris selesai: %1 dari %2; terbuka: %3.</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3296,9 +3365,9 @@ Baris: %2
         <translation>Tabel belum dibandingkan</translation>
     </message>
     <message numerus="yes">
-        <source>Von vorn: %n Zeile(n) offen</source>
+        <source>Von vorn: %Ln Zeile(n) offen</source>
         <translation>
-            <numerusform>Dari awal: %n baris terbuka</numerusform>
+            <numerusform>Dari awal: %Ln baris terbuka</numerusform>
         </translation>
     </message>
     <message>
@@ -3322,15 +3391,15 @@ Baris: %2
         <translation>Tidak ada pola yang dipilih, atau semua barisnya sudah diputuskan</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n baris</numerusform>
+            <numerusform>%Ln baris</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en) bestätigen?</source>
+        <source>in %Ln Projekt(en) bestätigen?</source>
         <translation>
-            <numerusform>konfirmasi di %n proyek?</numerusform>
+            <numerusform>konfirmasi di %Ln proyek?</numerusform>
         </translation>
     </message>
     <message>
@@ -3342,9 +3411,9 @@ Baris: %2
         <translation>&amp;Konfirmasi</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n baris dikonfirmasi</numerusform>
+            <numerusform>%Ln baris dikonfirmasi</numerusform>
         </translation>
     </message>
     <message>
@@ -3366,10 +3435,6 @@ Baris: %2
     <message>
         <source>Stichprobe</source>
         <translation>Sampel</translation>
-    </message>
-    <message>
-        <source>So viele von %1 Zeilen werden gezogen und einzeln beurteilt. %2 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %3 richtige weniger als 1 %.</source>
-        <translation>Sebanyak ini dari %1 baris diambil acak dan dinilai satu per satu. %2 yang benar menyatakan dengan kepastian 95 % bahwa kurang dari 5 % salah, %3 yang benar kurang dari 1 %.</translation>
     </message>
     <message>
         <source>&amp;Ziehen</source>
@@ -3428,9 +3493,9 @@ Baris: %2
         <translation>Lihat &amp;baris yang salah</translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind unsicher.</source>
+        <source>%Ln davon ist/sind unsicher.</source>
         <translation>
-            <numerusform>%n di antaranya tidak pasti.</numerusform>
+            <numerusform>%Ln di antaranya tidak pasti.</numerusform>
         </translation>
     </message>
     <message>
@@ -3438,20 +3503,26 @@ Baris: %2
         <translation>Semua pola sudah selesai</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>di %n proyek</numerusform>
+            <numerusform>di %Ln proyek</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n baris dikonfirmasi sebagai tidak berlaku</numerusform>
+            <numerusform>%Ln baris dikonfirmasi sebagai tidak berlaku</numerusform>
         </translation>
     </message>
     <message>
         <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
         <translation>Baris %1 di %2 salah. Himpunan telah dibagi; lanjut dengan bagian mana?</translation>
+    </message>
+    <message numerus="yes">
+        <source>So viele von %Ln Zeile(n) werden gezogen und einzeln beurteilt. %1 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %2 richtige weniger als 1 %.</source>
+        <translation>
+            <numerusform>Sebanyak ini dari %Ln baris diambil acak dan dinilai satu per satu. %1 yang benar menyatakan dengan kepastian 95 % bahwa kurang dari 5 % salah, %2 yang benar kurang dari 1 %.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3609,16 +3680,20 @@ Baris: %2
         <translation>Setelah sesi terakhir yang selesai, jurnal %1 tidak terbaca. Apa isinya tidak diketahui; jurnal dipertahankan.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passen noch %2 Änderungen, %3 passen nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
-        <translation>Jurnal %1 rusak. Setelah bagian yang rusak, %2 perubahan masih cocok, %3 tidak lagi; yang lain mungkin hilang. Jurnal dipertahankan.</translation>
-    </message>
-    <message>
         <source>Das Ende des Journals %1 ist nicht lesbar. Die letzte Änderung kann fehlen.</source>
         <translation>Akhir jurnal %1 tidak terbaca. Perubahan terakhir mungkin hilang.</translation>
     </message>
-    <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
-        <translation>Jurnal %1 rusak atau tidak cocok dengan berkas pemetaan. Sedikitnya %2 perubahan berikutnya hilang; jurnal dipertahankan.</translation>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passt/passen noch %Ln Änderung(en), %2 nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>Jurnal %1 rusak. Setelah bagian yang rusak, %Ln perubahan masih cocok, %2 tidak lagi; yang lain mungkin hilang. Jurnal dipertahankan.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %Ln spätere Änderung(en) fehlt/fehlen; das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>Jurnal %1 rusak atau tidak cocok dengan berkas pemetaan. Sedikitnya %Ln perubahan berikutnya hilang; jurnal dipertahankan.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3870,11 +3945,6 @@ Baris: %2
         <translation>Semua sudah diputuskan</translation>
     </message>
     <message>
-        <source>Offen: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Terbuka: &lt;a href=&quot;next&quot;&gt;%1 baris&lt;/a&gt; di %2 proyek</translation>
-    </message>
-    <message>
         <source>Zeilen, die noch eine Entscheidung brauchen</source>
         <translation>Baris yang masih memerlukan keputusan</translation>
     </message>
@@ -3887,13 +3957,29 @@ Baris: %2
         <translation>Filter: tidak ada baris</translation>
     </message>
     <message>
-        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Filter: &lt;a href=&quot;next&quot;&gt;%1 baris&lt;/a&gt; dalam %2 proyek</translation>
-    </message>
-    <message>
         <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
         <translation>Baris yang ditampilkan filter semua baris</translation>
+    </message>
+    <message numerus="yes">
+        <source>&lt;a href=&quot;next&quot;&gt;%Ln Zeile(n)&lt;/a&gt;</source>
+        <translation>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln baris&lt;/a&gt;</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Offen: %1</source>
+        <translation>Terbuka: %1</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>Filter: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <extracomment>&quot;12 lines in 3 projects&quot;</extracomment>
+        <translation>
+            <numerusform>%1 di %Ln proyek</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3942,9 +4028,9 @@ Baris: %2
         <translation>&amp;Tutup</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <source>Mit %Ln abhängigen &amp;zurücknehmen</source>
         <translation>
-            <numerusform>&amp;Batalkan bersama yang bergantung (%n)</numerusform>
+            <numerusform>&amp;Batalkan bersama yang bergantung (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -3952,9 +4038,9 @@ Baris: %2
         <translation>&amp;Batalkan yang ini saja</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <source>Mit %Ln früheren &amp;wieder ausführen</source>
         <translation>
-            <numerusform>&amp;Ulangi bersama yang sebelumnya (%n)</numerusform>
+            <numerusform>&amp;Ulangi bersama yang sebelumnya (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -3990,18 +4076,18 @@ Baris: %2
         <translation>Sekarang ada hal lain di sana yang tidak diputuskan langkah mana pun dalam daftar ini, misalnya oleh program lain. Langkah tidak dapat dipindahkan lagi.</translation>
     </message>
     <message numerus="yes">
-        <source>und %n weitere</source>
+        <source>und %Ln weitere</source>
         <translation>
-            <numerusform>dan %n lagi</numerusform>
+            <numerusform>dan %Ln lagi</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepListModel</name>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1 di %n proyek</numerusform>
+            <numerusform>%1 di %Ln proyek</numerusform>
         </translation>
     </message>
     <message>
@@ -4044,9 +4130,9 @@ Baris: %2
         <translation>Perubahan di %1 baru berlaku setelah baris ditetapkan ulang. Saat itu hanya yang dikonfirmasi yang dipertahankan.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
+        <source>%Ln Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
         <translation>
-            <numerusform>%n baris di %1 sebelumnya dikonfirmasi sebagai tidak berlaku dan sekarang tidak lagi: %2</numerusform>
+            <numerusform>%Ln baris di %1 sebelumnya dikonfirmasi sebagai tidak berlaku dan sekarang tidak lagi: %2</numerusform>
         </translation>
     </message>
     <message>
@@ -4062,66 +4148,66 @@ Baris: %2
         <translation>Sebuah pemetaan variabel proyek target %1 di %2 gugur.</translation>
     </message>
     <message numerus="yes">
-        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %n andere Zeile(n): %4</source>
+        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %Ln andere Zeile(n): %4</source>
         <translation>
-            <numerusform>Baris %1 → %2 di %3: baris target juga dimiliki %n baris lain: %4</numerusform>
+            <numerusform>Baris %1 → %2 di %3: baris target juga dimiliki %Ln baris lain: %4</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
+        <source>%Ln Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
         <translation>
-            <numerusform>%n baris di %1 berbagi baris target dengan yang baru ditetapkan: %2</numerusform>
+            <numerusform>%Ln baris di %1 berbagi baris target dengan yang baru ditetapkan: %2</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepSummary</name>
     <message numerus="yes">
-        <source>%n Konflikt(e) angenommen</source>
+        <source>%Ln Konflikt(e) angenommen</source>
         <translation>
-            <numerusform>%n konflik diterima</numerusform>
+            <numerusform>%Ln konflik diterima</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n baris dikonfirmasi</numerusform>
+            <numerusform>%Ln baris dikonfirmasi</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n baris dikonfirmasi sebagai tidak berlaku</numerusform>
+            <numerusform>%Ln baris dikonfirmasi sebagai tidak berlaku</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) zugeordnet</source>
+        <source>%Ln Zeile(n) zugeordnet</source>
         <translation>
-            <numerusform>%n baris ditetapkan</numerusform>
+            <numerusform>%Ln baris ditetapkan</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben</source>
         <translation>
-            <numerusform>penetapan %n baris dibatalkan</numerusform>
+            <numerusform>penetapan %Ln baris dibatalkan</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Wertebereichszuordnung von %n Zeile(n) geändert</source>
+        <source>Wertebereichszuordnung von %Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>penetapan rentang nilai %n baris diubah</numerusform>
+            <numerusform>penetapan rentang nilai %Ln baris diubah</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Konflikt von %n Zeile(n) gelöst</source>
+        <source>Konflikt von %Ln Zeile(n) gelöst</source>
         <translation>
-            <numerusform>konflik %n baris diselesaikan</numerusform>
+            <numerusform>konflik %Ln baris diselesaikan</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) geändert</source>
+        <source>%Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>%n baris diubah</numerusform>
+            <numerusform>%Ln baris diubah</numerusform>
         </translation>
     </message>
     <message>
@@ -4189,9 +4275,9 @@ Baris: %2
         <translation>%1 di %2</translation>
     </message>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1 di %n proyek</numerusform>
+            <numerusform>%1 di %Ln proyek</numerusform>
         </translation>
     </message>
 </context>
@@ -4237,9 +4323,9 @@ Baris: %2
         <translation>Memeriksa penetapan rentang nilai</translation>
     </message>
     <message numerus="yes">
-        <source>%n Wertebereichszuordnung(en) geprüft</source>
+        <source>%Ln Wertebereichszuordnung(en) geprüft</source>
         <translation>
-            <numerusform>%n penetapan rentang nilai diperiksa</numerusform>
+            <numerusform>%Ln penetapan rentang nilai diperiksa</numerusform>
         </translation>
     </message>
     <message>
@@ -4247,9 +4333,9 @@ Baris: %2
         <translation>tidak ada cacat</translation>
     </message>
     <message numerus="yes">
-        <source>%n Beanstandung(en)</source>
+        <source>%Ln Beanstandung(en)</source>
         <translation>
-            <numerusform>%n cacat</numerusform>
+            <numerusform>%Ln cacat</numerusform>
         </translation>
     </message>
     <message>

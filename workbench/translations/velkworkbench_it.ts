@@ -8,101 +8,101 @@
         <translation>Non c&apos;è nulla da modificare.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigen?</source>
+        <source>%Ln Zeile(n) bestätigen?</source>
         <translation>
-            <numerusform>Confermare %n riga?</numerusform>
-            <numerusform>Confermare %n righe?</numerusform>
+            <numerusform>Confermare %Ln riga?</numerusform>
+            <numerusform>Confermare %Ln righe?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigen?</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Confermare %n riga come fuori produzione?</numerusform>
-            <numerusform>Confermare %n righe come fuori produzione?</numerusform>
+            <numerusform>Confermare %Ln riga come fuori produzione?</numerusform>
+            <numerusform>Confermare %Ln righe come fuori produzione?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben?</source>
         <translation>
-            <numerusform>Annullare l&apos;assegnazione di %n riga?</numerusform>
-            <numerusform>Annullare l&apos;assegnazione di %n righe?</numerusform>
+            <numerusform>Annullare l&apos;assegnazione di %Ln riga?</numerusform>
+            <numerusform>Annullare l&apos;assegnazione di %Ln righe?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Annullare l&apos;assegnazione di %n riga e confermarla come fuori produzione?</numerusform>
-            <numerusform>Annullare l&apos;assegnazione di %n righe e confermarle come fuori produzione?</numerusform>
+            <numerusform>Annullare l&apos;assegnazione di %Ln riga e confermarla come fuori produzione?</numerusform>
+            <numerusform>Annullare l&apos;assegnazione di %Ln righe e confermarle come fuori produzione?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind schon bestätigt.</source>
+        <source>%Ln davon ist/sind schon bestätigt.</source>
         <translation>
-            <numerusform>%n di esse è già confermata.</numerusform>
-            <numerusform>%n di esse sono già confermate.</numerusform>
+            <numerusform>%Ln di esse è già confermata.</numerusform>
+            <numerusform>%Ln di esse sono già confermate.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon verliert/verlieren ihre Wertebereichszuordnung.</source>
+        <source>%Ln davon verliert/verlieren ihre Wertebereichszuordnung.</source>
         <translation>
-            <numerusform>%n di esse perde la sua assegnazione degli intervalli di valori.</numerusform>
-            <numerusform>%n di esse perdono la loro assegnazione degli intervalli di valori.</numerusform>
+            <numerusform>%Ln di esse perde la sua assegnazione degli intervalli di valori.</numerusform>
+            <numerusform>%Ln di esse perdono la loro assegnazione degli intervalli di valori.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
+        <source>%Ln Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
         <translation>
-            <numerusform>%n riga senza destinazione resta non confermata.</numerusform>
-            <numerusform>%n righe senza destinazione restano non confermate.</numerusform>
+            <numerusform>%Ln riga senza destinazione resta non confermata.</numerusform>
+            <numerusform>%Ln righe senza destinazione restano non confermate.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
+        <source>%Ln Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
         <translation>
-            <numerusform>%n riga resta com&apos;è.</numerusform>
-            <numerusform>%n righe restano come sono.</numerusform>
+            <numerusform>%Ln riga resta com&apos;è.</numerusform>
+            <numerusform>%Ln righe restano come sono.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
+        <source>%Ln Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
         <translation>
-            <numerusform>%n riga in conflitto non viene modificata.</numerusform>
-            <numerusform>%n righe in conflitto non vengono modificate.</numerusform>
+            <numerusform>%Ln riga in conflitto non viene modificata.</numerusform>
+            <numerusform>%Ln righe in conflitto non vengono modificate.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
+        <source>%Ln Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
         <translation>
-            <numerusform>%n riga non è registrata in alcun progetto di destinazione.</numerusform>
-            <numerusform>%n righe non sono registrate in alcun progetto di destinazione.</numerusform>
+            <numerusform>%Ln riga non è registrata in alcun progetto di destinazione.</numerusform>
+            <numerusform>%Ln righe non sono registrate in alcun progetto di destinazione.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt.</source>
+        <source>%Ln Zeile(n) bestätigt.</source>
         <translation>
-            <numerusform>%n riga confermata.</numerusform>
-            <numerusform>%n righe confermate.</numerusform>
+            <numerusform>%Ln riga confermata.</numerusform>
+            <numerusform>%Ln righe confermate.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt.</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>%n riga confermata come fuori produzione.</numerusform>
-            <numerusform>%n righe confermate come fuori produzione.</numerusform>
+            <numerusform>%Ln riga confermata come fuori produzione.</numerusform>
+            <numerusform>%Ln righe confermate come fuori produzione.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben.</source>
         <translation>
-            <numerusform>Assegnazione di %n riga annullata.</numerusform>
-            <numerusform>Assegnazione di %n righe annullata.</numerusform>
+            <numerusform>Assegnazione di %Ln riga annullata.</numerusform>
+            <numerusform>Assegnazione di %Ln righe annullata.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>Assegnazione di %n riga annullata, confermata come fuori produzione.</numerusform>
-            <numerusform>Assegnazione di %n righe annullata, confermate come fuori produzione.</numerusform>
+            <numerusform>Assegnazione di %Ln riga annullata, confermata come fuori produzione.</numerusform>
+            <numerusform>Assegnazione di %Ln righe annullata, confermate come fuori produzione.</numerusform>
         </translation>
     </message>
 </context>
@@ -160,10 +160,6 @@
         <translation>Da %1 non c&apos;è nulla da riprendere.</translation>
     </message>
     <message>
-        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
-        <translation>Riprese da %1: %2 di %3 righe confermate, %4 assegnate con certezza, %5 proposte.</translation>
-    </message>
-    <message>
         <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
         <translation>Il file non contiene alcuna mappatura dalla versione del catalogo %1.</translation>
     </message>
@@ -206,6 +202,13 @@
     <message>
         <source>Entscheidungen aus %1 übernommen: %2</source>
         <translation>Decisioni riprese da %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Aus %1 übernommen: %2 von %Ln bestätigten Zeile(n), %3 sicher zugeordnet, %4 vorgeschlagen.</source>
+        <translation>
+            <numerusform>Riprese da %1: %2 di %Ln riga confermata, %3 assegnate con certezza, %4 proposte.</numerusform>
+            <numerusform>Riprese da %1: %2 di %Ln righe confermate, %3 assegnate con certezza, %4 proposte.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -270,10 +273,10 @@
         <translation>Conflitto %1 di %2, ancora %3 aperti</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
+        <source>%Ln Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
         <translation>
-            <numerusform>%n riga di %1 si contraddice allo stesso modo. La decisione vale per tutte?</numerusform>
-            <numerusform>%n righe di %1 si contraddicono allo stesso modo. La decisione vale per tutte?</numerusform>
+            <numerusform>%Ln riga di %1 si contraddice allo stesso modo. La decisione vale per tutte?</numerusform>
+            <numerusform>%Ln righe di %1 si contraddicono allo stesso modo. La decisione vale per tutte?</numerusform>
         </translation>
     </message>
     <message>
@@ -309,15 +312,11 @@ Altra: %2</translation>
         <source>Alle Konflikte sind entschieden.</source>
         <translation>Tutti i conflitti sono risolti.</translation>
     </message>
-    <message>
-        <source>%1 von %2 Konflikten sind noch offen.</source>
-        <translation>%1 conflitti su %2 sono ancora aperti.</translation>
-    </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) widersprechen sich wie diese.</source>
+        <source>%Ln weitere Zeile(n) widersprechen sich wie diese.</source>
         <translation>
-            <numerusform>%n altra riga si contraddice come questa.</numerusform>
-            <numerusform>%n altre righe si contraddicono come questa.</numerusform>
+            <numerusform>%Ln altra riga si contraddice come questa.</numerusform>
+            <numerusform>%Ln altre righe si contraddicono come questa.</numerusform>
         </translation>
     </message>
     <message>
@@ -339,6 +338,13 @@ Altra: %2</translation>
     <message>
         <source>Neu entscheiden</source>
         <translation>Decidere di nuovo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Konflikt(en) noch offen.</source>
+        <translation>
+            <numerusform>%1 di %Ln conflitto ancora aperto.</numerusform>
+            <numerusform>%1 di %Ln conflitti ancora aperti.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -457,10 +463,10 @@ Altra: %2</translation>
         <translation>uguale</translation>
     </message>
     <message numerus="yes">
-        <source>ersetzt wie in %n weiteren Zeile(n)</source>
+        <source>ersetzt wie in %Ln weiteren Zeile(n)</source>
         <translation>
-            <numerusform>sostituito come in %n altra riga</numerusform>
-            <numerusform>sostituito come in %n altre righe</numerusform>
+            <numerusform>sostituito come in %Ln altra riga</numerusform>
+            <numerusform>sostituito come in %Ln altre righe</numerusform>
         </translation>
     </message>
     <message>
@@ -523,10 +529,10 @@ Altra: %2</translation>
         <translation>Assegnata con certezza.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n riga</numerusform>
-            <numerusform>%n righe</numerusform>
+            <numerusform>%Ln riga</numerusform>
+            <numerusform>%Ln righe</numerusform>
         </translation>
     </message>
     <message>
@@ -609,21 +615,17 @@ Altra: %2</translation>
         <translation>Sca&amp;rta</translation>
     </message>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n riga</numerusform>
-            <numerusform>%1: %n righe</numerusform>
+            <numerusform>%1: %Ln riga</numerusform>
+            <numerusform>%1: %Ln righe</numerusform>
         </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>e altri %1</translation>
-    </message>
     <message numerus="yes">
-        <source>Noch %n Zeile(n) in Konflikt, in diesen Projekten:</source>
+        <source>Noch %Ln Zeile(n) in Konflikt, in diesen Projekten:</source>
         <translation>
-            <numerusform>Ancora %n riga in conflitto, in questi progetti:</numerusform>
-            <numerusform>Ancora %n righe in conflitto, in questi progetti:</numerusform>
+            <numerusform>Ancora %Ln riga in conflitto, in questi progetti:</numerusform>
+            <numerusform>Ancora %Ln righe in conflitto, in questi progetti:</numerusform>
         </translation>
     </message>
     <message>
@@ -665,6 +667,13 @@ Altra: %2</translation>
     <message>
         <source>Die Mapping-Datei kann nicht angelegt werden.</source>
         <translation>Impossibile creare il file di mappatura.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>e altri %Ln</numerusform>
+            <numerusform>e altri %Ln</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -728,6 +737,15 @@ Scegliere un altro file.</translation>
     <message>
         <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte einen anderen Ordner wählen.</source>
         <translation>Nella cartella di %1 non si può creare nulla (%2). Non è stato scritto nulla. Scegliere un&apos;altra cartella.</translation>
+    </message>
+</context>
+<context>
+    <name>EditorArea</name>
+    <message>
+        <source>Keine Zeile dieses Projekts ist im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Zeilen zu sehen.</source>
+        <translation>Nessuna riga di questo progetto è nel filtro.
+Aprire «%1» e scegliere «%2» per rivedere tutte le righe.</translation>
     </message>
 </context>
 <context>
@@ -855,17 +873,17 @@ Scegliere un altro file.</translation>
         <translation>Lettura delle tabelle...</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n riga</numerusform>
-            <numerusform>%n righe</numerusform>
+            <numerusform>%Ln riga</numerusform>
+            <numerusform>%Ln righe</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>in %n progetto</numerusform>
-            <numerusform>in %n progetti</numerusform>
+            <numerusform>in %Ln progetto</numerusform>
+            <numerusform>in %Ln progetti</numerusform>
         </translation>
     </message>
     <message>
@@ -873,10 +891,10 @@ Scegliere un altro file.</translation>
         <translation>Nessun filtro: tutte le righe</translation>
     </message>
     <message numerus="yes">
-        <source>%n Tabelle(n) nicht lesbar</source>
+        <source>%Ln Tabelle(n) nicht lesbar</source>
         <translation>
-            <numerusform>Tabelle illeggibili: %n</numerusform>
-            <numerusform>Tabelle illeggibili: %n</numerusform>
+            <numerusform>Tabelle illeggibili: %Ln</numerusform>
+            <numerusform>Tabelle illeggibili: %Ln</numerusform>
         </translation>
     </message>
     <message>
@@ -1025,10 +1043,10 @@ Scegliere un altro file.</translation>
         <translation>Riga %1 in %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1</source>
+        <source>%Ln Zeile(n) in %1</source>
         <translation>
-            <numerusform>%n riga in %1</numerusform>
-            <numerusform>%n righe in %1</numerusform>
+            <numerusform>%Ln riga in %1</numerusform>
+            <numerusform>%Ln righe in %1</numerusform>
         </translation>
     </message>
     <message>
@@ -1357,10 +1375,10 @@ Scegliere un altro file.</translation>
         <translation>La condizione copiata non è ancora utilizzabile così: un valore manca, è un intervallo o contiene virgolette: %1</translation>
     </message>
     <message numerus="yes">
-        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.</source>
+        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %Ln Zeile(n) offen.</source>
         <translation>
-            <numerusform>Qui nel filtro è tutto fatto, fuori c&apos;è ancora %n riga aperta.</numerusform>
-            <numerusform>Qui nel filtro è tutto fatto, fuori ci sono ancora %n righe aperte.</numerusform>
+            <numerusform>Qui nel filtro è tutto fatto, fuori c&apos;è ancora %Ln riga aperta.</numerusform>
+            <numerusform>Qui nel filtro è tutto fatto, fuori ci sono ancora %Ln righe aperte.</numerusform>
         </translation>
     </message>
     <message>
@@ -1428,16 +1446,16 @@ Scegliere un altro file.</translation>
         <translation>Si intendono tutte le righe del progetto.</translation>
     </message>
     <message>
-        <source>Gemeint sind die %1 gezeigten von %2 Zeilen des Projekts.</source>
-        <translation>Si intendono le %1 righe mostrate delle %2 del progetto.</translation>
-    </message>
-    <message>
         <source>Filter: %1.</source>
         <translation>Filtro: %1.</translation>
     </message>
     <message>
         <source>Kein anderes Projekt hat solche Zeilen</source>
         <translation>Nessun altro progetto ha righe simili</translation>
+    </message>
+    <message>
+        <source>Gemeint sind nur die gezeigten Zeilen des Projekts: %1 von %2.</source>
+        <translation>Si intendono solo le righe mostrate del progetto: %1 di %2.</translation>
     </message>
 </context>
 <context>
@@ -1670,10 +1688,6 @@ Scegliere un altro file.</translation>
         <translation>C&amp;hiudi</translation>
     </message>
     <message>
-        <source>Die ersten %1 Links; die Suche zeigt andere.</source>
-        <translation>I primi %1 collegamenti; la ricerca ne mostra altri.</translation>
-    </message>
-    <message>
         <source>Links: %1</source>
         <translation>Collegamenti: %1</translation>
     </message>
@@ -1692,6 +1706,13 @@ Scegliere un altro file.</translation>
     <message>
         <source>&amp;Wiederherstellen</source>
         <translation>&amp;Ripristina</translation>
+    </message>
+    <message numerus="yes">
+        <source>Die ersten %Ln Link(s); die Suche zeigt andere.</source>
+        <translation>
+            <numerusform>Il primo collegamento (%Ln); la ricerca ne mostra altri.</numerusform>
+            <numerusform>I primi %Ln collegamenti; la ricerca ne mostra altri.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1814,15 +1835,18 @@ Scegliere un altro file.</translation>
         <source>Nichts gefunden</source>
         <translation>Nessun risultato</translation>
     </message>
-    <message>
-        <source>Die ersten %1 von %2 Treffern</source>
-        <translation>I primi %1 di %2 risultati</translation>
+    <message numerus="yes">
+        <source>%Ln Treffer</source>
+        <translation>
+            <numerusform>%Ln risultato</numerusform>
+            <numerusform>%Ln risultati</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
-        <source>%n Treffer</source>
+        <source>Die ersten %1 von %Ln Treffer(n)</source>
         <translation>
-            <numerusform>%n risultato</numerusform>
-            <numerusform>%n risultati</numerusform>
+            <numerusform>I primi %1 di %Ln risultato</numerusform>
+            <numerusform>I primi %1 di %Ln risultati</numerusform>
         </translation>
     </message>
 </context>
@@ -2045,24 +2069,24 @@ Scegliere un altro file.</translation>
         <translation>Modifiche proprie sulla versione del file</translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): eigene Entscheidung</source>
+        <source>%Ln Konflikt(e): eigene Entscheidung</source>
         <translation>
-            <numerusform>%n conflitto: propria decisione</numerusform>
-            <numerusform>%n conflitti: propria decisione</numerusform>
+            <numerusform>%Ln conflitto: propria decisione</numerusform>
+            <numerusform>%Ln conflitti: propria decisione</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): Entscheidung der anderen Seite</source>
+        <source>%Ln Konflikt(e): Entscheidung der anderen Seite</source>
         <translation>
-            <numerusform>%n conflitto: decisione dell&apos;altra parte</numerusform>
-            <numerusform>%n conflitti: decisione dell&apos;altra parte</numerusform>
+            <numerusform>%Ln conflitto: decisione dell&apos;altra parte</numerusform>
+            <numerusform>%Ln conflitti: decisione dell&apos;altra parte</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): neu zu entscheiden</source>
+        <source>%Ln Konflikt(e): neu zu entscheiden</source>
         <translation>
-            <numerusform>%n conflitto: da decidere di nuovo</numerusform>
-            <numerusform>%n conflitti: da decidere di nuovo</numerusform>
+            <numerusform>%Ln conflitto: da decidere di nuovo</numerusform>
+            <numerusform>%Ln conflitti: da decidere di nuovo</numerusform>
         </translation>
     </message>
     <message>
@@ -2133,50 +2157,67 @@ Scegliere un altro file.</translation>
         <translation>Interrotto, non è stato creato nulla</translation>
     </message>
     <message>
-        <source>%1 Projekte: %2 am selben Ort, %3 an anderem, %4 aufgeteilt, %5 ohne Ziel, %6 unlesbar</source>
-        <translation>%1 progetti: %2 nello stesso punto, %3 altrove, %4 suddivisi, %5 senza destinazione, %6 illeggibili</translation>
-    </message>
-    <message>
         <source>Zeilen werden zugeordnet</source>
         <translation>Assegnazione delle righe</translation>
     </message>
-    <message>
-        <source>Abgebrochen: %1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>Interrotto: %1 progetti su %2 con %3 righe, di cui %4 assegnate, %5 da verificare, %6 senza destinazione</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e): %1 am selben Ort, %2 an anderem, %3 aufgeteilt, %4 ohne Ziel, %5 unlesbar</source>
+        <translation>
+            <numerusform>%Ln progetto: %1 nello stesso punto, %2 altrove, %3 suddiviso, %4 senza destinazione, %5 illeggibile</numerusform>
+            <numerusform>%Ln progetti: %1 nello stesso punto, %2 altrove, %3 suddivisi, %4 senza destinazione, %5 illeggibili</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 di %Ln progetto</numerusform>
+            <numerusform>%1 di %Ln progetti</numerusform>
+        </translation>
     </message>
     <message>
-        <source>%1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>%1 progetti su %2 con %3 righe, di cui %4 assegnate, %5 da verificare, %6 senza destinazione</translation>
+        <source>davon %1 zugeordnet, %2 zu prüfen, %3 ohne Ziel</source>
+        <translation>di cui %1 assegnate, %2 da verificare, %3 senza destinazione</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>Interrotto: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 con %Ln riga</numerusform>
+            <numerusform>%1 con %Ln righe</numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>MergeState</name>
     <message numerus="yes">
-        <source>%n Änderung(en) übernommen.</source>
+        <source>%Ln Änderung(en) übernommen.</source>
         <translation>
-            <numerusform>%n modifica acquisita.</numerusform>
-            <numerusform>%n modifiche acquisite.</numerusform>
+            <numerusform>%Ln modifica acquisita.</numerusform>
+            <numerusform>%Ln modifiche acquisite.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) haben beide gleich entschieden.</source>
+        <source>%Ln Zeile(n) haben beide gleich entschieden.</source>
         <translation>
-            <numerusform>%n riga è stata decisa allo stesso modo da entrambi.</numerusform>
-            <numerusform>%n righe sono state decise allo stesso modo da entrambi.</numerusform>
+            <numerusform>%Ln riga è stata decisa allo stesso modo da entrambi.</numerusform>
+            <numerusform>%Ln righe sono state decise allo stesso modo da entrambi.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
+        <source>%Ln Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
         <translation>
-            <numerusform>%n riga è stata decisa diversamente e contrassegnata come conflitto.</numerusform>
-            <numerusform>%n righe sono state decise diversamente e contrassegnate come conflitto.</numerusform>
+            <numerusform>%Ln riga è stata decisa diversamente e contrassegnata come conflitto.</numerusform>
+            <numerusform>%Ln righe sono state decise diversamente e contrassegnate come conflitto.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
+        <source>%Ln andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
         <translation>
-            <numerusform>%n altra contraddizione: vale la versione del file.</numerusform>
-            <numerusform>%n altre contraddizioni: vale la versione del file.</numerusform>
+            <numerusform>%Ln altra contraddizione: vale la versione del file.</numerusform>
+            <numerusform>%Ln altre contraddizioni: vale la versione del file.</numerusform>
         </translation>
     </message>
 </context>
@@ -2202,17 +2243,17 @@ Scegliere un altro file.</translation>
         <translation>Confronto delle tabelle in corso</translation>
     </message>
     <message numerus="yes">
-        <source>%n zugeordnete Zeile(n) angesehen</source>
+        <source>%Ln zugeordnete Zeile(n) angesehen</source>
         <translation>
-            <numerusform>%n riga assegnata esaminata</numerusform>
-            <numerusform>%n righe assegnate esaminate</numerusform>
+            <numerusform>%Ln riga assegnata esaminata</numerusform>
+            <numerusform>%Ln righe assegnate esaminate</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Fundstelle(n)</source>
+        <source>%Ln Fundstelle(n)</source>
         <translation>
-            <numerusform>%n anomalia</numerusform>
-            <numerusform>%n anomalie</numerusform>
+            <numerusform>%Ln anomalia</numerusform>
+            <numerusform>%Ln anomalie</numerusform>
         </translation>
     </message>
     <message>
@@ -2437,43 +2478,39 @@ Scegliere un altro file.</translation>
 </context>
 <context>
     <name>PatternDock</name>
-    <message>
-        <source>Die Tabellen werden verglichen: %1 Projekte gelesen</source>
-        <translation>Confronto delle tabelle in corso: %1 progetti letti</translation>
-    </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) mit Vorschlag</source>
+        <source>%Ln offene Zeile(n) mit Vorschlag</source>
         <translation>
-            <numerusform>%n riga aperta con proposta</numerusform>
-            <numerusform>%n righe aperte con proposta</numerusform>
+            <numerusform>%Ln riga aperta con proposta</numerusform>
+            <numerusform>%Ln righe aperte con proposta</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Muster(n)</source>
+        <source>in %Ln Muster(n)</source>
         <translation>
-            <numerusform>in %n schema</numerusform>
-            <numerusform>in %n schemi</numerusform>
+            <numerusform>in %Ln schema</numerusform>
+            <numerusform>in %Ln schemi</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon wird/werden noch verglichen</source>
+        <source>%Ln davon wird/werden noch verglichen</source>
         <translation>
-            <numerusform>%n di esse è ancora in fase di confronto</numerusform>
-            <numerusform>%n di esse sono ancora in fase di confronto</numerusform>
+            <numerusform>%Ln di esse è ancora in fase di confronto</numerusform>
+            <numerusform>%Ln di esse sono ancora in fase di confronto</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Gewählt: %n Zeile(n)</source>
+        <source>Gewählt: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>Scelta: %n riga</numerusform>
-            <numerusform>Scelte: %n righe</numerusform>
+            <numerusform>Scelta: %Ln riga</numerusform>
+            <numerusform>Scelte: %Ln righe</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon herausgenommen</source>
+        <source>%Ln davon herausgenommen</source>
         <translation>
-            <numerusform>%n di esse esclusa</numerusform>
-            <numerusform>%n di esse escluse</numerusform>
+            <numerusform>%Ln di esse esclusa</numerusform>
+            <numerusform>%Ln di esse escluse</numerusform>
         </translation>
     </message>
     <message>
@@ -2481,41 +2518,48 @@ Scegliere un altro file.</translation>
         <translation>Differenze delle righe aperte</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>in %n progetto</numerusform>
-            <numerusform>in %n progetti</numerusform>
+            <numerusform>in %Ln progetto</numerusform>
+            <numerusform>in %Ln progetti</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <source>%Ln offene Zeile(n) ohne Nachfolger</source>
         <translation>
-            <numerusform>%n riga aperta senza successore</numerusform>
-            <numerusform>%n righe aperte senza successore</numerusform>
+            <numerusform>%Ln riga aperta senza successore</numerusform>
+            <numerusform>%Ln righe aperte senza successore</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Die Tabellen werden verglichen: %Ln Projekt(e) gelesen</source>
+        <translation>
+            <numerusform>Confronto delle tabelle in corso: %Ln progetto letto</numerusform>
+            <numerusform>Confronto delle tabelle in corso: %Ln progetti letti</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>PatternModel</name>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n riga</numerusform>
-            <numerusform>%n righe</numerusform>
+            <numerusform>%Ln riga</numerusform>
+            <numerusform>%Ln righe</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Projekt(e)</source>
+        <source>%Ln Projekt(e)</source>
         <translation>
-            <numerusform>%n progetto</numerusform>
-            <numerusform>%n progetti</numerusform>
+            <numerusform>%Ln progetto</numerusform>
+            <numerusform>%Ln progetti</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) haben diese und andere Unterschiede</source>
+        <source>%Ln weitere Zeile(n) haben diese und andere Unterschiede</source>
         <translation>
-            <numerusform>%n altra riga ha queste e altre differenze</numerusform>
-            <numerusform>%n altre righe hanno queste e altre differenze</numerusform>
+            <numerusform>%Ln altra riga ha queste e altre differenze</numerusform>
+            <numerusform>%Ln altre righe hanno queste e altre differenze</numerusform>
         </translation>
     </message>
     <message>
@@ -2742,10 +2786,10 @@ Riga: %2
         <translation>Riga %1: %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
+        <source>%Ln Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
         <translation>
-            <numerusform>%n riga è confermata anche se valori del suo intervallo non hanno una nuova riga.</numerusform>
-            <numerusform>%n righe sono confermate anche se valori dei loro intervalli non hanno una nuova riga.</numerusform>
+            <numerusform>%Ln riga è confermata anche se valori del suo intervallo non hanno una nuova riga.</numerusform>
+            <numerusform>%Ln righe sono confermate anche se valori dei loro intervalli non hanno una nuova riga.</numerusform>
         </translation>
     </message>
     <message>
@@ -2760,19 +2804,15 @@ Riga: %2
 <context>
     <name>RangeDock</name>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n riga</numerusform>
-            <numerusform>%1: %n righe</numerusform>
+            <numerusform>%1: %Ln riga</numerusform>
+            <numerusform>%1: %Ln righe</numerusform>
         </translation>
     </message>
     <message>
         <source>Die Zeile hat keine Wertebereichszuordnung.</source>
         <translation>La riga non ha assegnazioni di intervalli di valori.</translation>
-    </message>
-    <message>
-        <source>%1: %2 von %3 Werten zugeordnet</source>
-        <translation>%1: %2 di %3 valori assegnati</translation>
     </message>
     <message>
         <source>fehlend: %1</source>
@@ -2789,6 +2829,13 @@ Riga: %2
     <message>
         <source>Wertebereich der Zeile</source>
         <translation>Intervallo di valori della riga</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 von %Ln Wert(en) zugeordnet</source>
+        <translation>
+            <numerusform>%1: %2 di %Ln valore assegnato</numerusform>
+            <numerusform>%1: %2 di %Ln valori assegnati</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2831,10 +2878,6 @@ Riga: %2
     <message>
         <source>Wiederherstellung</source>
         <translation>Ripristino</translation>
-    </message>
-    <message>
-        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2 Schritte mit %3 Zeilen in %4 Projekten, zuletzt „%5“. Sie stammt von %6.</source>
-        <translation>Per %1 c&apos;è del lavoro non salvato: %2 passi con %3 righe in %4 progetti, l&apos;ultimo «%5». È di %6.</translation>
     </message>
     <message>
         <source>Gespeichert</source>
@@ -2884,16 +2927,37 @@ Riga: %2
         <source>&amp;Gespeicherten Stand öffnen</source>
         <translation>&amp;Apri la versione salvata</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln Schritt(e)</source>
+        <translation>
+            <numerusform>%Ln passo</numerusform>
+            <numerusform>%Ln passi</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2, zuletzt „%3“. Sie stammt von %4.</source>
+        <translation>Per %1 c&apos;è del lavoro non salvato: %2, l&apos;ultimo «%3». È di %4.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 con %Ln riga</numerusform>
+            <numerusform>%1 con %Ln righe</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 in %Ln progetto</numerusform>
+            <numerusform>%1 in %Ln progetti</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ReleaseCommands</name>
     <message>
         <source>Tabellen werden importiert</source>
         <translation>Importazione delle tabelle</translation>
-    </message>
-    <message>
-        <source>%1 Tabellen mit %2 Zeilen: %3 neu, %4 geändert, %5 unverändert, %6 nicht importiert</source>
-        <translation>%1 tabelle con %2 righe: %3 nuove, %4 modificate, %5 invariate, %6 non importate</translation>
     </message>
     <message>
         <source>%1 hat keine CSV-Datei mehr und bleibt, wie es ist</source>
@@ -2932,10 +2996,6 @@ Riga: %2
         <translation>Interrotto, non è stato esportato nulla</translation>
     </message>
     <message>
-        <source>%1 Zeilen nach %2 exportiert</source>
-        <translation>%1 righe esportate in %2</translation>
-    </message>
-    <message>
         <source>Bericht schreiben</source>
         <translation>Scrivi rapporto</translation>
     </message>
@@ -2966,6 +3026,31 @@ Riga: %2
     <message>
         <source>Seite %1 von %2</source>
         <translation>Pagina %1 di %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Tabelle(n)</source>
+        <translation>
+            <numerusform>%Ln tabella</numerusform>
+            <numerusform>%Ln tabelle</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 neu, %2 geändert, %3 unverändert, %4 nicht importiert</source>
+        <translation>%1 nuove, %2 modificate, %3 invariate, %4 non importate</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Zeile(n) nach %1 exportiert</source>
+        <translation>
+            <numerusform>%Ln riga esportata in %1</numerusform>
+            <numerusform>%Ln righe esportate in %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 con %Ln riga</numerusform>
+            <numerusform>%1 con %Ln righe</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3011,17 +3096,17 @@ Riga: %2
         <translation>Lettura delle tabelle in corso</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dafür</source>
+        <source>%Ln Zeile(n) dafür</source>
         <translation>
-            <numerusform>%n riga a favore</numerusform>
-            <numerusform>%n righe a favore</numerusform>
+            <numerusform>%Ln riga a favore</numerusform>
+            <numerusform>%Ln righe a favore</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dagegen</source>
+        <source>%Ln Zeile(n) dagegen</source>
         <translation>
-            <numerusform>%n riga contro</numerusform>
-            <numerusform>%n righe contro</numerusform>
+            <numerusform>%Ln riga contro</numerusform>
+            <numerusform>%Ln righe contro</numerusform>
         </translation>
     </message>
 </context>
@@ -3038,10 +3123,6 @@ Riga: %2
     <message>
         <source>Erstellt am %1</source>
         <translation>Creato il %1</translation>
-    </message>
-    <message>
-        <source>Erledigt: %1 von %2 Zeilen; offen: %3.</source>
-        <translation>Completate: %1 righe su %2; aperte: %3.</translation>
     </message>
     <message>
         <source>Stand der Zeilen</source>
@@ -3267,6 +3348,10 @@ Riga: %2
         <source>Beurteilte Zeilen</source>
         <translation>Righe giudicate</translation>
     </message>
+    <message>
+        <source>Erledigte Zeilen: %1 von %2; offen: %3.</source>
+        <translation>Righe completate: %1 di %2; aperte: %3.</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3345,10 +3430,10 @@ Riga: %2
         <translation>Le tabelle non sono ancora state confrontate</translation>
     </message>
     <message numerus="yes">
-        <source>Von vorn: %n Zeile(n) offen</source>
+        <source>Von vorn: %Ln Zeile(n) offen</source>
         <translation>
-            <numerusform>Dall&apos;inizio: %n riga aperta</numerusform>
-            <numerusform>Dall&apos;inizio: %n righe aperte</numerusform>
+            <numerusform>Dall&apos;inizio: %Ln riga aperta</numerusform>
+            <numerusform>Dall&apos;inizio: %Ln righe aperte</numerusform>
         </translation>
     </message>
     <message>
@@ -3372,17 +3457,17 @@ Riga: %2
         <translation>Nessuno schema selezionato, o tutte le sue righe sono decise</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n riga</numerusform>
-            <numerusform>%n righe</numerusform>
+            <numerusform>%Ln riga</numerusform>
+            <numerusform>%Ln righe</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en) bestätigen?</source>
+        <source>in %Ln Projekt(en) bestätigen?</source>
         <translation>
-            <numerusform>confermare in %n progetto?</numerusform>
-            <numerusform>confermare in %n progetti?</numerusform>
+            <numerusform>confermare in %Ln progetto?</numerusform>
+            <numerusform>confermare in %Ln progetti?</numerusform>
         </translation>
     </message>
     <message>
@@ -3394,10 +3479,10 @@ Riga: %2
         <translation>&amp;Conferma</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n riga confermata</numerusform>
-            <numerusform>%n righe confermate</numerusform>
+            <numerusform>%Ln riga confermata</numerusform>
+            <numerusform>%Ln righe confermate</numerusform>
         </translation>
     </message>
     <message>
@@ -3419,10 +3504,6 @@ Riga: %2
     <message>
         <source>Stichprobe</source>
         <translation>Campione</translation>
-    </message>
-    <message>
-        <source>So viele von %1 Zeilen werden gezogen und einzeln beurteilt. %2 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %3 richtige weniger als 1 %.</source>
-        <translation>Tante righe su %1 vengono estratte e giudicate una per una. %2 giuste dicono con il 95 % di certezza che meno del 5 % sono errate, %3 giuste meno dell&apos;1 %.</translation>
     </message>
     <message>
         <source>&amp;Ziehen</source>
@@ -3481,10 +3562,10 @@ Riga: %2
         <translation>&amp;Guarda la riga errata</translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind unsicher.</source>
+        <source>%Ln davon ist/sind unsicher.</source>
         <translation>
-            <numerusform>%n di esse è incerta.</numerusform>
-            <numerusform>%n di esse sono incerte.</numerusform>
+            <numerusform>%Ln di esse è incerta.</numerusform>
+            <numerusform>%Ln di esse sono incerte.</numerusform>
         </translation>
     </message>
     <message>
@@ -3492,22 +3573,29 @@ Riga: %2
         <translation>Tutti gli schemi sono completati</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>in %n progetto</numerusform>
-            <numerusform>in %n progetti</numerusform>
+            <numerusform>in %Ln progetto</numerusform>
+            <numerusform>in %Ln progetti</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n riga confermata come fuori produzione</numerusform>
-            <numerusform>%n righe confermate come fuori produzione</numerusform>
+            <numerusform>%Ln riga confermata come fuori produzione</numerusform>
+            <numerusform>%Ln righe confermate come fuori produzione</numerusform>
         </translation>
     </message>
     <message>
         <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
         <translation>La riga %1 in %2 è errata. L&apos;insieme è stato diviso; con quale parte continuare?</translation>
+    </message>
+    <message numerus="yes">
+        <source>So viele von %Ln Zeile(n) werden gezogen und einzeln beurteilt. %1 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %2 richtige weniger als 1 %.</source>
+        <translation>
+            <numerusform>Tante righe su %Ln vengono estratte e giudicate una per una. %1 giuste dicono con il 95 % di certezza che meno del 5 % sono errate, %2 giuste meno dell&apos;1 %.</numerusform>
+            <numerusform>Tante righe su %Ln vengono estratte e giudicate una per una. %1 giuste dicono con il 95 % di certezza che meno del 5 % sono errate, %2 giuste meno dell&apos;1 %.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3665,16 +3753,22 @@ Riga: %2
         <translation>Dopo l&apos;ultima sessione conclusa il giornale %1 non è leggibile. Cosa contenesse non è noto; il giornale viene conservato.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passen noch %2 Änderungen, %3 passen nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
-        <translation>Il giornale %1 è danneggiato. Dopo il punto danneggiato %2 modifiche corrispondono ancora, %3 non più; altre possono mancare. Il giornale viene conservato.</translation>
-    </message>
-    <message>
         <source>Das Ende des Journals %1 ist nicht lesbar. Die letzte Änderung kann fehlen.</source>
         <translation>La fine del giornale %1 non è leggibile. L&apos;ultima modifica può mancare.</translation>
     </message>
-    <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
-        <translation>Il giornale %1 è danneggiato o non corrisponde al file di mappatura. Mancano almeno %2 modifiche successive; il giornale viene conservato.</translation>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passt/passen noch %Ln Änderung(en), %2 nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>Il giornale %1 è danneggiato. Dopo il punto danneggiato %Ln modifica corrisponde ancora, %2 non più; altre possono mancare. Il giornale viene conservato.</numerusform>
+            <numerusform>Il giornale %1 è danneggiato. Dopo il punto danneggiato %Ln modifiche corrispondono ancora, %2 non più; altre possono mancare. Il giornale viene conservato.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %Ln spätere Änderung(en) fehlt/fehlen; das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>Il giornale %1 è danneggiato o non corrisponde al file di mappatura. Manca almeno %Ln modifica successiva; il giornale viene conservato.</numerusform>
+            <numerusform>Il giornale %1 è danneggiato o non corrisponde al file di mappatura. Mancano almeno %Ln modifiche successive; il giornale viene conservato.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3926,11 +4020,6 @@ Riga: %2
         <translation>Tutto deciso</translation>
     </message>
     <message>
-        <source>Offen: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Aperte: &lt;a href=&quot;next&quot;&gt;%1 righe&lt;/a&gt; in %2 progetti</translation>
-    </message>
-    <message>
         <source>Zeilen, die noch eine Entscheidung brauchen</source>
         <translation>Righe che richiedono ancora una decisione</translation>
     </message>
@@ -3943,13 +4032,31 @@ Riga: %2
         <translation>Filtro: nessuna riga</translation>
     </message>
     <message>
-        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Filtro: &lt;a href=&quot;next&quot;&gt;%1 righe&lt;/a&gt; in %2 progetti</translation>
-    </message>
-    <message>
         <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
         <translation>Righe che il filtro su tutte le righe mostra</translation>
+    </message>
+    <message numerus="yes">
+        <source>&lt;a href=&quot;next&quot;&gt;%Ln Zeile(n)&lt;/a&gt;</source>
+        <translation>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln riga&lt;/a&gt;</numerusform>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln righe&lt;/a&gt;</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Offen: %1</source>
+        <translation>Aperte: %1</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>Filtro: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <extracomment>&quot;12 lines in 3 projects&quot;</extracomment>
+        <translation>
+            <numerusform>%1 in %Ln progetto</numerusform>
+            <numerusform>%1 in %Ln progetti</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3998,10 +4105,10 @@ Riga: %2
         <translation>&amp;Chiudi</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <source>Mit %Ln abhängigen &amp;zurücknehmen</source>
         <translation>
-            <numerusform>&amp;Annulla con i dipendenti (%n)</numerusform>
-            <numerusform>&amp;Annulla con i dipendenti (%n)</numerusform>
+            <numerusform>&amp;Annulla con i dipendenti (%Ln)</numerusform>
+            <numerusform>&amp;Annulla con i dipendenti (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -4009,10 +4116,10 @@ Riga: %2
         <translation>&amp;Annulla solo questo</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <source>Mit %Ln früheren &amp;wieder ausführen</source>
         <translation>
-            <numerusform>&amp;Ripeti con i precedenti (%n)</numerusform>
-            <numerusform>&amp;Ripeti con i precedenti (%n)</numerusform>
+            <numerusform>&amp;Ripeti con i precedenti (%Ln)</numerusform>
+            <numerusform>&amp;Ripeti con i precedenti (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -4048,20 +4155,20 @@ Riga: %2
         <translation>Ora c’è altro, che nessun passo di questo elenco ha deciso, per esempio un altro programma. Il passo non si può più spostare.</translation>
     </message>
     <message numerus="yes">
-        <source>und %n weitere</source>
+        <source>und %Ln weitere</source>
         <translation>
-            <numerusform>e altri %n</numerusform>
-            <numerusform>e altri %n</numerusform>
+            <numerusform>e altri %Ln</numerusform>
+            <numerusform>e altri %Ln</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepListModel</name>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1 in %n progetto</numerusform>
-            <numerusform>%1 in %n progetti</numerusform>
+            <numerusform>%1 in %Ln progetto</numerusform>
+            <numerusform>%1 in %Ln progetti</numerusform>
         </translation>
     </message>
     <message>
@@ -4104,10 +4211,10 @@ Riga: %2
         <translation>La modifica in %1 ha effetto solo quando le righe vengono assegnate di nuovo. In quel caso resta solo ciò che è confermato.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
+        <source>%Ln Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
         <translation>
-            <numerusform>%n riga in %1 era confermata come fuori produzione e non lo è più: %2</numerusform>
-            <numerusform>%n righe in %1 erano confermate come fuori produzione e non lo sono più: %2</numerusform>
+            <numerusform>%Ln riga in %1 era confermata come fuori produzione e non lo è più: %2</numerusform>
+            <numerusform>%Ln righe in %1 erano confermate come fuori produzione e non lo sono più: %2</numerusform>
         </translation>
     </message>
     <message>
@@ -4123,76 +4230,76 @@ Riga: %2
         <translation>Una corrispondenza delle variabili del progetto di destinazione %1 in %2 è venuta meno.</translation>
     </message>
     <message numerus="yes">
-        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %n andere Zeile(n): %4</source>
+        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %Ln andere Zeile(n): %4</source>
         <translation>
-            <numerusform>Riga %1 → %2 in %3: la riga di destinazione è anche di %n altra riga: %4</numerusform>
-            <numerusform>Riga %1 → %2 in %3: la riga di destinazione è anche di %n altre righe: %4</numerusform>
+            <numerusform>Riga %1 → %2 in %3: la riga di destinazione è anche di %Ln altra riga: %4</numerusform>
+            <numerusform>Riga %1 → %2 in %3: la riga di destinazione è anche di %Ln altre righe: %4</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
+        <source>%Ln Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
         <translation>
-            <numerusform>%n riga in %1 condivide la sua riga di destinazione con righe appena assegnate: %2</numerusform>
-            <numerusform>%n righe in %1 condividono la loro riga di destinazione con righe appena assegnate: %2</numerusform>
+            <numerusform>%Ln riga in %1 condivide la sua riga di destinazione con righe appena assegnate: %2</numerusform>
+            <numerusform>%Ln righe in %1 condividono la loro riga di destinazione con righe appena assegnate: %2</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepSummary</name>
     <message numerus="yes">
-        <source>%n Konflikt(e) angenommen</source>
+        <source>%Ln Konflikt(e) angenommen</source>
         <translation>
-            <numerusform>%n conflitto accettato</numerusform>
-            <numerusform>%n conflitti accettati</numerusform>
+            <numerusform>%Ln conflitto accettato</numerusform>
+            <numerusform>%Ln conflitti accettati</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n riga confermata</numerusform>
-            <numerusform>%n righe confermate</numerusform>
+            <numerusform>%Ln riga confermata</numerusform>
+            <numerusform>%Ln righe confermate</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n riga confermata come fuori produzione</numerusform>
-            <numerusform>%n righe confermate come fuori produzione</numerusform>
+            <numerusform>%Ln riga confermata come fuori produzione</numerusform>
+            <numerusform>%Ln righe confermate come fuori produzione</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) zugeordnet</source>
+        <source>%Ln Zeile(n) zugeordnet</source>
         <translation>
-            <numerusform>%n riga assegnata</numerusform>
-            <numerusform>%n righe assegnate</numerusform>
+            <numerusform>%Ln riga assegnata</numerusform>
+            <numerusform>%Ln righe assegnate</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben</source>
         <translation>
-            <numerusform>assegnazione di %n riga annullata</numerusform>
-            <numerusform>assegnazione di %n righe annullata</numerusform>
+            <numerusform>assegnazione di %Ln riga annullata</numerusform>
+            <numerusform>assegnazione di %Ln righe annullata</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Wertebereichszuordnung von %n Zeile(n) geändert</source>
+        <source>Wertebereichszuordnung von %Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>assegnazione degli intervalli di valori di %n riga modificata</numerusform>
-            <numerusform>assegnazione degli intervalli di valori di %n righe modificata</numerusform>
+            <numerusform>assegnazione degli intervalli di valori di %Ln riga modificata</numerusform>
+            <numerusform>assegnazione degli intervalli di valori di %Ln righe modificata</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Konflikt von %n Zeile(n) gelöst</source>
+        <source>Konflikt von %Ln Zeile(n) gelöst</source>
         <translation>
-            <numerusform>conflitto di %n riga risolto</numerusform>
-            <numerusform>conflitto di %n righe risolto</numerusform>
+            <numerusform>conflitto di %Ln riga risolto</numerusform>
+            <numerusform>conflitto di %Ln righe risolto</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) geändert</source>
+        <source>%Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>%n riga modificata</numerusform>
-            <numerusform>%n righe modificate</numerusform>
+            <numerusform>%Ln riga modificata</numerusform>
+            <numerusform>%Ln righe modificate</numerusform>
         </translation>
     </message>
     <message>
@@ -4260,10 +4367,10 @@ Riga: %2
         <translation>%1 in %2</translation>
     </message>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1 in %n progetto</numerusform>
-            <numerusform>%1 in %n progetti</numerusform>
+            <numerusform>%1 in %Ln progetto</numerusform>
+            <numerusform>%1 in %Ln progetti</numerusform>
         </translation>
     </message>
 </context>
@@ -4309,10 +4416,10 @@ Riga: %2
         <translation>Verifica delle assegnazioni degli intervalli di valori</translation>
     </message>
     <message numerus="yes">
-        <source>%n Wertebereichszuordnung(en) geprüft</source>
+        <source>%Ln Wertebereichszuordnung(en) geprüft</source>
         <translation>
-            <numerusform>%n assegnazione di intervalli di valori verificata</numerusform>
-            <numerusform>%n assegnazioni di intervalli di valori verificate</numerusform>
+            <numerusform>%Ln assegnazione di intervalli di valori verificata</numerusform>
+            <numerusform>%Ln assegnazioni di intervalli di valori verificate</numerusform>
         </translation>
     </message>
     <message>
@@ -4320,10 +4427,10 @@ Riga: %2
         <translation>nessun rilievo</translation>
     </message>
     <message numerus="yes">
-        <source>%n Beanstandung(en)</source>
+        <source>%Ln Beanstandung(en)</source>
         <translation>
-            <numerusform>%n rilievo</numerusform>
-            <numerusform>%n rilievi</numerusform>
+            <numerusform>%Ln rilievo</numerusform>
+            <numerusform>%Ln rilievi</numerusform>
         </translation>
     </message>
     <message>

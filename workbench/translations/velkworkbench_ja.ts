@@ -8,87 +8,87 @@
         <translation>変更するものはありません。</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigen?</source>
+        <source>%Ln Zeile(n) bestätigen?</source>
         <translation>
-            <numerusform>%n 行を確認済みにしますか？</numerusform>
+            <numerusform>%Ln 行を確認済みにしますか？</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigen?</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>%n 行を廃止として確認しますか？</numerusform>
+            <numerusform>%Ln 行を廃止として確認しますか？</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben?</source>
         <translation>
-            <numerusform>%n 行の割り当てを解除しますか？</numerusform>
+            <numerusform>%Ln 行の割り当てを解除しますか？</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>%n 行の割り当てを解除し、廃止として確認しますか？</numerusform>
+            <numerusform>%Ln 行の割り当てを解除し、廃止として確認しますか？</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind schon bestätigt.</source>
+        <source>%Ln davon ist/sind schon bestätigt.</source>
         <translation>
-            <numerusform>そのうち %n 行はすでに確認済みです。</numerusform>
+            <numerusform>そのうち %Ln 行はすでに確認済みです。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon verliert/verlieren ihre Wertebereichszuordnung.</source>
+        <source>%Ln davon verliert/verlieren ihre Wertebereichszuordnung.</source>
         <translation>
-            <numerusform>そのうち %n 行の値範囲の割り当てが失われます。</numerusform>
+            <numerusform>そのうち %Ln 行の値範囲の割り当てが失われます。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
+        <source>%Ln Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
         <translation>
-            <numerusform>対象のない %n 行は未確認のままです。</numerusform>
+            <numerusform>対象のない %Ln 行は未確認のままです。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
+        <source>%Ln Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
         <translation>
-            <numerusform>%n 行はそのままです。</numerusform>
+            <numerusform>%Ln 行はそのままです。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
+        <source>%Ln Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
         <translation>
-            <numerusform>競合のある %n 行は変更されません。</numerusform>
+            <numerusform>競合のある %Ln 行は変更されません。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
+        <source>%Ln Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
         <translation>
-            <numerusform>%n 行はどの対象プロジェクトにも登録されていません。</numerusform>
+            <numerusform>%Ln 行はどの対象プロジェクトにも登録されていません。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt.</source>
+        <source>%Ln Zeile(n) bestätigt.</source>
         <translation>
-            <numerusform>%n 行を確認しました。</numerusform>
+            <numerusform>%Ln 行を確認しました。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt.</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>%n 行を廃止として確認しました。</numerusform>
+            <numerusform>%Ln 行を廃止として確認しました。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben.</source>
         <translation>
-            <numerusform>%n 行の割り当てを解除しました。</numerusform>
+            <numerusform>%Ln 行の割り当てを解除しました。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>%n 行の割り当てを解除し、廃止として確認しました。</numerusform>
+            <numerusform>%Ln 行の割り当てを解除し、廃止として確認しました。</numerusform>
         </translation>
     </message>
 </context>
@@ -146,10 +146,6 @@
         <translation>%1 から引き継ぐものはありません。</translation>
     </message>
     <message>
-        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
-        <translation>%1 から引き継ぎ: 確認済み %3 行のうち %2 行、確実に割り当て %4、提案 %5。</translation>
-    </message>
-    <message>
         <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
         <translation>ファイルにカタログリリース %1 からのマッピングがありません。</translation>
     </message>
@@ -192,6 +188,12 @@
     <message>
         <source>Entscheidungen aus %1 übernommen: %2</source>
         <translation>%1 から決定を引き継ぎ: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Aus %1 übernommen: %2 von %Ln bestätigten Zeile(n), %3 sicher zugeordnet, %4 vorgeschlagen.</source>
+        <translation>
+            <numerusform>%1 から引き継ぎ: 確認済み %Ln 行のうち %2 行、確実に割り当て %3、提案 %4。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -256,9 +258,9 @@
         <translation>競合 %1 / %2、未解決 %3</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
+        <source>%Ln Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
         <translation>
-            <numerusform>%1 の %n 行が同じように矛盾しています。この決定をすべてに適用しますか？</numerusform>
+            <numerusform>%1 の %Ln 行が同じように矛盾しています。この決定をすべてに適用しますか？</numerusform>
         </translation>
     </message>
     <message>
@@ -294,14 +296,10 @@ Andere: %2</source>
         <source>Alle Konflikte sind entschieden.</source>
         <translation>すべての競合が解決しました。</translation>
     </message>
-    <message>
-        <source>%1 von %2 Konflikten sind noch offen.</source>
-        <translation>%2 件の競合のうち %1 件が未解決です。</translation>
-    </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) widersprechen sich wie diese.</source>
+        <source>%Ln weitere Zeile(n) widersprechen sich wie diese.</source>
         <translation>
-            <numerusform>ほかに %n 行がこの行と同じように矛盾しています。</numerusform>
+            <numerusform>ほかに %Ln 行がこの行と同じように矛盾しています。</numerusform>
         </translation>
     </message>
     <message>
@@ -323,6 +321,12 @@ Andere: %2</source>
     <message>
         <source>Neu entscheiden</source>
         <translation>決め直す</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Konflikt(en) noch offen.</source>
+        <translation>
+            <numerusform>%Ln 件の競合のうち %1 件が未解決です。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -441,9 +445,9 @@ Andere: %2</source>
         <translation>同じ</translation>
     </message>
     <message numerus="yes">
-        <source>ersetzt wie in %n weiteren Zeile(n)</source>
+        <source>ersetzt wie in %Ln weiteren Zeile(n)</source>
         <translation>
-            <numerusform>ほかの %n 行と同じように置換</numerusform>
+            <numerusform>ほかの %Ln 行と同じように置換</numerusform>
         </translation>
     </message>
     <message>
@@ -506,9 +510,9 @@ Andere: %2</source>
         <translation>確実に割り当て済み。</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n 行</numerusform>
+            <numerusform>%Ln 行</numerusform>
         </translation>
     </message>
     <message>
@@ -591,19 +595,15 @@ Andere: %2</source>
         <translation>破棄(&amp;D)</translation>
     </message>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n 行</numerusform>
+            <numerusform>%1: %Ln 行</numerusform>
         </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>ほか %1 件</translation>
-    </message>
     <message numerus="yes">
-        <source>Noch %n Zeile(n) in Konflikt, in diesen Projekten:</source>
+        <source>Noch %Ln Zeile(n) in Konflikt, in diesen Projekten:</source>
         <translation>
-            <numerusform>まだ %n 行が競合しています。プロジェクト:</numerusform>
+            <numerusform>まだ %Ln 行が競合しています。プロジェクト:</numerusform>
         </translation>
     </message>
     <message>
@@ -645,6 +645,12 @@ Andere: %2</source>
     <message>
         <source>Die Mapping-Datei kann nicht angelegt werden.</source>
         <translation>マッピングファイルを作成できません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>ほか %Ln 件</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -708,6 +714,15 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte einen anderen Ordner wählen.</source>
         <translation>%1 のフォルダーには何も作成できません (%2)。何も書き込まれていません。別のフォルダーを選んでください。</translation>
+    </message>
+</context>
+<context>
+    <name>EditorArea</name>
+    <message>
+        <source>Keine Zeile dieses Projekts ist im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Zeilen zu sehen.</source>
+        <translation>このプロジェクトの行はフィルターに一つもありません。
+「%1」を開いて「%2」を選ぶと、すべての行が再び表示されます。</translation>
     </message>
 </context>
 <context>
@@ -835,15 +850,15 @@ Bitte eine andere Datei wählen.</source>
         <translation>表を読み込んでいます...</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n 行</numerusform>
+            <numerusform>%Ln 行</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%n 件のプロジェクト</numerusform>
+            <numerusform>%Ln 件のプロジェクト</numerusform>
         </translation>
     </message>
     <message>
@@ -851,9 +866,9 @@ Bitte eine andere Datei wählen.</source>
         <translation>フィルターなし：全行</translation>
     </message>
     <message numerus="yes">
-        <source>%n Tabelle(n) nicht lesbar</source>
+        <source>%Ln Tabelle(n) nicht lesbar</source>
         <translation>
-            <numerusform>読めない表：%n</numerusform>
+            <numerusform>読めない表：%Ln</numerusform>
         </translation>
     </message>
     <message>
@@ -1002,9 +1017,9 @@ Bitte eine andere Datei wählen.</source>
         <translation>%2 の行 %1</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1</source>
+        <source>%Ln Zeile(n) in %1</source>
         <translation>
-            <numerusform>%1 の %n 行</numerusform>
+            <numerusform>%1 の %Ln 行</numerusform>
         </translation>
     </message>
     <message>
@@ -1333,9 +1348,9 @@ Bitte eine andere Datei wählen.</source>
         <translation>コピーした条件はそのままでは使えません。値がないか、範囲であるか、引用符を含んでいます: %1</translation>
     </message>
     <message numerus="yes">
-        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.</source>
+        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %Ln Zeile(n) offen.</source>
         <translation>
-            <numerusform>このフィルター内はすべて完了です。フィルターの外にまだ %n 行が未決定です。</numerusform>
+            <numerusform>このフィルター内はすべて完了です。フィルターの外にまだ %Ln 行が未決定です。</numerusform>
         </translation>
     </message>
     <message>
@@ -1403,16 +1418,16 @@ Bitte eine andere Datei wählen.</source>
         <translation>プロジェクトのすべての行が対象です。</translation>
     </message>
     <message>
-        <source>Gemeint sind die %1 gezeigten von %2 Zeilen des Projekts.</source>
-        <translation>プロジェクトの %2 行のうち、表示中の %1 行が対象です。</translation>
-    </message>
-    <message>
         <source>Filter: %1.</source>
         <translation>フィルター: %1。</translation>
     </message>
     <message>
         <source>Kein anderes Projekt hat solche Zeilen</source>
         <translation>ほかのプロジェクトにそのような行はありません</translation>
+    </message>
+    <message>
+        <source>Gemeint sind nur die gezeigten Zeilen des Projekts: %1 von %2.</source>
+        <translation>プロジェクトの表示中の行だけが対象です: %2 行のうち %1 行。</translation>
     </message>
 </context>
 <context>
@@ -1645,10 +1660,6 @@ Bitte eine andere Datei wählen.</source>
         <translation>閉じる(&amp;C)</translation>
     </message>
     <message>
-        <source>Die ersten %1 Links; die Suche zeigt andere.</source>
-        <translation>最初の %1 件のリンクです。ほかは検索で表示されます。</translation>
-    </message>
-    <message>
         <source>Links: %1</source>
         <translation>リンク: %1</translation>
     </message>
@@ -1667,6 +1678,12 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>&amp;Wiederherstellen</source>
         <translation>復元(&amp;R)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Die ersten %Ln Link(s); die Suche zeigt andere.</source>
+        <translation>
+            <numerusform>最初の %Ln 件のリンクです。ほかは検索で表示されます。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1789,14 +1806,16 @@ Bitte eine andere Datei wählen.</source>
         <source>Nichts gefunden</source>
         <translation>何も見つかりません</translation>
     </message>
-    <message>
-        <source>Die ersten %1 von %2 Treffern</source>
-        <translation>%2 件中最初の %1 件</translation>
+    <message numerus="yes">
+        <source>%Ln Treffer</source>
+        <translation>
+            <numerusform>%Ln 件</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
-        <source>%n Treffer</source>
+        <source>Die ersten %1 von %Ln Treffer(n)</source>
         <translation>
-            <numerusform>%n 件</numerusform>
+            <numerusform>%Ln 件中最初の %1 件</numerusform>
         </translation>
     </message>
 </context>
@@ -2019,21 +2038,21 @@ Bitte eine andere Datei wählen.</source>
         <translation>ファイルの版に対する自分の変更</translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): eigene Entscheidung</source>
+        <source>%Ln Konflikt(e): eigene Entscheidung</source>
         <translation>
-            <numerusform>競合 %n 件: 自分の決定</numerusform>
+            <numerusform>競合 %Ln 件: 自分の決定</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): Entscheidung der anderen Seite</source>
+        <source>%Ln Konflikt(e): Entscheidung der anderen Seite</source>
         <translation>
-            <numerusform>競合 %n 件: 相手側の決定</numerusform>
+            <numerusform>競合 %Ln 件: 相手側の決定</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): neu zu entscheiden</source>
+        <source>%Ln Konflikt(e): neu zu entscheiden</source>
         <translation>
-            <numerusform>競合 %n 件: 決め直し</numerusform>
+            <numerusform>競合 %Ln 件: 決め直し</numerusform>
         </translation>
     </message>
     <message>
@@ -2104,46 +2123,60 @@ Bitte eine andere Datei wählen.</source>
         <translation>中止しました。何も作成されていません</translation>
     </message>
     <message>
-        <source>%1 Projekte: %2 am selben Ort, %3 an anderem, %4 aufgeteilt, %5 ohne Ziel, %6 unlesbar</source>
-        <translation>プロジェクト %1 件: 同じ場所 %2、別の場所 %3、分割 %4、対象なし %5、読み取り不可 %6</translation>
-    </message>
-    <message>
         <source>Zeilen werden zugeordnet</source>
         <translation>行を割り当て中</translation>
     </message>
-    <message>
-        <source>Abgebrochen: %1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>中止: %2 件中 %1 件のプロジェクト、%3 行。うち割り当て済み %4、要確認 %5、対象なし %6</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e): %1 am selben Ort, %2 an anderem, %3 aufgeteilt, %4 ohne Ziel, %5 unlesbar</source>
+        <translation>
+            <numerusform>プロジェクト %Ln 件: 同じ場所 %1、別の場所 %2、分割 %3、対象なし %4、読み取り不可 %5</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%Ln 件中 %1 件のプロジェクト</numerusform>
+        </translation>
     </message>
     <message>
-        <source>%1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>%2 件中 %1 件のプロジェクト、%3 行。うち割り当て済み %4、要確認 %5、対象なし %6</translation>
+        <source>davon %1 zugeordnet, %2 zu prüfen, %3 ohne Ziel</source>
+        <translation>うち割り当て済み %1、要確認 %2、対象なし %3</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>中止: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1、%Ln 行</numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>MergeState</name>
     <message numerus="yes">
-        <source>%n Änderung(en) übernommen.</source>
+        <source>%Ln Änderung(en) übernommen.</source>
         <translation>
-            <numerusform>%n 件の変更を取り込みました。</numerusform>
+            <numerusform>%Ln 件の変更を取り込みました。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) haben beide gleich entschieden.</source>
+        <source>%Ln Zeile(n) haben beide gleich entschieden.</source>
         <translation>
-            <numerusform>%n 行は両者が同じように決定しています。</numerusform>
+            <numerusform>%Ln 行は両者が同じように決定しています。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
+        <source>%Ln Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
         <translation>
-            <numerusform>%n 行は決定が異なるため、競合としてマークされました。</numerusform>
+            <numerusform>%Ln 行は決定が異なるため、競合としてマークされました。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
+        <source>%Ln andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
         <translation>
-            <numerusform>ほかの矛盾 %n 件: ファイルの版が有効です。</numerusform>
+            <numerusform>ほかの矛盾 %Ln 件: ファイルの版が有効です。</numerusform>
         </translation>
     </message>
 </context>
@@ -2169,15 +2202,15 @@ Bitte eine andere Datei wählen.</source>
         <translation>テーブルを比較中</translation>
     </message>
     <message numerus="yes">
-        <source>%n zugeordnete Zeile(n) angesehen</source>
+        <source>%Ln zugeordnete Zeile(n) angesehen</source>
         <translation>
-            <numerusform>割り当て済みの %n 行を調べました</numerusform>
+            <numerusform>割り当て済みの %Ln 行を調べました</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Fundstelle(n)</source>
+        <source>%Ln Fundstelle(n)</source>
         <translation>
-            <numerusform>検出 %n 件</numerusform>
+            <numerusform>検出 %Ln 件</numerusform>
         </translation>
     </message>
     <message>
@@ -2402,38 +2435,34 @@ Bitte eine andere Datei wählen.</source>
 </context>
 <context>
     <name>PatternDock</name>
-    <message>
-        <source>Die Tabellen werden verglichen: %1 Projekte gelesen</source>
-        <translation>テーブルを比較中: %1 件のプロジェクトを読み込みました</translation>
-    </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) mit Vorschlag</source>
+        <source>%Ln offene Zeile(n) mit Vorschlag</source>
         <translation>
-            <numerusform>提案のある未決定の %n 行</numerusform>
+            <numerusform>提案のある未決定の %Ln 行</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Muster(n)</source>
+        <source>in %Ln Muster(n)</source>
         <translation>
-            <numerusform>%n 個のパターン</numerusform>
+            <numerusform>%Ln 個のパターン</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon wird/werden noch verglichen</source>
+        <source>%Ln davon wird/werden noch verglichen</source>
         <translation>
-            <numerusform>うち %n 行は比較中</numerusform>
+            <numerusform>うち %Ln 行は比較中</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Gewählt: %n Zeile(n)</source>
+        <source>Gewählt: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>選択: %n 行</numerusform>
+            <numerusform>選択: %Ln 行</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon herausgenommen</source>
+        <source>%Ln davon herausgenommen</source>
         <translation>
-            <numerusform>うち %n 行を除外</numerusform>
+            <numerusform>うち %Ln 行を除外</numerusform>
         </translation>
     </message>
     <message>
@@ -2441,36 +2470,42 @@ Bitte eine andere Datei wählen.</source>
         <translation>未決定の行の差異</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%n 件のプロジェクト</numerusform>
+            <numerusform>%Ln 件のプロジェクト</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <source>%Ln offene Zeile(n) ohne Nachfolger</source>
         <translation>
-            <numerusform>後継のない未決定の %n 行</numerusform>
+            <numerusform>後継のない未決定の %Ln 行</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Die Tabellen werden verglichen: %Ln Projekt(e) gelesen</source>
+        <translation>
+            <numerusform>テーブルを比較中: %Ln 件のプロジェクトを読み込みました</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>PatternModel</name>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n 行</numerusform>
+            <numerusform>%Ln 行</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Projekt(e)</source>
+        <source>%Ln Projekt(e)</source>
         <translation>
-            <numerusform>%n 件のプロジェクト</numerusform>
+            <numerusform>%Ln 件のプロジェクト</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) haben diese und andere Unterschiede</source>
+        <source>%Ln weitere Zeile(n) haben diese und andere Unterschiede</source>
         <translation>
-            <numerusform>ほかに %n 行がこれと別の差異を持っています</numerusform>
+            <numerusform>ほかに %Ln 行がこれと別の差異を持っています</numerusform>
         </translation>
     </message>
     <message>
@@ -2697,9 +2732,9 @@ Zeile: %2
         <translation>行 %1: %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
+        <source>%Ln Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
         <translation>
-            <numerusform>範囲内に新しい行のない値があるのに、%n 行が確認済みです。</numerusform>
+            <numerusform>範囲内に新しい行のない値があるのに、%Ln 行が確認済みです。</numerusform>
         </translation>
     </message>
     <message>
@@ -2714,18 +2749,14 @@ Zeile: %2
 <context>
     <name>RangeDock</name>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n 行</numerusform>
+            <numerusform>%1: %Ln 行</numerusform>
         </translation>
     </message>
     <message>
         <source>Die Zeile hat keine Wertebereichszuordnung.</source>
         <translation>この行に値範囲の割り当てはありません。</translation>
-    </message>
-    <message>
-        <source>%1: %2 von %3 Werten zugeordnet</source>
-        <translation>%1: %3 個の値のうち %2 個を割り当て済み</translation>
     </message>
     <message>
         <source>fehlend: %1</source>
@@ -2742,6 +2773,12 @@ Zeile: %2
     <message>
         <source>Wertebereich der Zeile</source>
         <translation>行の値範囲</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 von %Ln Wert(en) zugeordnet</source>
+        <translation>
+            <numerusform>%1: %Ln 個の値のうち %2 個を割り当て済み</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2784,10 +2821,6 @@ Zeile: %2
     <message>
         <source>Wiederherstellung</source>
         <translation>復元</translation>
-    </message>
-    <message>
-        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2 Schritte mit %3 Zeilen in %4 Projekten, zuletzt „%5“. Sie stammt von %6.</source>
-        <translation>%1 に保存されていない作業があります: 操作 %2、行 %3、プロジェクト %4、最後は「%5」。作業者は %6 です。</translation>
     </message>
     <message>
         <source>Gespeichert</source>
@@ -2837,16 +2870,34 @@ Zeile: %2
         <source>&amp;Gespeicherten Stand öffnen</source>
         <translation>保存済みの版を開く(&amp;S)</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln Schritt(e)</source>
+        <translation>
+            <numerusform>操作 %Ln 件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2, zuletzt „%3“. Sie stammt von %4.</source>
+        <translation>%1 に保存されていない作業があります: %2、最後は「%3」。作業者は %4 です。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1、%Ln 行</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1、%Ln 件のプロジェクト</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ReleaseCommands</name>
     <message>
         <source>Tabellen werden importiert</source>
         <translation>テーブルをインポート中</translation>
-    </message>
-    <message>
-        <source>%1 Tabellen mit %2 Zeilen: %3 neu, %4 geändert, %5 unverändert, %6 nicht importiert</source>
-        <translation>テーブル %1 件、%2 行: 新規 %3、変更 %4、変更なし %5、未インポート %6</translation>
     </message>
     <message>
         <source>%1 hat keine CSV-Datei mehr und bleibt, wie es ist</source>
@@ -2885,10 +2936,6 @@ Zeile: %2
         <translation>中止しました。何もエクスポートされていません</translation>
     </message>
     <message>
-        <source>%1 Zeilen nach %2 exportiert</source>
-        <translation>%1 行を %2 にエクスポートしました</translation>
-    </message>
-    <message>
         <source>Bericht schreiben</source>
         <translation>レポートを書き込む</translation>
     </message>
@@ -2919,6 +2966,28 @@ Zeile: %2
     <message>
         <source>Seite %1 von %2</source>
         <translation>%1 / %2 ページ</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Tabelle(n)</source>
+        <translation>
+            <numerusform>テーブル %Ln 件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 neu, %2 geändert, %3 unverändert, %4 nicht importiert</source>
+        <translation>新規 %1、変更 %2、変更なし %3、未インポート %4</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Zeile(n) nach %1 exportiert</source>
+        <translation>
+            <numerusform>%Ln 行を %1 にエクスポートしました</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1、%Ln 行</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2964,15 +3033,15 @@ Zeile: %2
         <translation>テーブルを読み込み中</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dafür</source>
+        <source>%Ln Zeile(n) dafür</source>
         <translation>
-            <numerusform>支持する %n 行</numerusform>
+            <numerusform>支持する %Ln 行</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dagegen</source>
+        <source>%Ln Zeile(n) dagegen</source>
         <translation>
-            <numerusform>反する %n 行</numerusform>
+            <numerusform>反する %Ln 行</numerusform>
         </translation>
     </message>
 </context>
@@ -2989,10 +3058,6 @@ Zeile: %2
     <message>
         <source>Erstellt am %1</source>
         <translation>作成日: %1</translation>
-    </message>
-    <message>
-        <source>Erledigt: %1 von %2 Zeilen; offen: %3.</source>
-        <translation>完了: %2 行中 %1 行。未決定: %3。</translation>
     </message>
     <message>
         <source>Stand der Zeilen</source>
@@ -3218,6 +3283,10 @@ Zeile: %2
         <source>Beurteilte Zeilen</source>
         <translation>判定済みの行</translation>
     </message>
+    <message>
+        <source>Erledigte Zeilen: %1 von %2; offen: %3.</source>
+        <translation>完了した行: %2 行中 %1 行。未決定: %3。</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3296,9 +3365,9 @@ Zeile: %2
         <translation>テーブルはまだ比較されていません</translation>
     </message>
     <message numerus="yes">
-        <source>Von vorn: %n Zeile(n) offen</source>
+        <source>Von vorn: %Ln Zeile(n) offen</source>
         <translation>
-            <numerusform>最初から: 未決定 %n 行</numerusform>
+            <numerusform>最初から: 未決定 %Ln 行</numerusform>
         </translation>
     </message>
     <message>
@@ -3322,15 +3391,15 @@ Zeile: %2
         <translation>パターンが選択されていないか、すべての行が決定済みです</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n 行</numerusform>
+            <numerusform>%Ln 行</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en) bestätigen?</source>
+        <source>in %Ln Projekt(en) bestätigen?</source>
         <translation>
-            <numerusform>%n 件のプロジェクトで確認しますか？</numerusform>
+            <numerusform>%Ln 件のプロジェクトで確認しますか？</numerusform>
         </translation>
     </message>
     <message>
@@ -3342,9 +3411,9 @@ Zeile: %2
         <translation>確認(&amp;C)</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n 行を確認しました</numerusform>
+            <numerusform>%Ln 行を確認しました</numerusform>
         </translation>
     </message>
     <message>
@@ -3366,10 +3435,6 @@ Zeile: %2
     <message>
         <source>Stichprobe</source>
         <translation>抜き取り検査</translation>
-    </message>
-    <message>
-        <source>So viele von %1 Zeilen werden gezogen und einzeln beurteilt. %2 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %3 richtige weniger als 1 %.</source>
-        <translation>%1 行からこの数だけ抜き取り、1行ずつ判定します。%2 行が正しければ 95 % の確度で誤りは 5 % 未満、%3 行なら 1 % 未満といえます。</translation>
     </message>
     <message>
         <source>&amp;Ziehen</source>
@@ -3428,9 +3493,9 @@ Zeile: %2
         <translation>誤りの行を見る(&amp;L)</translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind unsicher.</source>
+        <source>%Ln davon ist/sind unsicher.</source>
         <translation>
-            <numerusform>そのうち %n 行は不確かです。</numerusform>
+            <numerusform>そのうち %Ln 行は不確かです。</numerusform>
         </translation>
     </message>
     <message>
@@ -3438,20 +3503,26 @@ Zeile: %2
         <translation>すべてのパターンが完了しました</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%n 件のプロジェクト</numerusform>
+            <numerusform>%Ln 件のプロジェクト</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n 行を廃止として確認</numerusform>
+            <numerusform>%Ln 行を廃止として確認</numerusform>
         </translation>
     </message>
     <message>
         <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
         <translation>%2 の行 %1 は誤りです。集合は分けられました。どの部分で続けますか？</translation>
+    </message>
+    <message numerus="yes">
+        <source>So viele von %Ln Zeile(n) werden gezogen und einzeln beurteilt. %1 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %2 richtige weniger als 1 %.</source>
+        <translation>
+            <numerusform>%Ln 行からこの数だけ抜き取り、1行ずつ判定します。%1 行が正しければ 95 % の確度で誤りは 5 % 未満、%2 行なら 1 % 未満といえます。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3609,16 +3680,20 @@ Zeile: %2
         <translation>最後に終了したセッションの後、ジャーナル %1 を読み取れません。内容は不明です。ジャーナルは保管されます。</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passen noch %2 Änderungen, %3 passen nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
-        <translation>ジャーナル %1 は破損しています。破損箇所の後で %2 件の変更はまだ適合し、%3 件は適合しません。ほかにも欠けている可能性があります。ジャーナルは保管されます。</translation>
-    </message>
-    <message>
         <source>Das Ende des Journals %1 ist nicht lesbar. Die letzte Änderung kann fehlen.</source>
         <translation>ジャーナル %1 の末尾を読み取れません。最後の変更が欠けている可能性があります。</translation>
     </message>
-    <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
-        <translation>ジャーナル %1 は破損しているか、マッピングファイルに合いません。以後の変更が少なくとも %2 件欠けています。ジャーナルは保管されます。</translation>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passt/passen noch %Ln Änderung(en), %2 nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>ジャーナル %1 は破損しています。破損箇所の後で %Ln 件の変更はまだ適合し、%2 件は適合しません。ほかにも欠けている可能性があります。ジャーナルは保管されます。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %Ln spätere Änderung(en) fehlt/fehlen; das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>ジャーナル %1 は破損しているか、マッピングファイルに合いません。以後の変更が少なくとも %Ln 件欠けています。ジャーナルは保管されます。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3870,11 +3945,6 @@ Zeile: %2
         <translation>すべて決定済み</translation>
     </message>
     <message>
-        <source>Offen: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>未決定: %2 件のプロジェクトの &lt;a href=&quot;next&quot;&gt;%1 行&lt;/a&gt;</translation>
-    </message>
-    <message>
         <source>Zeilen, die noch eine Entscheidung brauchen</source>
         <translation>まだ決定が必要な行</translation>
     </message>
@@ -3887,13 +3957,29 @@ Zeile: %2
         <translation>フィルター：行なし</translation>
     </message>
     <message>
-        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>フィルター：&lt;a href=&quot;next&quot;&gt;%1 行&lt;/a&gt;、%2 プロジェクト</translation>
-    </message>
-    <message>
         <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
         <translation>全行のフィルターが示す行</translation>
+    </message>
+    <message numerus="yes">
+        <source>&lt;a href=&quot;next&quot;&gt;%Ln Zeile(n)&lt;/a&gt;</source>
+        <translation>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln 行&lt;/a&gt;</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Offen: %1</source>
+        <translation>未決定: %1</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>フィルター：%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <extracomment>&quot;12 lines in 3 projects&quot;</extracomment>
+        <translation>
+            <numerusform>%1、%Ln 件のプロジェクト</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3942,9 +4028,9 @@ Zeile: %2
         <translation>閉じる(&amp;C)</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <source>Mit %Ln abhängigen &amp;zurücknehmen</source>
         <translation>
-            <numerusform>依存する %n 件とともに取り消す(&amp;T)</numerusform>
+            <numerusform>依存する %Ln 件とともに取り消す(&amp;T)</numerusform>
         </translation>
     </message>
     <message>
@@ -3952,9 +4038,9 @@ Zeile: %2
         <translation>これだけ取り消す(&amp;T)</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <source>Mit %Ln früheren &amp;wieder ausführen</source>
         <translation>
-            <numerusform>以前の %n 件とともにやり直す(&amp;D)</numerusform>
+            <numerusform>以前の %Ln 件とともにやり直す(&amp;D)</numerusform>
         </translation>
     </message>
     <message>
@@ -3990,18 +4076,18 @@ Zeile: %2
         <translation>この一覧のどのステップでも決めていない別の内容がそこにあります（別のプログラムなど）。このステップはもう動かせません。</translation>
     </message>
     <message numerus="yes">
-        <source>und %n weitere</source>
+        <source>und %Ln weitere</source>
         <translation>
-            <numerusform>ほか %n 件</numerusform>
+            <numerusform>ほか %Ln 件</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepListModel</name>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1、%n 件のプロジェクト</numerusform>
+            <numerusform>%1、%Ln 件のプロジェクト</numerusform>
         </translation>
     </message>
     <message>
@@ -4044,9 +4130,9 @@ Zeile: %2
         <translation>%1 での変更は、行を割り当て直したときに有効になります。そのとき残るのは確認済みのものだけです。</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
+        <source>%Ln Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
         <translation>
-            <numerusform>%1 の %n 行は廃止として確認されていましたが、そうではなくなりました: %2</numerusform>
+            <numerusform>%1 の %Ln 行は廃止として確認されていましたが、そうではなくなりました: %2</numerusform>
         </translation>
     </message>
     <message>
@@ -4062,66 +4148,66 @@ Zeile: %2
         <translation>%2 の対象プロジェクト %1 の変数の対応付けがなくなりました。</translation>
     </message>
     <message numerus="yes">
-        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %n andere Zeile(n): %4</source>
+        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %Ln andere Zeile(n): %4</source>
         <translation>
-            <numerusform>%3 の行 %1 → %2: ほかの %n 行も同じ対象行を持っています: %4</numerusform>
+            <numerusform>%3 の行 %1 → %2: ほかの %Ln 行も同じ対象行を持っています: %4</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
+        <source>%Ln Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
         <translation>
-            <numerusform>%1 の %n 行が、新しく割り当てた行と対象行を共有しています: %2</numerusform>
+            <numerusform>%1 の %Ln 行が、新しく割り当てた行と対象行を共有しています: %2</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepSummary</name>
     <message numerus="yes">
-        <source>%n Konflikt(e) angenommen</source>
+        <source>%Ln Konflikt(e) angenommen</source>
         <translation>
-            <numerusform>%n 件の競合を承認</numerusform>
+            <numerusform>%Ln 件の競合を承認</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n 行を確認しました</numerusform>
+            <numerusform>%Ln 行を確認しました</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n 行を廃止として確認</numerusform>
+            <numerusform>%Ln 行を廃止として確認</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) zugeordnet</source>
+        <source>%Ln Zeile(n) zugeordnet</source>
         <translation>
-            <numerusform>%n 行を割り当て</numerusform>
+            <numerusform>%Ln 行を割り当て</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben</source>
         <translation>
-            <numerusform>%n 行の割り当てを解除</numerusform>
+            <numerusform>%Ln 行の割り当てを解除</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Wertebereichszuordnung von %n Zeile(n) geändert</source>
+        <source>Wertebereichszuordnung von %Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>%n 行の値範囲の割り当てを変更</numerusform>
+            <numerusform>%Ln 行の値範囲の割り当てを変更</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Konflikt von %n Zeile(n) gelöst</source>
+        <source>Konflikt von %Ln Zeile(n) gelöst</source>
         <translation>
-            <numerusform>%n 行の競合を解決</numerusform>
+            <numerusform>%Ln 行の競合を解決</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) geändert</source>
+        <source>%Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>%n 行を変更</numerusform>
+            <numerusform>%Ln 行を変更</numerusform>
         </translation>
     </message>
     <message>
@@ -4189,9 +4275,9 @@ Zeile: %2
         <translation>%2 の %1</translation>
     </message>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1、%n 件のプロジェクト</numerusform>
+            <numerusform>%1、%Ln 件のプロジェクト</numerusform>
         </translation>
     </message>
 </context>
@@ -4237,9 +4323,9 @@ Zeile: %2
         <translation>値範囲の割り当てを検査中</translation>
     </message>
     <message numerus="yes">
-        <source>%n Wertebereichszuordnung(en) geprüft</source>
+        <source>%Ln Wertebereichszuordnung(en) geprüft</source>
         <translation>
-            <numerusform>%n 件の値範囲の割り当てを検査しました</numerusform>
+            <numerusform>%Ln 件の値範囲の割り当てを検査しました</numerusform>
         </translation>
     </message>
     <message>
@@ -4247,9 +4333,9 @@ Zeile: %2
         <translation>問題なし</translation>
     </message>
     <message numerus="yes">
-        <source>%n Beanstandung(en)</source>
+        <source>%Ln Beanstandung(en)</source>
         <translation>
-            <numerusform>%n 件の問題</numerusform>
+            <numerusform>%Ln 件の問題</numerusform>
         </translation>
     </message>
     <message>

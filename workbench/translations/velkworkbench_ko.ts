@@ -8,87 +8,87 @@
         <translation>변경할 것이 없습니다.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigen?</source>
+        <source>%Ln Zeile(n) bestätigen?</source>
         <translation>
-            <numerusform>%n개 행을 확인할까요?</numerusform>
+            <numerusform>%Ln개 행을 확인할까요?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigen?</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>%n개 행을 단종으로 확인할까요?</numerusform>
+            <numerusform>%Ln개 행을 단종으로 확인할까요?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben?</source>
         <translation>
-            <numerusform>%n개 행의 할당을 해제할까요?</numerusform>
+            <numerusform>%Ln개 행의 할당을 해제할까요?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>%n개 행의 할당을 해제하고 단종으로 확인할까요?</numerusform>
+            <numerusform>%Ln개 행의 할당을 해제하고 단종으로 확인할까요?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind schon bestätigt.</source>
+        <source>%Ln davon ist/sind schon bestätigt.</source>
         <translation>
-            <numerusform>그중 %n개는 이미 확인되었습니다.</numerusform>
+            <numerusform>그중 %Ln개는 이미 확인되었습니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon verliert/verlieren ihre Wertebereichszuordnung.</source>
+        <source>%Ln davon verliert/verlieren ihre Wertebereichszuordnung.</source>
         <translation>
-            <numerusform>그중 %n개는 값 범위 할당을 잃습니다.</numerusform>
+            <numerusform>그중 %Ln개는 값 범위 할당을 잃습니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
+        <source>%Ln Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
         <translation>
-            <numerusform>대상이 없는 %n개 행은 확인되지 않은 채로 남습니다.</numerusform>
+            <numerusform>대상이 없는 %Ln개 행은 확인되지 않은 채로 남습니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
+        <source>%Ln Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
         <translation>
-            <numerusform>%n개 행은 그대로 유지됩니다.</numerusform>
+            <numerusform>%Ln개 행은 그대로 유지됩니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
+        <source>%Ln Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
         <translation>
-            <numerusform>충돌이 있는 %n개 행은 변경되지 않습니다.</numerusform>
+            <numerusform>충돌이 있는 %Ln개 행은 변경되지 않습니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
+        <source>%Ln Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
         <translation>
-            <numerusform>%n개 행은 어떤 대상 프로젝트에도 등록되어 있지 않습니다.</numerusform>
+            <numerusform>%Ln개 행은 어떤 대상 프로젝트에도 등록되어 있지 않습니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt.</source>
+        <source>%Ln Zeile(n) bestätigt.</source>
         <translation>
-            <numerusform>%n개 행을 확인했습니다.</numerusform>
+            <numerusform>%Ln개 행을 확인했습니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt.</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>%n개 행을 단종으로 확인했습니다.</numerusform>
+            <numerusform>%Ln개 행을 단종으로 확인했습니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben.</source>
         <translation>
-            <numerusform>%n개 행의 할당을 해제했습니다.</numerusform>
+            <numerusform>%Ln개 행의 할당을 해제했습니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>%n개 행의 할당을 해제하고 단종으로 확인했습니다.</numerusform>
+            <numerusform>%Ln개 행의 할당을 해제하고 단종으로 확인했습니다.</numerusform>
         </translation>
     </message>
 </context>
@@ -146,10 +146,6 @@
         <translation>%1에서 가져올 것이 없습니다.</translation>
     </message>
     <message>
-        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
-        <translation>%1에서 가져옴: 확인된 행 %3개 중 %2개, 확실하게 할당됨 %4, 제안됨 %5.</translation>
-    </message>
-    <message>
         <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
         <translation>파일에 카탈로그 릴리스 %1에서 시작하는 매핑이 없습니다.</translation>
     </message>
@@ -192,6 +188,12 @@
     <message>
         <source>Entscheidungen aus %1 übernommen: %2</source>
         <translation>%1에서 가져온 결정: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Aus %1 übernommen: %2 von %Ln bestätigten Zeile(n), %3 sicher zugeordnet, %4 vorgeschlagen.</source>
+        <translation>
+            <numerusform>%1에서 가져옴: 확인된 행 %Ln개 중 %2개, 확실하게 할당됨 %3, 제안됨 %4.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -256,9 +258,9 @@
         <translation>충돌 %1/%2, 미해결 %3</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
+        <source>%Ln Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
         <translation>
-            <numerusform>%1의 %n개 행이 같은 방식으로 모순됩니다. 이 결정을 모두에 적용할까요?</numerusform>
+            <numerusform>%1의 %Ln개 행이 같은 방식으로 모순됩니다. 이 결정을 모두에 적용할까요?</numerusform>
         </translation>
     </message>
     <message>
@@ -294,14 +296,10 @@ Andere: %2</source>
         <source>Alle Konflikte sind entschieden.</source>
         <translation>모든 충돌이 결정되었습니다.</translation>
     </message>
-    <message>
-        <source>%1 von %2 Konflikten sind noch offen.</source>
-        <translation>충돌 %2개 중 %1개가 아직 미해결입니다.</translation>
-    </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) widersprechen sich wie diese.</source>
+        <source>%Ln weitere Zeile(n) widersprechen sich wie diese.</source>
         <translation>
-            <numerusform>%n개 행이 더 이 행처럼 모순됩니다.</numerusform>
+            <numerusform>%Ln개 행이 더 이 행처럼 모순됩니다.</numerusform>
         </translation>
     </message>
     <message>
@@ -323,6 +321,12 @@ Andere: %2</source>
     <message>
         <source>Neu entscheiden</source>
         <translation>다시 결정</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Konflikt(en) noch offen.</source>
+        <translation>
+            <numerusform>충돌 %Ln개 중 %1개가 아직 미해결입니다.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -441,9 +445,9 @@ Andere: %2</source>
         <translation>같음</translation>
     </message>
     <message numerus="yes">
-        <source>ersetzt wie in %n weiteren Zeile(n)</source>
+        <source>ersetzt wie in %Ln weiteren Zeile(n)</source>
         <translation>
-            <numerusform>다른 %n개 행처럼 대체됨</numerusform>
+            <numerusform>다른 %Ln개 행처럼 대체됨</numerusform>
         </translation>
     </message>
     <message>
@@ -506,9 +510,9 @@ Andere: %2</source>
         <translation>확실하게 할당됨.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n개 행</numerusform>
+            <numerusform>%Ln개 행</numerusform>
         </translation>
     </message>
     <message>
@@ -591,19 +595,15 @@ Andere: %2</source>
         <translation>버리기(&amp;D)</translation>
     </message>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n개 행</numerusform>
+            <numerusform>%1: %Ln개 행</numerusform>
         </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>외 %1개</translation>
-    </message>
     <message numerus="yes">
-        <source>Noch %n Zeile(n) in Konflikt, in diesen Projekten:</source>
+        <source>Noch %Ln Zeile(n) in Konflikt, in diesen Projekten:</source>
         <translation>
-            <numerusform>아직 %n개 행이 충돌합니다. 해당 프로젝트:</numerusform>
+            <numerusform>아직 %Ln개 행이 충돌합니다. 해당 프로젝트:</numerusform>
         </translation>
     </message>
     <message>
@@ -645,6 +645,12 @@ Andere: %2</source>
     <message>
         <source>Die Mapping-Datei kann nicht angelegt werden.</source>
         <translation>매핑 파일을 만들 수 없습니다.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>외 %Ln개</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -708,6 +714,15 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte einen anderen Ordner wählen.</source>
         <translation>%1의 폴더에 아무것도 만들 수 없습니다(%2). 아무것도 쓰지 않았습니다. 다른 폴더를 선택하세요.</translation>
+    </message>
+</context>
+<context>
+    <name>EditorArea</name>
+    <message>
+        <source>Keine Zeile dieses Projekts ist im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Zeilen zu sehen.</source>
+        <translation>이 프로젝트의 행이 필터에 하나도 없습니다.
+‘%1’을(를) 열고 ‘%2’을(를) 선택하면 모든 행이 다시 표시됩니다.</translation>
     </message>
 </context>
 <context>
@@ -835,15 +850,15 @@ Bitte eine andere Datei wählen.</source>
         <translation>표를 읽는 중...</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n개 행</numerusform>
+            <numerusform>%Ln개 행</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>프로젝트 %n개</numerusform>
+            <numerusform>프로젝트 %Ln개</numerusform>
         </translation>
     </message>
     <message>
@@ -851,9 +866,9 @@ Bitte eine andere Datei wählen.</source>
         <translation>필터 없음: 모든 행</translation>
     </message>
     <message numerus="yes">
-        <source>%n Tabelle(n) nicht lesbar</source>
+        <source>%Ln Tabelle(n) nicht lesbar</source>
         <translation>
-            <numerusform>읽을 수 없는 표: %n</numerusform>
+            <numerusform>읽을 수 없는 표: %Ln</numerusform>
         </translation>
     </message>
     <message>
@@ -1002,9 +1017,9 @@ Bitte eine andere Datei wählen.</source>
         <translation>%2의 행 %1</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1</source>
+        <source>%Ln Zeile(n) in %1</source>
         <translation>
-            <numerusform>%1의 %n개 행</numerusform>
+            <numerusform>%1의 %Ln개 행</numerusform>
         </translation>
     </message>
     <message>
@@ -1333,9 +1348,9 @@ Bitte eine andere Datei wählen.</source>
         <translation>복사한 조건은 그대로 쓸 수 없습니다. 값이 없거나, 범위이거나, 따옴표가 들어 있습니다: %1</translation>
     </message>
     <message numerus="yes">
-        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.</source>
+        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %Ln Zeile(n) offen.</source>
         <translation>
-            <numerusform>이 필터 안은 모두 끝났습니다. 밖에는 아직 %n개 행이 미결입니다.</numerusform>
+            <numerusform>이 필터 안은 모두 끝났습니다. 밖에는 아직 %Ln개 행이 미결입니다.</numerusform>
         </translation>
     </message>
     <message>
@@ -1403,16 +1418,16 @@ Bitte eine andere Datei wählen.</source>
         <translation>프로젝트의 모든 행을 대상으로 합니다.</translation>
     </message>
     <message>
-        <source>Gemeint sind die %1 gezeigten von %2 Zeilen des Projekts.</source>
-        <translation>프로젝트의 %2개 행 중 표시된 %1개를 대상으로 합니다.</translation>
-    </message>
-    <message>
         <source>Filter: %1.</source>
         <translation>필터: %1.</translation>
     </message>
     <message>
         <source>Kein anderes Projekt hat solche Zeilen</source>
         <translation>다른 프로젝트에는 그런 행이 없습니다</translation>
+    </message>
+    <message>
+        <source>Gemeint sind nur die gezeigten Zeilen des Projekts: %1 von %2.</source>
+        <translation>프로젝트의 표시된 행만 대상으로 합니다: %2개 중 %1개.</translation>
     </message>
 </context>
 <context>
@@ -1645,10 +1660,6 @@ Bitte eine andere Datei wählen.</source>
         <translation>닫기(&amp;C)</translation>
     </message>
     <message>
-        <source>Die ersten %1 Links; die Suche zeigt andere.</source>
-        <translation>처음 %1개 링크입니다. 검색하면 다른 링크가 표시됩니다.</translation>
-    </message>
-    <message>
         <source>Links: %1</source>
         <translation>링크: %1</translation>
     </message>
@@ -1667,6 +1678,12 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>&amp;Wiederherstellen</source>
         <translation>복원(&amp;R)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Die ersten %Ln Link(s); die Suche zeigt andere.</source>
+        <translation>
+            <numerusform>처음 %Ln개 링크입니다. 검색하면 다른 링크가 표시됩니다.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1789,14 +1806,16 @@ Bitte eine andere Datei wählen.</source>
         <source>Nichts gefunden</source>
         <translation>찾은 것이 없습니다</translation>
     </message>
-    <message>
-        <source>Die ersten %1 von %2 Treffern</source>
-        <translation>결과 %2개 중 처음 %1개</translation>
+    <message numerus="yes">
+        <source>%Ln Treffer</source>
+        <translation>
+            <numerusform>결과 %Ln개</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
-        <source>%n Treffer</source>
+        <source>Die ersten %1 von %Ln Treffer(n)</source>
         <translation>
-            <numerusform>결과 %n개</numerusform>
+            <numerusform>결과 %Ln개 중 처음 %1개</numerusform>
         </translation>
     </message>
 </context>
@@ -2019,21 +2038,21 @@ Bitte eine andere Datei wählen.</source>
         <translation>파일 버전 위의 내 변경 사항</translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): eigene Entscheidung</source>
+        <source>%Ln Konflikt(e): eigene Entscheidung</source>
         <translation>
-            <numerusform>충돌 %n개: 내 결정</numerusform>
+            <numerusform>충돌 %Ln개: 내 결정</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): Entscheidung der anderen Seite</source>
+        <source>%Ln Konflikt(e): Entscheidung der anderen Seite</source>
         <translation>
-            <numerusform>충돌 %n개: 상대쪽 결정</numerusform>
+            <numerusform>충돌 %Ln개: 상대쪽 결정</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): neu zu entscheiden</source>
+        <source>%Ln Konflikt(e): neu zu entscheiden</source>
         <translation>
-            <numerusform>충돌 %n개: 다시 결정</numerusform>
+            <numerusform>충돌 %Ln개: 다시 결정</numerusform>
         </translation>
     </message>
     <message>
@@ -2104,46 +2123,60 @@ Bitte eine andere Datei wählen.</source>
         <translation>중단됨, 아무것도 만들지 않았습니다</translation>
     </message>
     <message>
-        <source>%1 Projekte: %2 am selben Ort, %3 an anderem, %4 aufgeteilt, %5 ohne Ziel, %6 unlesbar</source>
-        <translation>프로젝트 %1개: 같은 위치 %2, 다른 위치 %3, 분할 %4, 대상 없음 %5, 읽을 수 없음 %6</translation>
-    </message>
-    <message>
         <source>Zeilen werden zugeordnet</source>
         <translation>행을 할당하는 중</translation>
     </message>
-    <message>
-        <source>Abgebrochen: %1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>중단됨: 프로젝트 %2개 중 %1개, 행 %3개: 할당 %4, 검토 필요 %5, 대상 없음 %6</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e): %1 am selben Ort, %2 an anderem, %3 aufgeteilt, %4 ohne Ziel, %5 unlesbar</source>
+        <translation>
+            <numerusform>프로젝트 %Ln개: 같은 위치 %1, 다른 위치 %2, 분할 %3, 대상 없음 %4, 읽을 수 없음 %5</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>프로젝트 %Ln개 중 %1개</numerusform>
+        </translation>
     </message>
     <message>
-        <source>%1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>프로젝트 %2개 중 %1개, 행 %3개: 할당 %4, 검토 필요 %5, 대상 없음 %6</translation>
+        <source>davon %1 zugeordnet, %2 zu prüfen, %3 ohne Ziel</source>
+        <translation>그중 할당 %1, 검토 필요 %2, 대상 없음 %3</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>중단됨: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1, 행 %Ln개</numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>MergeState</name>
     <message numerus="yes">
-        <source>%n Änderung(en) übernommen.</source>
+        <source>%Ln Änderung(en) übernommen.</source>
         <translation>
-            <numerusform>변경 %n개를 가져왔습니다.</numerusform>
+            <numerusform>변경 %Ln개를 가져왔습니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) haben beide gleich entschieden.</source>
+        <source>%Ln Zeile(n) haben beide gleich entschieden.</source>
         <translation>
-            <numerusform>%n개 행은 양쪽이 같게 결정했습니다.</numerusform>
+            <numerusform>%Ln개 행은 양쪽이 같게 결정했습니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
+        <source>%Ln Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
         <translation>
-            <numerusform>%n개 행은 다르게 결정되어 충돌로 표시되었습니다.</numerusform>
+            <numerusform>%Ln개 행은 다르게 결정되어 충돌로 표시되었습니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
+        <source>%Ln andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
         <translation>
-            <numerusform>다른 모순 %n개: 파일의 버전이 적용됩니다.</numerusform>
+            <numerusform>다른 모순 %Ln개: 파일의 버전이 적용됩니다.</numerusform>
         </translation>
     </message>
 </context>
@@ -2169,15 +2202,15 @@ Bitte eine andere Datei wählen.</source>
         <translation>테이블을 비교하는 중</translation>
     </message>
     <message numerus="yes">
-        <source>%n zugeordnete Zeile(n) angesehen</source>
+        <source>%Ln zugeordnete Zeile(n) angesehen</source>
         <translation>
-            <numerusform>할당된 %n개 행을 살펴봄</numerusform>
+            <numerusform>할당된 %Ln개 행을 살펴봄</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Fundstelle(n)</source>
+        <source>%Ln Fundstelle(n)</source>
         <translation>
-            <numerusform>발견 %n개</numerusform>
+            <numerusform>발견 %Ln개</numerusform>
         </translation>
     </message>
     <message>
@@ -2402,38 +2435,34 @@ Bitte eine andere Datei wählen.</source>
 </context>
 <context>
     <name>PatternDock</name>
-    <message>
-        <source>Die Tabellen werden verglichen: %1 Projekte gelesen</source>
-        <translation>테이블을 비교하는 중: 프로젝트 %1개 읽음</translation>
-    </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) mit Vorschlag</source>
+        <source>%Ln offene Zeile(n) mit Vorschlag</source>
         <translation>
-            <numerusform>제안이 있는 미결 행 %n개</numerusform>
+            <numerusform>제안이 있는 미결 행 %Ln개</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Muster(n)</source>
+        <source>in %Ln Muster(n)</source>
         <translation>
-            <numerusform>패턴 %n개</numerusform>
+            <numerusform>패턴 %Ln개</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon wird/werden noch verglichen</source>
+        <source>%Ln davon wird/werden noch verglichen</source>
         <translation>
-            <numerusform>그중 %n개는 아직 비교 중</numerusform>
+            <numerusform>그중 %Ln개는 아직 비교 중</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Gewählt: %n Zeile(n)</source>
+        <source>Gewählt: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>선택: %n개 행</numerusform>
+            <numerusform>선택: %Ln개 행</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon herausgenommen</source>
+        <source>%Ln davon herausgenommen</source>
         <translation>
-            <numerusform>그중 %n개 제외</numerusform>
+            <numerusform>그중 %Ln개 제외</numerusform>
         </translation>
     </message>
     <message>
@@ -2441,36 +2470,42 @@ Bitte eine andere Datei wählen.</source>
         <translation>미결 행의 차이</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>프로젝트 %n개</numerusform>
+            <numerusform>프로젝트 %Ln개</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <source>%Ln offene Zeile(n) ohne Nachfolger</source>
         <translation>
-            <numerusform>후속이 없는 미결 행 %n개</numerusform>
+            <numerusform>후속이 없는 미결 행 %Ln개</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Die Tabellen werden verglichen: %Ln Projekt(e) gelesen</source>
+        <translation>
+            <numerusform>테이블을 비교하는 중: 프로젝트 %Ln개 읽음</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>PatternModel</name>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n개 행</numerusform>
+            <numerusform>%Ln개 행</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Projekt(e)</source>
+        <source>%Ln Projekt(e)</source>
         <translation>
-            <numerusform>프로젝트 %n개</numerusform>
+            <numerusform>프로젝트 %Ln개</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) haben diese und andere Unterschiede</source>
+        <source>%Ln weitere Zeile(n) haben diese und andere Unterschiede</source>
         <translation>
-            <numerusform>%n개 행이 더 이 차이와 다른 차이를 가짐</numerusform>
+            <numerusform>%Ln개 행이 더 이 차이와 다른 차이를 가짐</numerusform>
         </translation>
     </message>
     <message>
@@ -2697,9 +2732,9 @@ Zeile: %2
         <translation>행 %1: %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
+        <source>%Ln Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
         <translation>
-            <numerusform>범위에 새 행이 없는 값이 있는데도 %n개 행이 확인되어 있습니다.</numerusform>
+            <numerusform>범위에 새 행이 없는 값이 있는데도 %Ln개 행이 확인되어 있습니다.</numerusform>
         </translation>
     </message>
     <message>
@@ -2714,18 +2749,14 @@ Zeile: %2
 <context>
     <name>RangeDock</name>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n개 행</numerusform>
+            <numerusform>%1: %Ln개 행</numerusform>
         </translation>
     </message>
     <message>
         <source>Die Zeile hat keine Wertebereichszuordnung.</source>
         <translation>이 행에는 값 범위 할당이 없습니다.</translation>
-    </message>
-    <message>
-        <source>%1: %2 von %3 Werten zugeordnet</source>
-        <translation>%1: 값 %3개 중 %2개 할당됨</translation>
     </message>
     <message>
         <source>fehlend: %1</source>
@@ -2742,6 +2773,12 @@ Zeile: %2
     <message>
         <source>Wertebereich der Zeile</source>
         <translation>행의 값 범위</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 von %Ln Wert(en) zugeordnet</source>
+        <translation>
+            <numerusform>%1: 값 %Ln개 중 %2개 할당됨</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2784,10 +2821,6 @@ Zeile: %2
     <message>
         <source>Wiederherstellung</source>
         <translation>복구</translation>
-    </message>
-    <message>
-        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2 Schritte mit %3 Zeilen in %4 Projekten, zuletzt „%5“. Sie stammt von %6.</source>
-        <translation>%1에 저장되지 않은 작업이 있습니다: 단계 %2개, 행 %3개, 프로젝트 %4개, 마지막은 ‘%5’. 작업자: %6.</translation>
     </message>
     <message>
         <source>Gespeichert</source>
@@ -2837,16 +2870,34 @@ Zeile: %2
         <source>&amp;Gespeicherten Stand öffnen</source>
         <translation>저장된 버전 열기(&amp;S)</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln Schritt(e)</source>
+        <translation>
+            <numerusform>단계 %Ln개</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2, zuletzt „%3“. Sie stammt von %4.</source>
+        <translation>%1에 저장되지 않은 작업이 있습니다: %2, 마지막은 ‘%3’. 작업자: %4.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1, 행 %Ln개</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1, 프로젝트 %Ln개</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ReleaseCommands</name>
     <message>
         <source>Tabellen werden importiert</source>
         <translation>테이블을 가져오는 중</translation>
-    </message>
-    <message>
-        <source>%1 Tabellen mit %2 Zeilen: %3 neu, %4 geändert, %5 unverändert, %6 nicht importiert</source>
-        <translation>테이블 %1개, 행 %2개: 새로 추가 %3, 변경 %4, 변경 없음 %5, 가져오지 않음 %6</translation>
     </message>
     <message>
         <source>%1 hat keine CSV-Datei mehr und bleibt, wie es ist</source>
@@ -2885,10 +2936,6 @@ Zeile: %2
         <translation>중단됨, 아무것도 내보내지 않았습니다</translation>
     </message>
     <message>
-        <source>%1 Zeilen nach %2 exportiert</source>
-        <translation>%1개 행을 %2(으)로 내보냈습니다</translation>
-    </message>
-    <message>
         <source>Bericht schreiben</source>
         <translation>보고서 쓰기</translation>
     </message>
@@ -2919,6 +2966,28 @@ Zeile: %2
     <message>
         <source>Seite %1 von %2</source>
         <translation>%1/%2쪽</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Tabelle(n)</source>
+        <translation>
+            <numerusform>테이블 %Ln개</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 neu, %2 geändert, %3 unverändert, %4 nicht importiert</source>
+        <translation>새로 추가 %1, 변경 %2, 변경 없음 %3, 가져오지 않음 %4</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Zeile(n) nach %1 exportiert</source>
+        <translation>
+            <numerusform>%Ln개 행을 %1(으)로 내보냈습니다</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1, 행 %Ln개</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2964,15 +3033,15 @@ Zeile: %2
         <translation>테이블을 읽는 중</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dafür</source>
+        <source>%Ln Zeile(n) dafür</source>
         <translation>
-            <numerusform>지지하는 행 %n개</numerusform>
+            <numerusform>지지하는 행 %Ln개</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dagegen</source>
+        <source>%Ln Zeile(n) dagegen</source>
         <translation>
-            <numerusform>반하는 행 %n개</numerusform>
+            <numerusform>반하는 행 %Ln개</numerusform>
         </translation>
     </message>
 </context>
@@ -2989,10 +3058,6 @@ Zeile: %2
     <message>
         <source>Erstellt am %1</source>
         <translation>작성일: %1</translation>
-    </message>
-    <message>
-        <source>Erledigt: %1 von %2 Zeilen; offen: %3.</source>
-        <translation>완료: %2개 행 중 %1개, 미결: %3.</translation>
     </message>
     <message>
         <source>Stand der Zeilen</source>
@@ -3218,6 +3283,10 @@ Zeile: %2
         <source>Beurteilte Zeilen</source>
         <translation>판정한 행</translation>
     </message>
+    <message>
+        <source>Erledigte Zeilen: %1 von %2; offen: %3.</source>
+        <translation>완료된 행: %2개 중 %1개, 미결: %3.</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3296,9 +3365,9 @@ Zeile: %2
         <translation>테이블이 아직 비교되지 않았습니다</translation>
     </message>
     <message numerus="yes">
-        <source>Von vorn: %n Zeile(n) offen</source>
+        <source>Von vorn: %Ln Zeile(n) offen</source>
         <translation>
-            <numerusform>처음부터: 미결 행 %n개</numerusform>
+            <numerusform>처음부터: 미결 행 %Ln개</numerusform>
         </translation>
     </message>
     <message>
@@ -3322,15 +3391,15 @@ Zeile: %2
         <translation>선택한 패턴이 없거나 모든 행이 결정되었습니다</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n개 행</numerusform>
+            <numerusform>%Ln개 행</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en) bestätigen?</source>
+        <source>in %Ln Projekt(en) bestätigen?</source>
         <translation>
-            <numerusform>프로젝트 %n개에서 확인할까요?</numerusform>
+            <numerusform>프로젝트 %Ln개에서 확인할까요?</numerusform>
         </translation>
     </message>
     <message>
@@ -3342,9 +3411,9 @@ Zeile: %2
         <translation>확인(&amp;C)</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n개 행 확인됨</numerusform>
+            <numerusform>%Ln개 행 확인됨</numerusform>
         </translation>
     </message>
     <message>
@@ -3366,10 +3435,6 @@ Zeile: %2
     <message>
         <source>Stichprobe</source>
         <translation>표본</translation>
-    </message>
-    <message>
-        <source>So viele von %1 Zeilen werden gezogen und einzeln beurteilt. %2 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %3 richtige weniger als 1 %.</source>
-        <translation>%1개 행 중 이만큼을 추출하여 하나씩 판정합니다. %2개가 맞으면 95 % 확실도로 오류가 5 % 미만이고, %3개가 맞으면 1 % 미만입니다.</translation>
     </message>
     <message>
         <source>&amp;Ziehen</source>
@@ -3428,9 +3493,9 @@ Zeile: %2
         <translation>틀린 행 보기(&amp;L)</translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind unsicher.</source>
+        <source>%Ln davon ist/sind unsicher.</source>
         <translation>
-            <numerusform>그중 %n개가 불확실합니다.</numerusform>
+            <numerusform>그중 %Ln개가 불확실합니다.</numerusform>
         </translation>
     </message>
     <message>
@@ -3438,20 +3503,26 @@ Zeile: %2
         <translation>모든 패턴이 완료되었습니다</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>프로젝트 %n개</numerusform>
+            <numerusform>프로젝트 %Ln개</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n개 행을 단종으로 확인함</numerusform>
+            <numerusform>%Ln개 행을 단종으로 확인함</numerusform>
         </translation>
     </message>
     <message>
         <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
         <translation>%2의 행 %1이(가) 틀렸습니다. 집합을 나누었습니다. 어느 부분으로 계속할까요?</translation>
+    </message>
+    <message numerus="yes">
+        <source>So viele von %Ln Zeile(n) werden gezogen und einzeln beurteilt. %1 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %2 richtige weniger als 1 %.</source>
+        <translation>
+            <numerusform>%Ln개 행 중 이만큼을 추출하여 하나씩 판정합니다. %1개가 맞으면 95 % 확실도로 오류가 5 % 미만이고, %2개가 맞으면 1 % 미만입니다.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3609,16 +3680,20 @@ Zeile: %2
         <translation>마지막으로 끝난 세션 뒤에서 저널 %1을(를) 읽을 수 없습니다. 무엇이 있었는지 알 수 없습니다. 저널은 보관됩니다.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passen noch %2 Änderungen, %3 passen nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
-        <translation>저널 %1이(가) 손상되었습니다. 손상된 곳 뒤에서 변경 %2개는 아직 맞고 %3개는 맞지 않습니다. 다른 것이 더 없을 수 있습니다. 저널은 보관됩니다.</translation>
-    </message>
-    <message>
         <source>Das Ende des Journals %1 ist nicht lesbar. Die letzte Änderung kann fehlen.</source>
         <translation>저널 %1의 끝을 읽을 수 없습니다. 마지막 변경이 없을 수 있습니다.</translation>
     </message>
-    <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
-        <translation>저널 %1이(가) 손상되었거나 매핑 파일과 맞지 않습니다. 이후 변경이 적어도 %2개 없습니다. 저널은 보관됩니다.</translation>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passt/passen noch %Ln Änderung(en), %2 nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>저널 %1이(가) 손상되었습니다. 손상된 곳 뒤에서 변경 %Ln개는 아직 맞고 %2개는 맞지 않습니다. 다른 것이 더 없을 수 있습니다. 저널은 보관됩니다.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %Ln spätere Änderung(en) fehlt/fehlen; das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>저널 %1이(가) 손상되었거나 매핑 파일과 맞지 않습니다. 이후 변경이 적어도 %Ln개 없습니다. 저널은 보관됩니다.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3870,11 +3945,6 @@ Zeile: %2
         <translation>모두 결정됨</translation>
     </message>
     <message>
-        <source>Offen: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>미결: 프로젝트 %2개의 &lt;a href=&quot;next&quot;&gt;%1개 행&lt;/a&gt;</translation>
-    </message>
-    <message>
         <source>Zeilen, die noch eine Entscheidung brauchen</source>
         <translation>아직 결정이 필요한 행</translation>
     </message>
@@ -3887,13 +3957,29 @@ Zeile: %2
         <translation>필터: 행 없음</translation>
     </message>
     <message>
-        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>필터: &lt;a href=&quot;next&quot;&gt;%1개 행&lt;/a&gt;, %2개 프로젝트</translation>
-    </message>
-    <message>
         <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
         <translation>모든 행의 필터가 보여주는 행</translation>
+    </message>
+    <message numerus="yes">
+        <source>&lt;a href=&quot;next&quot;&gt;%Ln Zeile(n)&lt;/a&gt;</source>
+        <translation>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln개 행&lt;/a&gt;</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Offen: %1</source>
+        <translation>미결: %1</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>필터: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <extracomment>&quot;12 lines in 3 projects&quot;</extracomment>
+        <translation>
+            <numerusform>%1, 프로젝트 %Ln개</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3942,9 +4028,9 @@ Zeile: %2
         <translation>닫기(&amp;C)</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <source>Mit %Ln abhängigen &amp;zurücknehmen</source>
         <translation>
-            <numerusform>의존하는 %n개와 함께 취소(&amp;T)</numerusform>
+            <numerusform>의존하는 %Ln개와 함께 취소(&amp;T)</numerusform>
         </translation>
     </message>
     <message>
@@ -3952,9 +4038,9 @@ Zeile: %2
         <translation>이것만 취소(&amp;T)</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <source>Mit %Ln früheren &amp;wieder ausführen</source>
         <translation>
-            <numerusform>이전 %n개와 함께 다시 실행(&amp;D)</numerusform>
+            <numerusform>이전 %Ln개와 함께 다시 실행(&amp;D)</numerusform>
         </translation>
     </message>
     <message>
@@ -3990,18 +4076,18 @@ Zeile: %2
         <translation>이 목록의 어느 단계도 결정하지 않은 다른 내용이 있습니다(예: 다른 프로그램). 이 단계는 더 이상 움직일 수 없습니다.</translation>
     </message>
     <message numerus="yes">
-        <source>und %n weitere</source>
+        <source>und %Ln weitere</source>
         <translation>
-            <numerusform>외 %n개</numerusform>
+            <numerusform>외 %Ln개</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepListModel</name>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1, 프로젝트 %n개</numerusform>
+            <numerusform>%1, 프로젝트 %Ln개</numerusform>
         </translation>
     </message>
     <message>
@@ -4044,9 +4130,9 @@ Zeile: %2
         <translation>%1의 변경은 행을 다시 할당할 때 적용됩니다. 그때는 확인된 것만 유지됩니다.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
+        <source>%Ln Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
         <translation>
-            <numerusform>%1의 %n개 행이 단종으로 확인되었으나 이제는 그렇지 않습니다: %2</numerusform>
+            <numerusform>%1의 %Ln개 행이 단종으로 확인되었으나 이제는 그렇지 않습니다: %2</numerusform>
         </translation>
     </message>
     <message>
@@ -4062,66 +4148,66 @@ Zeile: %2
         <translation>%2의 대상 프로젝트 %1의 변수 매핑이 없어졌습니다.</translation>
     </message>
     <message numerus="yes">
-        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %n andere Zeile(n): %4</source>
+        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %Ln andere Zeile(n): %4</source>
         <translation>
-            <numerusform>%3의 행 %1 → %2: 다른 %n개 행도 같은 대상 행을 가집니다: %4</numerusform>
+            <numerusform>%3의 행 %1 → %2: 다른 %Ln개 행도 같은 대상 행을 가집니다: %4</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
+        <source>%Ln Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
         <translation>
-            <numerusform>%1의 %n개 행이 새로 할당된 행과 대상 행을 공유합니다: %2</numerusform>
+            <numerusform>%1의 %Ln개 행이 새로 할당된 행과 대상 행을 공유합니다: %2</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepSummary</name>
     <message numerus="yes">
-        <source>%n Konflikt(e) angenommen</source>
+        <source>%Ln Konflikt(e) angenommen</source>
         <translation>
-            <numerusform>충돌 %n개 수락됨</numerusform>
+            <numerusform>충돌 %Ln개 수락됨</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n개 행 확인됨</numerusform>
+            <numerusform>%Ln개 행 확인됨</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n개 행을 단종으로 확인함</numerusform>
+            <numerusform>%Ln개 행을 단종으로 확인함</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) zugeordnet</source>
+        <source>%Ln Zeile(n) zugeordnet</source>
         <translation>
-            <numerusform>%n개 행 할당됨</numerusform>
+            <numerusform>%Ln개 행 할당됨</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben</source>
         <translation>
-            <numerusform>%n개 행의 할당 해제됨</numerusform>
+            <numerusform>%Ln개 행의 할당 해제됨</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Wertebereichszuordnung von %n Zeile(n) geändert</source>
+        <source>Wertebereichszuordnung von %Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>%n개 행의 값 범위 할당 변경됨</numerusform>
+            <numerusform>%Ln개 행의 값 범위 할당 변경됨</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Konflikt von %n Zeile(n) gelöst</source>
+        <source>Konflikt von %Ln Zeile(n) gelöst</source>
         <translation>
-            <numerusform>%n개 행의 충돌 해결됨</numerusform>
+            <numerusform>%Ln개 행의 충돌 해결됨</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) geändert</source>
+        <source>%Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>%n개 행 변경됨</numerusform>
+            <numerusform>%Ln개 행 변경됨</numerusform>
         </translation>
     </message>
     <message>
@@ -4189,9 +4275,9 @@ Zeile: %2
         <translation>%2의 %1</translation>
     </message>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1, 프로젝트 %n개</numerusform>
+            <numerusform>%1, 프로젝트 %Ln개</numerusform>
         </translation>
     </message>
 </context>
@@ -4237,9 +4323,9 @@ Zeile: %2
         <translation>값 범위 할당을 검사하는 중</translation>
     </message>
     <message numerus="yes">
-        <source>%n Wertebereichszuordnung(en) geprüft</source>
+        <source>%Ln Wertebereichszuordnung(en) geprüft</source>
         <translation>
-            <numerusform>값 범위 할당 %n개 검사됨</numerusform>
+            <numerusform>값 범위 할당 %Ln개 검사됨</numerusform>
         </translation>
     </message>
     <message>
@@ -4247,9 +4333,9 @@ Zeile: %2
         <translation>문제 없음</translation>
     </message>
     <message numerus="yes">
-        <source>%n Beanstandung(en)</source>
+        <source>%Ln Beanstandung(en)</source>
         <translation>
-            <numerusform>문제 %n개</numerusform>
+            <numerusform>문제 %Ln개</numerusform>
         </translation>
     </message>
     <message>

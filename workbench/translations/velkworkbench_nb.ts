@@ -8,101 +8,101 @@
         <translation>Det er ingenting å endre.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigen?</source>
+        <source>%Ln Zeile(n) bestätigen?</source>
         <translation>
-            <numerusform>Bekrefte %n linje?</numerusform>
-            <numerusform>Bekrefte %n linjer?</numerusform>
+            <numerusform>Bekrefte %Ln linje?</numerusform>
+            <numerusform>Bekrefte %Ln linjer?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigen?</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Bekrefte %n linje som utgått?</numerusform>
-            <numerusform>Bekrefte %n linjer som utgått?</numerusform>
+            <numerusform>Bekrefte %Ln linje som utgått?</numerusform>
+            <numerusform>Bekrefte %Ln linjer som utgått?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben?</source>
         <translation>
-            <numerusform>Oppheve tilordningen av %n linje?</numerusform>
-            <numerusform>Oppheve tilordningen av %n linjer?</numerusform>
+            <numerusform>Oppheve tilordningen av %Ln linje?</numerusform>
+            <numerusform>Oppheve tilordningen av %Ln linjer?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Oppheve tilordningen av %n linje og bekrefte den som utgått?</numerusform>
-            <numerusform>Oppheve tilordningen av %n linjer og bekrefte dem som utgått?</numerusform>
+            <numerusform>Oppheve tilordningen av %Ln linje og bekrefte den som utgått?</numerusform>
+            <numerusform>Oppheve tilordningen av %Ln linjer og bekrefte dem som utgått?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind schon bestätigt.</source>
+        <source>%Ln davon ist/sind schon bestätigt.</source>
         <translation>
-            <numerusform>%n av dem er allerede bekreftet.</numerusform>
-            <numerusform>%n av dem er allerede bekreftet.</numerusform>
+            <numerusform>%Ln av dem er allerede bekreftet.</numerusform>
+            <numerusform>%Ln av dem er allerede bekreftet.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon verliert/verlieren ihre Wertebereichszuordnung.</source>
+        <source>%Ln davon verliert/verlieren ihre Wertebereichszuordnung.</source>
         <translation>
-            <numerusform>%n av dem mister tilordningen av verdiområder.</numerusform>
-            <numerusform>%n av dem mister tilordningene av verdiområder.</numerusform>
+            <numerusform>%Ln av dem mister tilordningen av verdiområder.</numerusform>
+            <numerusform>%Ln av dem mister tilordningene av verdiområder.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
+        <source>%Ln Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
         <translation>
-            <numerusform>%n linje uten mål forblir ubekreftet.</numerusform>
-            <numerusform>%n linjer uten mål forblir ubekreftet.</numerusform>
+            <numerusform>%Ln linje uten mål forblir ubekreftet.</numerusform>
+            <numerusform>%Ln linjer uten mål forblir ubekreftet.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
+        <source>%Ln Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
         <translation>
-            <numerusform>%n linje forblir som den er.</numerusform>
-            <numerusform>%n linjer forblir som de er.</numerusform>
+            <numerusform>%Ln linje forblir som den er.</numerusform>
+            <numerusform>%Ln linjer forblir som de er.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
+        <source>%Ln Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
         <translation>
-            <numerusform>%n linje i konflikt endres ikke.</numerusform>
-            <numerusform>%n linjer i konflikt endres ikke.</numerusform>
+            <numerusform>%Ln linje i konflikt endres ikke.</numerusform>
+            <numerusform>%Ln linjer i konflikt endres ikke.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
+        <source>%Ln Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
         <translation>
-            <numerusform>%n linje står ikke i noe målprosjekt.</numerusform>
-            <numerusform>%n linjer står ikke i noe målprosjekt.</numerusform>
+            <numerusform>%Ln linje står ikke i noe målprosjekt.</numerusform>
+            <numerusform>%Ln linjer står ikke i noe målprosjekt.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt.</source>
+        <source>%Ln Zeile(n) bestätigt.</source>
         <translation>
-            <numerusform>%n linje bekreftet.</numerusform>
-            <numerusform>%n linjer bekreftet.</numerusform>
+            <numerusform>%Ln linje bekreftet.</numerusform>
+            <numerusform>%Ln linjer bekreftet.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt.</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>%n linje bekreftet som utgått.</numerusform>
-            <numerusform>%n linjer bekreftet som utgått.</numerusform>
+            <numerusform>%Ln linje bekreftet som utgått.</numerusform>
+            <numerusform>%Ln linjer bekreftet som utgått.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben.</source>
         <translation>
-            <numerusform>Tilordningen av %n linje opphevet.</numerusform>
-            <numerusform>Tilordningen av %n linjer opphevet.</numerusform>
+            <numerusform>Tilordningen av %Ln linje opphevet.</numerusform>
+            <numerusform>Tilordningen av %Ln linjer opphevet.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>Tilordningen av %n linje opphevet og linjen bekreftet som utgått.</numerusform>
-            <numerusform>Tilordningen av %n linjer opphevet og linjene bekreftet som utgått.</numerusform>
+            <numerusform>Tilordningen av %Ln linje opphevet og linjen bekreftet som utgått.</numerusform>
+            <numerusform>Tilordningen av %Ln linjer opphevet og linjene bekreftet som utgått.</numerusform>
         </translation>
     </message>
 </context>
@@ -160,10 +160,6 @@
         <translation>Det er ingenting å overta fra %1.</translation>
     </message>
     <message>
-        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
-        <translation>Overtatt fra %1: %2 av %3 bekreftede linjer, %4 sikkert tilordnet, %5 foreslått.</translation>
-    </message>
-    <message>
         <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
         <translation>Filen inneholder ingen mapping fra katalogutgave %1.</translation>
     </message>
@@ -206,6 +202,13 @@
     <message>
         <source>Entscheidungen aus %1 übernommen: %2</source>
         <translation>Avgjørelser overtatt fra %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Aus %1 übernommen: %2 von %Ln bestätigten Zeile(n), %3 sicher zugeordnet, %4 vorgeschlagen.</source>
+        <translation>
+            <numerusform>Overtatt fra %1: %2 av %Ln bekreftet linje, %3 sikkert tilordnet, %4 foreslått.</numerusform>
+            <numerusform>Overtatt fra %1: %2 av %Ln bekreftede linjer, %3 sikkert tilordnet, %4 foreslått.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -270,10 +273,10 @@
         <translation>Konflikt %1 av %2, ennå %3 åpne</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
+        <source>%Ln Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
         <translation>
-            <numerusform>%n linje i %1 motsier seg på samme måte. Gjelder avgjørelsen for alle?</numerusform>
-            <numerusform>%n linjer i %1 motsier seg på samme måte. Gjelder avgjørelsen for alle?</numerusform>
+            <numerusform>%Ln linje i %1 motsier seg på samme måte. Gjelder avgjørelsen for alle?</numerusform>
+            <numerusform>%Ln linjer i %1 motsier seg på samme måte. Gjelder avgjørelsen for alle?</numerusform>
         </translation>
     </message>
     <message>
@@ -309,15 +312,11 @@ Annen: %2</translation>
         <source>Alle Konflikte sind entschieden.</source>
         <translation>Alle konflikter er avgjort.</translation>
     </message>
-    <message>
-        <source>%1 von %2 Konflikten sind noch offen.</source>
-        <translation>%1 av %2 konflikter er ennå åpne.</translation>
-    </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) widersprechen sich wie diese.</source>
+        <source>%Ln weitere Zeile(n) widersprechen sich wie diese.</source>
         <translation>
-            <numerusform>%n linje til motsier seg som denne.</numerusform>
-            <numerusform>%n linjer til motsier seg som denne.</numerusform>
+            <numerusform>%Ln linje til motsier seg som denne.</numerusform>
+            <numerusform>%Ln linjer til motsier seg som denne.</numerusform>
         </translation>
     </message>
     <message>
@@ -339,6 +338,13 @@ Annen: %2</translation>
     <message>
         <source>Neu entscheiden</source>
         <translation>Avgjør på nytt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Konflikt(en) noch offen.</source>
+        <translation>
+            <numerusform>%1 av %Ln konflikt ennå åpen.</numerusform>
+            <numerusform>%1 av %Ln konflikter ennå åpne.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -457,10 +463,10 @@ Annen: %2</translation>
         <translation>lik</translation>
     </message>
     <message numerus="yes">
-        <source>ersetzt wie in %n weiteren Zeile(n)</source>
+        <source>ersetzt wie in %Ln weiteren Zeile(n)</source>
         <translation>
-            <numerusform>erstattet som i %n linje til</numerusform>
-            <numerusform>erstattet som i %n linjer til</numerusform>
+            <numerusform>erstattet som i %Ln linje til</numerusform>
+            <numerusform>erstattet som i %Ln linjer til</numerusform>
         </translation>
     </message>
     <message>
@@ -523,10 +529,10 @@ Annen: %2</translation>
         <translation>Sikkert tilordnet.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n linje</numerusform>
-            <numerusform>%n linjer</numerusform>
+            <numerusform>%Ln linje</numerusform>
+            <numerusform>%Ln linjer</numerusform>
         </translation>
     </message>
     <message>
@@ -609,21 +615,17 @@ Annen: %2</translation>
         <translation>&amp;Forkast</translation>
     </message>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n linje</numerusform>
-            <numerusform>%1: %n linjer</numerusform>
+            <numerusform>%1: %Ln linje</numerusform>
+            <numerusform>%1: %Ln linjer</numerusform>
         </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>og %1 til</translation>
-    </message>
     <message numerus="yes">
-        <source>Noch %n Zeile(n) in Konflikt, in diesen Projekten:</source>
+        <source>Noch %Ln Zeile(n) in Konflikt, in diesen Projekten:</source>
         <translation>
-            <numerusform>Ennå %n linje i konflikt, i disse prosjektene:</numerusform>
-            <numerusform>Ennå %n linjer i konflikt, i disse prosjektene:</numerusform>
+            <numerusform>Ennå %Ln linje i konflikt, i disse prosjektene:</numerusform>
+            <numerusform>Ennå %Ln linjer i konflikt, i disse prosjektene:</numerusform>
         </translation>
     </message>
     <message>
@@ -665,6 +667,13 @@ Annen: %2</translation>
     <message>
         <source>Die Mapping-Datei kann nicht angelegt werden.</source>
         <translation>Mappingfilen kan ikke opprettes.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>og %Ln til</numerusform>
+            <numerusform>og %Ln til</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -728,6 +737,15 @@ Velg en annen fil.</translation>
     <message>
         <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte einen anderen Ordner wählen.</source>
         <translation>Ingenting kan opprettes i mappen til %1 (%2). Ingenting ble skrevet. Velg en annen mappe.</translation>
+    </message>
+</context>
+<context>
+    <name>EditorArea</name>
+    <message>
+        <source>Keine Zeile dieses Projekts ist im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Zeilen zu sehen.</source>
+        <translation>Ingen linje i dette prosjektet er i filteret.
+Åpne «%1» og velg «%2» for å se alle linjene igjen.</translation>
     </message>
 </context>
 <context>
@@ -855,17 +873,17 @@ Velg en annen fil.</translation>
         <translation>Leser tabellene...</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n linje</numerusform>
-            <numerusform>%n linjer</numerusform>
+            <numerusform>%Ln linje</numerusform>
+            <numerusform>%Ln linjer</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>i %n prosjekt</numerusform>
-            <numerusform>i %n prosjekter</numerusform>
+            <numerusform>i %Ln prosjekt</numerusform>
+            <numerusform>i %Ln prosjekter</numerusform>
         </translation>
     </message>
     <message>
@@ -873,10 +891,10 @@ Velg en annen fil.</translation>
         <translation>Ikke noe filter: alle linjer</translation>
     </message>
     <message numerus="yes">
-        <source>%n Tabelle(n) nicht lesbar</source>
+        <source>%Ln Tabelle(n) nicht lesbar</source>
         <translation>
-            <numerusform>Uleselige tabeller: %n</numerusform>
-            <numerusform>Uleselige tabeller: %n</numerusform>
+            <numerusform>Uleselige tabeller: %Ln</numerusform>
+            <numerusform>Uleselige tabeller: %Ln</numerusform>
         </translation>
     </message>
     <message>
@@ -1025,10 +1043,10 @@ Velg en annen fil.</translation>
         <translation>Linje %1 i %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1</source>
+        <source>%Ln Zeile(n) in %1</source>
         <translation>
-            <numerusform>%n linje i %1</numerusform>
-            <numerusform>%n linjer i %1</numerusform>
+            <numerusform>%Ln linje i %1</numerusform>
+            <numerusform>%Ln linjer i %1</numerusform>
         </translation>
     </message>
     <message>
@@ -1357,10 +1375,10 @@ Velg en annen fil.</translation>
         <translation>Den kopierte betingelsen kan ikke brukes slik ennå, en verdi mangler, er et område eller inneholder et anførselstegn: %1</translation>
     </message>
     <message numerus="yes">
-        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.</source>
+        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %Ln Zeile(n) offen.</source>
         <translation>
-            <numerusform>Her i filteret er alt ferdig, utenfor er ennå %n linje åpen.</numerusform>
-            <numerusform>Her i filteret er alt ferdig, utenfor er ennå %n linjer åpne.</numerusform>
+            <numerusform>Her i filteret er alt ferdig, utenfor er ennå %Ln linje åpen.</numerusform>
+            <numerusform>Her i filteret er alt ferdig, utenfor er ennå %Ln linjer åpne.</numerusform>
         </translation>
     </message>
     <message>
@@ -1428,16 +1446,16 @@ Velg en annen fil.</translation>
         <translation>Det gjelder alle linjene i prosjektet.</translation>
     </message>
     <message>
-        <source>Gemeint sind die %1 gezeigten von %2 Zeilen des Projekts.</source>
-        <translation>Det gjelder de %1 viste av prosjektets %2 linjer.</translation>
-    </message>
-    <message>
         <source>Filter: %1.</source>
         <translation>Filter: %1.</translation>
     </message>
     <message>
         <source>Kein anderes Projekt hat solche Zeilen</source>
         <translation>Ingen andre prosjekter har slike linjer</translation>
+    </message>
+    <message>
+        <source>Gemeint sind nur die gezeigten Zeilen des Projekts: %1 von %2.</source>
+        <translation>Det gjelder bare de viste linjene i prosjektet: %1 av %2.</translation>
     </message>
 </context>
 <context>
@@ -1670,10 +1688,6 @@ Velg en annen fil.</translation>
         <translation>Lu&amp;kk</translation>
     </message>
     <message>
-        <source>Die ersten %1 Links; die Suche zeigt andere.</source>
-        <translation>De første %1 lenkene; søket viser andre.</translation>
-    </message>
-    <message>
         <source>Links: %1</source>
         <translation>Lenker: %1</translation>
     </message>
@@ -1692,6 +1706,13 @@ Velg en annen fil.</translation>
     <message>
         <source>&amp;Wiederherstellen</source>
         <translation>&amp;Gjenopprett</translation>
+    </message>
+    <message numerus="yes">
+        <source>Die ersten %Ln Link(s); die Suche zeigt andere.</source>
+        <translation>
+            <numerusform>Den første %Ln lenken; søket viser andre.</numerusform>
+            <numerusform>De første %Ln lenkene; søket viser andre.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1814,15 +1835,18 @@ Velg en annen fil.</translation>
         <source>Nichts gefunden</source>
         <translation>Ingenting funnet</translation>
     </message>
-    <message>
-        <source>Die ersten %1 von %2 Treffern</source>
-        <translation>De første %1 av %2 treff</translation>
+    <message numerus="yes">
+        <source>%Ln Treffer</source>
+        <translation>
+            <numerusform>%Ln treff</numerusform>
+            <numerusform>%Ln treff</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
-        <source>%n Treffer</source>
+        <source>Die ersten %1 von %Ln Treffer(n)</source>
         <translation>
-            <numerusform>%n treff</numerusform>
-            <numerusform>%n treff</numerusform>
+            <numerusform>De første %1 av %Ln treff</numerusform>
+            <numerusform>De første %1 av %Ln treff</numerusform>
         </translation>
     </message>
 </context>
@@ -2045,24 +2069,24 @@ Velg en annen fil.</translation>
         <translation>Egne endringer oppå versjonen i filen</translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): eigene Entscheidung</source>
+        <source>%Ln Konflikt(e): eigene Entscheidung</source>
         <translation>
-            <numerusform>%n konflikt: egen avgjørelse</numerusform>
-            <numerusform>%n konflikter: egen avgjørelse</numerusform>
+            <numerusform>%Ln konflikt: egen avgjørelse</numerusform>
+            <numerusform>%Ln konflikter: egen avgjørelse</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): Entscheidung der anderen Seite</source>
+        <source>%Ln Konflikt(e): Entscheidung der anderen Seite</source>
         <translation>
-            <numerusform>%n konflikt: avgjørelsen til den andre siden</numerusform>
-            <numerusform>%n konflikter: avgjørelsen til den andre siden</numerusform>
+            <numerusform>%Ln konflikt: avgjørelsen til den andre siden</numerusform>
+            <numerusform>%Ln konflikter: avgjørelsen til den andre siden</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): neu zu entscheiden</source>
+        <source>%Ln Konflikt(e): neu zu entscheiden</source>
         <translation>
-            <numerusform>%n konflikt: skal avgjøres på nytt</numerusform>
-            <numerusform>%n konflikter: skal avgjøres på nytt</numerusform>
+            <numerusform>%Ln konflikt: skal avgjøres på nytt</numerusform>
+            <numerusform>%Ln konflikter: skal avgjøres på nytt</numerusform>
         </translation>
     </message>
     <message>
@@ -2133,50 +2157,67 @@ Velg en annen fil.</translation>
         <translation>Avbrutt, ingenting ble opprettet</translation>
     </message>
     <message>
-        <source>%1 Projekte: %2 am selben Ort, %3 an anderem, %4 aufgeteilt, %5 ohne Ziel, %6 unlesbar</source>
-        <translation>%1 prosjekter: %2 på samme sted, %3 på et annet, %4 delt opp, %5 uten mål, %6 uleselige</translation>
-    </message>
-    <message>
         <source>Zeilen werden zugeordnet</source>
         <translation>Linjer tilordnes</translation>
     </message>
-    <message>
-        <source>Abgebrochen: %1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>Avbrutt: %1 av %2 prosjekter med %3 linjer, hvorav %4 tilordnet, %5 skal kontrolleres, %6 uten mål</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e): %1 am selben Ort, %2 an anderem, %3 aufgeteilt, %4 ohne Ziel, %5 unlesbar</source>
+        <translation>
+            <numerusform>%Ln prosjekt: %1 på samme sted, %2 på et annet, %3 delt opp, %4 uten mål, %5 uleselig</numerusform>
+            <numerusform>%Ln prosjekter: %1 på samme sted, %2 på et annet, %3 delt opp, %4 uten mål, %5 uleselige</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 av %Ln prosjekt</numerusform>
+            <numerusform>%1 av %Ln prosjekter</numerusform>
+        </translation>
     </message>
     <message>
-        <source>%1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>%1 av %2 prosjekter med %3 linjer, hvorav %4 tilordnet, %5 skal kontrolleres, %6 uten mål</translation>
+        <source>davon %1 zugeordnet, %2 zu prüfen, %3 ohne Ziel</source>
+        <translation>hvorav %1 tilordnet, %2 skal kontrolleres, %3 uten mål</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>Avbrutt: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 med %Ln linje</numerusform>
+            <numerusform>%1 med %Ln linjer</numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>MergeState</name>
     <message numerus="yes">
-        <source>%n Änderung(en) übernommen.</source>
+        <source>%Ln Änderung(en) übernommen.</source>
         <translation>
-            <numerusform>%n endring tatt inn.</numerusform>
-            <numerusform>%n endringer tatt inn.</numerusform>
+            <numerusform>%Ln endring tatt inn.</numerusform>
+            <numerusform>%Ln endringer tatt inn.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) haben beide gleich entschieden.</source>
+        <source>%Ln Zeile(n) haben beide gleich entschieden.</source>
         <translation>
-            <numerusform>%n linje har begge avgjort likt.</numerusform>
-            <numerusform>%n linjer har begge avgjort likt.</numerusform>
+            <numerusform>%Ln linje har begge avgjort likt.</numerusform>
+            <numerusform>%Ln linjer har begge avgjort likt.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
+        <source>%Ln Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
         <translation>
-            <numerusform>%n linje er avgjort forskjellig og merket som konflikt.</numerusform>
-            <numerusform>%n linjer er avgjort forskjellig og merket som konflikt.</numerusform>
+            <numerusform>%Ln linje er avgjort forskjellig og merket som konflikt.</numerusform>
+            <numerusform>%Ln linjer er avgjort forskjellig og merket som konflikt.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
+        <source>%Ln andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
         <translation>
-            <numerusform>%n annen motsigelse: Versjonen i filen gjelder.</numerusform>
-            <numerusform>%n andre motsigelser: Versjonen i filen gjelder.</numerusform>
+            <numerusform>%Ln annen motsigelse: Versjonen i filen gjelder.</numerusform>
+            <numerusform>%Ln andre motsigelser: Versjonen i filen gjelder.</numerusform>
         </translation>
     </message>
 </context>
@@ -2202,17 +2243,17 @@ Velg en annen fil.</translation>
         <translation>Tabellene sammenlignes</translation>
     </message>
     <message numerus="yes">
-        <source>%n zugeordnete Zeile(n) angesehen</source>
+        <source>%Ln zugeordnete Zeile(n) angesehen</source>
         <translation>
-            <numerusform>%n tilordnet linje sett på</numerusform>
-            <numerusform>%n tilordnede linjer sett på</numerusform>
+            <numerusform>%Ln tilordnet linje sett på</numerusform>
+            <numerusform>%Ln tilordnede linjer sett på</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Fundstelle(n)</source>
+        <source>%Ln Fundstelle(n)</source>
         <translation>
-            <numerusform>%n funn</numerusform>
-            <numerusform>%n funn</numerusform>
+            <numerusform>%Ln funn</numerusform>
+            <numerusform>%Ln funn</numerusform>
         </translation>
     </message>
     <message>
@@ -2437,43 +2478,39 @@ Velg en annen fil.</translation>
 </context>
 <context>
     <name>PatternDock</name>
-    <message>
-        <source>Die Tabellen werden verglichen: %1 Projekte gelesen</source>
-        <translation>Tabellene sammenlignes: %1 prosjekter lest</translation>
-    </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) mit Vorschlag</source>
+        <source>%Ln offene Zeile(n) mit Vorschlag</source>
         <translation>
-            <numerusform>%n åpen linje med forslag</numerusform>
-            <numerusform>%n åpne linjer med forslag</numerusform>
+            <numerusform>%Ln åpen linje med forslag</numerusform>
+            <numerusform>%Ln åpne linjer med forslag</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Muster(n)</source>
+        <source>in %Ln Muster(n)</source>
         <translation>
-            <numerusform>i %n mønster</numerusform>
-            <numerusform>i %n mønstre</numerusform>
+            <numerusform>i %Ln mønster</numerusform>
+            <numerusform>i %Ln mønstre</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon wird/werden noch verglichen</source>
+        <source>%Ln davon wird/werden noch verglichen</source>
         <translation>
-            <numerusform>%n av dem sammenlignes ennå</numerusform>
-            <numerusform>%n av dem sammenlignes ennå</numerusform>
+            <numerusform>%Ln av dem sammenlignes ennå</numerusform>
+            <numerusform>%Ln av dem sammenlignes ennå</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Gewählt: %n Zeile(n)</source>
+        <source>Gewählt: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>Valgt: %n linje</numerusform>
-            <numerusform>Valgt: %n linjer</numerusform>
+            <numerusform>Valgt: %Ln linje</numerusform>
+            <numerusform>Valgt: %Ln linjer</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon herausgenommen</source>
+        <source>%Ln davon herausgenommen</source>
         <translation>
-            <numerusform>%n av dem tatt ut</numerusform>
-            <numerusform>%n av dem tatt ut</numerusform>
+            <numerusform>%Ln av dem tatt ut</numerusform>
+            <numerusform>%Ln av dem tatt ut</numerusform>
         </translation>
     </message>
     <message>
@@ -2481,41 +2518,48 @@ Velg en annen fil.</translation>
         <translation>Forskjeller i de åpne linjene</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>i %n prosjekt</numerusform>
-            <numerusform>i %n prosjekter</numerusform>
+            <numerusform>i %Ln prosjekt</numerusform>
+            <numerusform>i %Ln prosjekter</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <source>%Ln offene Zeile(n) ohne Nachfolger</source>
         <translation>
-            <numerusform>%n åpen linje uten etterfølger</numerusform>
-            <numerusform>%n åpne linjer uten etterfølger</numerusform>
+            <numerusform>%Ln åpen linje uten etterfølger</numerusform>
+            <numerusform>%Ln åpne linjer uten etterfølger</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Die Tabellen werden verglichen: %Ln Projekt(e) gelesen</source>
+        <translation>
+            <numerusform>Tabellene sammenlignes: %Ln prosjekt lest</numerusform>
+            <numerusform>Tabellene sammenlignes: %Ln prosjekter lest</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>PatternModel</name>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n linje</numerusform>
-            <numerusform>%n linjer</numerusform>
+            <numerusform>%Ln linje</numerusform>
+            <numerusform>%Ln linjer</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Projekt(e)</source>
+        <source>%Ln Projekt(e)</source>
         <translation>
-            <numerusform>%n prosjekt</numerusform>
-            <numerusform>%n prosjekter</numerusform>
+            <numerusform>%Ln prosjekt</numerusform>
+            <numerusform>%Ln prosjekter</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) haben diese und andere Unterschiede</source>
+        <source>%Ln weitere Zeile(n) haben diese und andere Unterschiede</source>
         <translation>
-            <numerusform>%n linje til har disse og andre forskjeller</numerusform>
-            <numerusform>%n linjer til har disse og andre forskjeller</numerusform>
+            <numerusform>%Ln linje til har disse og andre forskjeller</numerusform>
+            <numerusform>%Ln linjer til har disse og andre forskjeller</numerusform>
         </translation>
     </message>
     <message>
@@ -2742,10 +2786,10 @@ Linje: %2
         <translation>Linje %1: %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
+        <source>%Ln Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
         <translation>
-            <numerusform>%n linje er bekreftet selv om verdier i området ikke har noen ny linje.</numerusform>
-            <numerusform>%n linjer er bekreftet selv om verdier i områdene deres ikke har noen ny linje.</numerusform>
+            <numerusform>%Ln linje er bekreftet selv om verdier i området ikke har noen ny linje.</numerusform>
+            <numerusform>%Ln linjer er bekreftet selv om verdier i områdene deres ikke har noen ny linje.</numerusform>
         </translation>
     </message>
     <message>
@@ -2760,19 +2804,15 @@ Linje: %2
 <context>
     <name>RangeDock</name>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n linje</numerusform>
-            <numerusform>%1: %n linjer</numerusform>
+            <numerusform>%1: %Ln linje</numerusform>
+            <numerusform>%1: %Ln linjer</numerusform>
         </translation>
     </message>
     <message>
         <source>Die Zeile hat keine Wertebereichszuordnung.</source>
         <translation>Linjen har ingen tilordning av verdiområder.</translation>
-    </message>
-    <message>
-        <source>%1: %2 von %3 Werten zugeordnet</source>
-        <translation>%1: %2 av %3 verdier tilordnet</translation>
     </message>
     <message>
         <source>fehlend: %1</source>
@@ -2789,6 +2829,13 @@ Linje: %2
     <message>
         <source>Wertebereich der Zeile</source>
         <translation>Linjens verdiområde</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 von %Ln Wert(en) zugeordnet</source>
+        <translation>
+            <numerusform>%1: %2 av %Ln verdi tilordnet</numerusform>
+            <numerusform>%1: %2 av %Ln verdier tilordnet</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2831,10 +2878,6 @@ Linje: %2
     <message>
         <source>Wiederherstellung</source>
         <translation>Gjenoppretting</translation>
-    </message>
-    <message>
-        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2 Schritte mit %3 Zeilen in %4 Projekten, zuletzt „%5“. Sie stammt von %6.</source>
-        <translation>Det finnes arbeid med %1 som ikke ble lagret: %2 trinn med %3 linjer i %4 prosjekter, sist «%5». Det kommer fra %6.</translation>
     </message>
     <message>
         <source>Gespeichert</source>
@@ -2884,16 +2927,37 @@ Linje: %2
         <source>&amp;Gespeicherten Stand öffnen</source>
         <translation>Åpne &amp;den lagrede versjonen</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln Schritt(e)</source>
+        <translation>
+            <numerusform>%Ln trinn</numerusform>
+            <numerusform>%Ln trinn</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2, zuletzt „%3“. Sie stammt von %4.</source>
+        <translation>Det finnes arbeid med %1 som ikke ble lagret: %2, sist «%3». Det kommer fra %4.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 med %Ln linje</numerusform>
+            <numerusform>%1 med %Ln linjer</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 i %Ln prosjekt</numerusform>
+            <numerusform>%1 i %Ln prosjekter</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ReleaseCommands</name>
     <message>
         <source>Tabellen werden importiert</source>
         <translation>Tabeller importeres</translation>
-    </message>
-    <message>
-        <source>%1 Tabellen mit %2 Zeilen: %3 neu, %4 geändert, %5 unverändert, %6 nicht importiert</source>
-        <translation>%1 tabeller med %2 linjer: %3 nye, %4 endret, %5 uendret, %6 ikke importert</translation>
     </message>
     <message>
         <source>%1 hat keine CSV-Datei mehr und bleibt, wie es ist</source>
@@ -2932,10 +2996,6 @@ Linje: %2
         <translation>Avbrutt, ingenting ble eksportert</translation>
     </message>
     <message>
-        <source>%1 Zeilen nach %2 exportiert</source>
-        <translation>%1 linjer eksportert til %2</translation>
-    </message>
-    <message>
         <source>Bericht schreiben</source>
         <translation>Skriv rapport</translation>
     </message>
@@ -2966,6 +3026,31 @@ Linje: %2
     <message>
         <source>Seite %1 von %2</source>
         <translation>Side %1 av %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Tabelle(n)</source>
+        <translation>
+            <numerusform>%Ln tabell</numerusform>
+            <numerusform>%Ln tabeller</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 neu, %2 geändert, %3 unverändert, %4 nicht importiert</source>
+        <translation>%1 nye, %2 endret, %3 uendret, %4 ikke importert</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Zeile(n) nach %1 exportiert</source>
+        <translation>
+            <numerusform>%Ln linje eksportert til %1</numerusform>
+            <numerusform>%Ln linjer eksportert til %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 med %Ln linje</numerusform>
+            <numerusform>%1 med %Ln linjer</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3011,17 +3096,17 @@ Linje: %2
         <translation>Tabellene leses</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dafür</source>
+        <source>%Ln Zeile(n) dafür</source>
         <translation>
-            <numerusform>%n linje for</numerusform>
-            <numerusform>%n linjer for</numerusform>
+            <numerusform>%Ln linje for</numerusform>
+            <numerusform>%Ln linjer for</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dagegen</source>
+        <source>%Ln Zeile(n) dagegen</source>
         <translation>
-            <numerusform>%n linje imot</numerusform>
-            <numerusform>%n linjer imot</numerusform>
+            <numerusform>%Ln linje imot</numerusform>
+            <numerusform>%Ln linjer imot</numerusform>
         </translation>
     </message>
 </context>
@@ -3038,10 +3123,6 @@ Linje: %2
     <message>
         <source>Erstellt am %1</source>
         <translation>Laget den %1</translation>
-    </message>
-    <message>
-        <source>Erledigt: %1 von %2 Zeilen; offen: %3.</source>
-        <translation>Ferdig: %1 av %2 linjer; åpne: %3.</translation>
     </message>
     <message>
         <source>Stand der Zeilen</source>
@@ -3267,6 +3348,10 @@ Linje: %2
         <source>Beurteilte Zeilen</source>
         <translation>Bedømte linjer</translation>
     </message>
+    <message>
+        <source>Erledigte Zeilen: %1 von %2; offen: %3.</source>
+        <translation>Ferdige linjer: %1 av %2; åpne: %3.</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3345,10 +3430,10 @@ Linje: %2
         <translation>Tabellene er ikke sammenlignet ennå</translation>
     </message>
     <message numerus="yes">
-        <source>Von vorn: %n Zeile(n) offen</source>
+        <source>Von vorn: %Ln Zeile(n) offen</source>
         <translation>
-            <numerusform>Fra begynnelsen: %n linje åpen</numerusform>
-            <numerusform>Fra begynnelsen: %n linjer åpne</numerusform>
+            <numerusform>Fra begynnelsen: %Ln linje åpen</numerusform>
+            <numerusform>Fra begynnelsen: %Ln linjer åpne</numerusform>
         </translation>
     </message>
     <message>
@@ -3372,17 +3457,17 @@ Linje: %2
         <translation>Intet mønster er valgt, eller alle linjene er avgjort</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n linje</numerusform>
-            <numerusform>%n linjer</numerusform>
+            <numerusform>%Ln linje</numerusform>
+            <numerusform>%Ln linjer</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en) bestätigen?</source>
+        <source>in %Ln Projekt(en) bestätigen?</source>
         <translation>
-            <numerusform>bekrefte i %n prosjekt?</numerusform>
-            <numerusform>bekrefte i %n prosjekter?</numerusform>
+            <numerusform>bekrefte i %Ln prosjekt?</numerusform>
+            <numerusform>bekrefte i %Ln prosjekter?</numerusform>
         </translation>
     </message>
     <message>
@@ -3394,10 +3479,10 @@ Linje: %2
         <translation>&amp;Bekreft</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n linje bekreftet</numerusform>
-            <numerusform>%n linjer bekreftet</numerusform>
+            <numerusform>%Ln linje bekreftet</numerusform>
+            <numerusform>%Ln linjer bekreftet</numerusform>
         </translation>
     </message>
     <message>
@@ -3419,10 +3504,6 @@ Linje: %2
     <message>
         <source>Stichprobe</source>
         <translation>Stikkprøve</translation>
-    </message>
-    <message>
-        <source>So viele von %1 Zeilen werden gezogen und einzeln beurteilt. %2 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %3 richtige weniger als 1 %.</source>
-        <translation>Så mange av %1 linjer trekkes og bedømmes enkeltvis. %2 riktige sier med 95 % sikkerhet at færre enn 5 % er feil, %3 riktige færre enn 1 %.</translation>
     </message>
     <message>
         <source>&amp;Ziehen</source>
@@ -3481,10 +3562,10 @@ Linje: %2
         <translation>Se på &amp;den gale linjen</translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind unsicher.</source>
+        <source>%Ln davon ist/sind unsicher.</source>
         <translation>
-            <numerusform>%n av dem er usikker.</numerusform>
-            <numerusform>%n av dem er usikre.</numerusform>
+            <numerusform>%Ln av dem er usikker.</numerusform>
+            <numerusform>%Ln av dem er usikre.</numerusform>
         </translation>
     </message>
     <message>
@@ -3492,22 +3573,29 @@ Linje: %2
         <translation>Alle mønstre er ferdige</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>i %n prosjekt</numerusform>
-            <numerusform>i %n prosjekter</numerusform>
+            <numerusform>i %Ln prosjekt</numerusform>
+            <numerusform>i %Ln prosjekter</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n linje bekreftet som utgått</numerusform>
-            <numerusform>%n linjer bekreftet som utgått</numerusform>
+            <numerusform>%Ln linje bekreftet som utgått</numerusform>
+            <numerusform>%Ln linjer bekreftet som utgått</numerusform>
         </translation>
     </message>
     <message>
         <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
         <translation>Linje %1 i %2 er feil. Mengden er delt; hvilken del skal det fortsettes med?</translation>
+    </message>
+    <message numerus="yes">
+        <source>So viele von %Ln Zeile(n) werden gezogen und einzeln beurteilt. %1 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %2 richtige weniger als 1 %.</source>
+        <translation>
+            <numerusform>Så mange av %Ln linje trekkes og bedømmes enkeltvis. %1 riktige sier med 95 % sikkerhet at færre enn 5 % er feil, %2 riktige færre enn 1 %.</numerusform>
+            <numerusform>Så mange av %Ln linjer trekkes og bedømmes enkeltvis. %1 riktige sier med 95 % sikkerhet at færre enn 5 % er feil, %2 riktige færre enn 1 %.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3665,16 +3753,22 @@ Linje: %2
         <translation>Etter den sist avsluttede økten er journalen %1 ikke lesbar. Hva som sto der, vites ikke; journalen beholdes.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passen noch %2 Änderungen, %3 passen nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
-        <translation>Journalen %1 er skadet. Etter skaden passer %2 endringer ennå, %3 passer ikke lenger; flere kan mangle. Journalen beholdes.</translation>
-    </message>
-    <message>
         <source>Das Ende des Journals %1 ist nicht lesbar. Die letzte Änderung kann fehlen.</source>
         <translation>Slutten av journalen %1 er ikke lesbar. Den siste endringen kan mangle.</translation>
     </message>
-    <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
-        <translation>Journalen %1 er skadet eller passer ikke til mappingfilen. Minst %2 senere endringer mangler; journalen beholdes.</translation>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passt/passen noch %Ln Änderung(en), %2 nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>Journalen %1 er skadet. Etter skaden passer %Ln endring ennå, %2 passer ikke lenger; flere kan mangle. Journalen beholdes.</numerusform>
+            <numerusform>Journalen %1 er skadet. Etter skaden passer %Ln endringer ennå, %2 passer ikke lenger; flere kan mangle. Journalen beholdes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %Ln spätere Änderung(en) fehlt/fehlen; das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>Journalen %1 er skadet eller passer ikke til mappingfilen. Minst %Ln senere endring mangler; journalen beholdes.</numerusform>
+            <numerusform>Journalen %1 er skadet eller passer ikke til mappingfilen. Minst %Ln senere endringer mangler; journalen beholdes.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3926,11 +4020,6 @@ Linje: %2
         <translation>Alt avgjort</translation>
     </message>
     <message>
-        <source>Offen: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Åpne: &lt;a href=&quot;next&quot;&gt;%1 linjer&lt;/a&gt; i %2 prosjekter</translation>
-    </message>
-    <message>
         <source>Zeilen, die noch eine Entscheidung brauchen</source>
         <translation>Linjer som ennå trenger en avgjørelse</translation>
     </message>
@@ -3943,13 +4032,31 @@ Linje: %2
         <translation>Filter: ingen linje</translation>
     </message>
     <message>
-        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Filter: &lt;a href=&quot;next&quot;&gt;%1 linjer&lt;/a&gt; i %2 prosjekter</translation>
-    </message>
-    <message>
         <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
         <translation>Linjer som filteret over alle linjer viser</translation>
+    </message>
+    <message numerus="yes">
+        <source>&lt;a href=&quot;next&quot;&gt;%Ln Zeile(n)&lt;/a&gt;</source>
+        <translation>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln linje&lt;/a&gt;</numerusform>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln linjer&lt;/a&gt;</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Offen: %1</source>
+        <translation>Åpne: %1</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>Filter: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <extracomment>&quot;12 lines in 3 projects&quot;</extracomment>
+        <translation>
+            <numerusform>%1 i %Ln prosjekt</numerusform>
+            <numerusform>%1 i %Ln prosjekter</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3998,10 +4105,10 @@ Linje: %2
         <translation>Lu&amp;kk</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <source>Mit %Ln abhängigen &amp;zurücknehmen</source>
         <translation>
-            <numerusform>&amp;Ta tilbake med avhengige (%n)</numerusform>
-            <numerusform>&amp;Ta tilbake med avhengige (%n)</numerusform>
+            <numerusform>&amp;Ta tilbake med avhengige (%Ln)</numerusform>
+            <numerusform>&amp;Ta tilbake med avhengige (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -4009,10 +4116,10 @@ Linje: %2
         <translation>&amp;Ta bare dette tilbake</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <source>Mit %Ln früheren &amp;wieder ausführen</source>
         <translation>
-            <numerusform>&amp;Gjør igjen med tidligere (%n)</numerusform>
-            <numerusform>&amp;Gjør igjen med tidligere (%n)</numerusform>
+            <numerusform>&amp;Gjør igjen med tidligere (%Ln)</numerusform>
+            <numerusform>&amp;Gjør igjen med tidligere (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -4048,20 +4155,20 @@ Linje: %2
         <translation>Nå står det noe annet der som intet trinn i listen bestemte, for eksempel fra et annet program. Trinnet kan ikke flyttes lenger.</translation>
     </message>
     <message numerus="yes">
-        <source>und %n weitere</source>
+        <source>und %Ln weitere</source>
         <translation>
-            <numerusform>og %n til</numerusform>
-            <numerusform>og %n til</numerusform>
+            <numerusform>og %Ln til</numerusform>
+            <numerusform>og %Ln til</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepListModel</name>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1 i %n prosjekt</numerusform>
-            <numerusform>%1 i %n prosjekter</numerusform>
+            <numerusform>%1 i %Ln prosjekt</numerusform>
+            <numerusform>%1 i %Ln prosjekter</numerusform>
         </translation>
     </message>
     <message>
@@ -4104,10 +4211,10 @@ Linje: %2
         <translation>Endringen i %1 virker først når linjene tilordnes på nytt. Da beholdes bare det som er bekreftet.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
+        <source>%Ln Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
         <translation>
-            <numerusform>%n linje i %1 var bekreftet som utgått og er det ikke lenger: %2</numerusform>
-            <numerusform>%n linjer i %1 var bekreftet som utgått og er det ikke lenger: %2</numerusform>
+            <numerusform>%Ln linje i %1 var bekreftet som utgått og er det ikke lenger: %2</numerusform>
+            <numerusform>%Ln linjer i %1 var bekreftet som utgått og er det ikke lenger: %2</numerusform>
         </translation>
     </message>
     <message>
@@ -4123,76 +4230,76 @@ Linje: %2
         <translation>En variabeltilordning for målprosjektet %1 i %2 er falt bort.</translation>
     </message>
     <message numerus="yes">
-        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %n andere Zeile(n): %4</source>
+        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %Ln andere Zeile(n): %4</source>
         <translation>
-            <numerusform>Linje %1 → %2 i %3: også %n annen linje har mållinjen: %4</numerusform>
-            <numerusform>Linje %1 → %2 i %3: også %n andre linjer har mållinjen: %4</numerusform>
+            <numerusform>Linje %1 → %2 i %3: også %Ln annen linje har mållinjen: %4</numerusform>
+            <numerusform>Linje %1 → %2 i %3: også %Ln andre linjer har mållinjen: %4</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
+        <source>%Ln Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
         <translation>
-            <numerusform>%n linje i %1 deler mållinjen med nylig tilordnede: %2</numerusform>
-            <numerusform>%n linjer i %1 deler mållinjen med nylig tilordnede: %2</numerusform>
+            <numerusform>%Ln linje i %1 deler mållinjen med nylig tilordnede: %2</numerusform>
+            <numerusform>%Ln linjer i %1 deler mållinjen med nylig tilordnede: %2</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepSummary</name>
     <message numerus="yes">
-        <source>%n Konflikt(e) angenommen</source>
+        <source>%Ln Konflikt(e) angenommen</source>
         <translation>
-            <numerusform>%n konflikt godtatt</numerusform>
-            <numerusform>%n konflikter godtatt</numerusform>
+            <numerusform>%Ln konflikt godtatt</numerusform>
+            <numerusform>%Ln konflikter godtatt</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n linje bekreftet</numerusform>
-            <numerusform>%n linjer bekreftet</numerusform>
+            <numerusform>%Ln linje bekreftet</numerusform>
+            <numerusform>%Ln linjer bekreftet</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n linje bekreftet som utgått</numerusform>
-            <numerusform>%n linjer bekreftet som utgått</numerusform>
+            <numerusform>%Ln linje bekreftet som utgått</numerusform>
+            <numerusform>%Ln linjer bekreftet som utgått</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) zugeordnet</source>
+        <source>%Ln Zeile(n) zugeordnet</source>
         <translation>
-            <numerusform>%n linje tilordnet</numerusform>
-            <numerusform>%n linjer tilordnet</numerusform>
+            <numerusform>%Ln linje tilordnet</numerusform>
+            <numerusform>%Ln linjer tilordnet</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben</source>
         <translation>
-            <numerusform>tilordningen av %n linje opphevet</numerusform>
-            <numerusform>tilordningen av %n linjer opphevet</numerusform>
+            <numerusform>tilordningen av %Ln linje opphevet</numerusform>
+            <numerusform>tilordningen av %Ln linjer opphevet</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Wertebereichszuordnung von %n Zeile(n) geändert</source>
+        <source>Wertebereichszuordnung von %Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>tilordningen av verdiområder for %n linje endret</numerusform>
-            <numerusform>tilordningen av verdiområder for %n linjer endret</numerusform>
+            <numerusform>tilordningen av verdiområder for %Ln linje endret</numerusform>
+            <numerusform>tilordningen av verdiområder for %Ln linjer endret</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Konflikt von %n Zeile(n) gelöst</source>
+        <source>Konflikt von %Ln Zeile(n) gelöst</source>
         <translation>
-            <numerusform>konflikten for %n linje løst</numerusform>
-            <numerusform>konflikten for %n linjer løst</numerusform>
+            <numerusform>konflikten for %Ln linje løst</numerusform>
+            <numerusform>konflikten for %Ln linjer løst</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) geändert</source>
+        <source>%Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>%n linje endret</numerusform>
-            <numerusform>%n linjer endret</numerusform>
+            <numerusform>%Ln linje endret</numerusform>
+            <numerusform>%Ln linjer endret</numerusform>
         </translation>
     </message>
     <message>
@@ -4260,10 +4367,10 @@ Linje: %2
         <translation>%1 i %2</translation>
     </message>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1 i %n prosjekt</numerusform>
-            <numerusform>%1 i %n prosjekter</numerusform>
+            <numerusform>%1 i %Ln prosjekt</numerusform>
+            <numerusform>%1 i %Ln prosjekter</numerusform>
         </translation>
     </message>
 </context>
@@ -4309,10 +4416,10 @@ Linje: %2
         <translation>Tilordninger av verdiområder kontrolleres</translation>
     </message>
     <message numerus="yes">
-        <source>%n Wertebereichszuordnung(en) geprüft</source>
+        <source>%Ln Wertebereichszuordnung(en) geprüft</source>
         <translation>
-            <numerusform>%n tilordning av verdiområder kontrollert</numerusform>
-            <numerusform>%n tilordninger av verdiområder kontrollert</numerusform>
+            <numerusform>%Ln tilordning av verdiområder kontrollert</numerusform>
+            <numerusform>%Ln tilordninger av verdiområder kontrollert</numerusform>
         </translation>
     </message>
     <message>
@@ -4320,10 +4427,10 @@ Linje: %2
         <translation>ingen merknader</translation>
     </message>
     <message numerus="yes">
-        <source>%n Beanstandung(en)</source>
+        <source>%Ln Beanstandung(en)</source>
         <translation>
-            <numerusform>%n merknad</numerusform>
-            <numerusform>%n merknader</numerusform>
+            <numerusform>%Ln merknad</numerusform>
+            <numerusform>%Ln merknader</numerusform>
         </translation>
     </message>
     <message>

@@ -8,115 +8,115 @@
         <translation>Nie ma nic do zmiany.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigen?</source>
+        <source>%Ln Zeile(n) bestätigen?</source>
         <translation>
-            <numerusform>Potwierdzić %n wiersz?</numerusform>
-            <numerusform>Potwierdzić %n wiersze?</numerusform>
-            <numerusform>Potwierdzić %n wierszy?</numerusform>
+            <numerusform>Potwierdzić %Ln wiersz?</numerusform>
+            <numerusform>Potwierdzić %Ln wiersze?</numerusform>
+            <numerusform>Potwierdzić %Ln wierszy?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigen?</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Potwierdzić %n wiersz jako wycofany?</numerusform>
-            <numerusform>Potwierdzić %n wiersze jako wycofane?</numerusform>
-            <numerusform>Potwierdzić %n wierszy jako wycofane?</numerusform>
+            <numerusform>Potwierdzić %Ln wiersz jako wycofany?</numerusform>
+            <numerusform>Potwierdzić %Ln wiersze jako wycofane?</numerusform>
+            <numerusform>Potwierdzić %Ln wierszy jako wycofane?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben?</source>
         <translation>
-            <numerusform>Usunąć przypisanie %n wiersza?</numerusform>
-            <numerusform>Usunąć przypisanie %n wierszy?</numerusform>
-            <numerusform>Usunąć przypisanie %n wierszy?</numerusform>
+            <numerusform>Usunąć przypisanie %Ln wiersza?</numerusform>
+            <numerusform>Usunąć przypisanie %Ln wierszy?</numerusform>
+            <numerusform>Usunąć przypisanie %Ln wierszy?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Usunąć przypisanie %n wiersza i potwierdzić go jako wycofany?</numerusform>
-            <numerusform>Usunąć przypisanie %n wierszy i potwierdzić je jako wycofane?</numerusform>
-            <numerusform>Usunąć przypisanie %n wierszy i potwierdzić je jako wycofane?</numerusform>
+            <numerusform>Usunąć przypisanie %Ln wiersza i potwierdzić go jako wycofany?</numerusform>
+            <numerusform>Usunąć przypisanie %Ln wierszy i potwierdzić je jako wycofane?</numerusform>
+            <numerusform>Usunąć przypisanie %Ln wierszy i potwierdzić je jako wycofane?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind schon bestätigt.</source>
+        <source>%Ln davon ist/sind schon bestätigt.</source>
         <translation>
-            <numerusform>%n z nich jest już potwierdzony.</numerusform>
-            <numerusform>%n z nich są już potwierdzone.</numerusform>
-            <numerusform>%n z nich jest już potwierdzonych.</numerusform>
+            <numerusform>%Ln z nich jest już potwierdzony.</numerusform>
+            <numerusform>%Ln z nich są już potwierdzone.</numerusform>
+            <numerusform>%Ln z nich jest już potwierdzonych.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon verliert/verlieren ihre Wertebereichszuordnung.</source>
+        <source>%Ln davon verliert/verlieren ihre Wertebereichszuordnung.</source>
         <translation>
-            <numerusform>%n z nich traci swoje przypisanie zakresów wartości.</numerusform>
-            <numerusform>%n z nich tracą swoje przypisania zakresów wartości.</numerusform>
-            <numerusform>%n z nich traci swoje przypisania zakresów wartości.</numerusform>
+            <numerusform>%Ln z nich traci swoje przypisanie zakresów wartości.</numerusform>
+            <numerusform>%Ln z nich tracą swoje przypisania zakresów wartości.</numerusform>
+            <numerusform>%Ln z nich traci swoje przypisania zakresów wartości.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
+        <source>%Ln Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
         <translation>
-            <numerusform>%n wiersz bez celu pozostaje niepotwierdzony.</numerusform>
-            <numerusform>%n wiersze bez celu pozostają niepotwierdzone.</numerusform>
-            <numerusform>%n wierszy bez celu pozostaje niepotwierdzonych.</numerusform>
+            <numerusform>%Ln wiersz bez celu pozostaje niepotwierdzony.</numerusform>
+            <numerusform>%Ln wiersze bez celu pozostają niepotwierdzone.</numerusform>
+            <numerusform>%Ln wierszy bez celu pozostaje niepotwierdzonych.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
+        <source>%Ln Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
         <translation>
-            <numerusform>%n wiersz pozostaje bez zmian.</numerusform>
-            <numerusform>%n wiersze pozostają bez zmian.</numerusform>
-            <numerusform>%n wierszy pozostaje bez zmian.</numerusform>
+            <numerusform>%Ln wiersz pozostaje bez zmian.</numerusform>
+            <numerusform>%Ln wiersze pozostają bez zmian.</numerusform>
+            <numerusform>%Ln wierszy pozostaje bez zmian.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
+        <source>%Ln Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
         <translation>
-            <numerusform>%n wiersz z konfliktem nie zostanie zmieniony.</numerusform>
-            <numerusform>%n wiersze z konfliktem nie zostaną zmienione.</numerusform>
-            <numerusform>%n wierszy z konfliktem nie zostanie zmienionych.</numerusform>
+            <numerusform>%Ln wiersz z konfliktem nie zostanie zmieniony.</numerusform>
+            <numerusform>%Ln wiersze z konfliktem nie zostaną zmienione.</numerusform>
+            <numerusform>%Ln wierszy z konfliktem nie zostanie zmienionych.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
+        <source>%Ln Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
         <translation>
-            <numerusform>%n wiersz nie jest wpisany w żadnym projekcie docelowym.</numerusform>
-            <numerusform>%n wiersze nie są wpisane w żadnym projekcie docelowym.</numerusform>
-            <numerusform>%n wierszy nie jest wpisanych w żadnym projekcie docelowym.</numerusform>
+            <numerusform>%Ln wiersz nie jest wpisany w żadnym projekcie docelowym.</numerusform>
+            <numerusform>%Ln wiersze nie są wpisane w żadnym projekcie docelowym.</numerusform>
+            <numerusform>%Ln wierszy nie jest wpisanych w żadnym projekcie docelowym.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt.</source>
+        <source>%Ln Zeile(n) bestätigt.</source>
         <translation>
-            <numerusform>Potwierdzono %n wiersz.</numerusform>
-            <numerusform>Potwierdzono %n wiersze.</numerusform>
-            <numerusform>Potwierdzono %n wierszy.</numerusform>
+            <numerusform>Potwierdzono %Ln wiersz.</numerusform>
+            <numerusform>Potwierdzono %Ln wiersze.</numerusform>
+            <numerusform>Potwierdzono %Ln wierszy.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt.</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>Potwierdzono %n wiersz jako wycofany.</numerusform>
-            <numerusform>Potwierdzono %n wiersze jako wycofane.</numerusform>
-            <numerusform>Potwierdzono %n wierszy jako wycofane.</numerusform>
+            <numerusform>Potwierdzono %Ln wiersz jako wycofany.</numerusform>
+            <numerusform>Potwierdzono %Ln wiersze jako wycofane.</numerusform>
+            <numerusform>Potwierdzono %Ln wierszy jako wycofane.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben.</source>
         <translation>
-            <numerusform>Usunięto przypisanie %n wiersza.</numerusform>
-            <numerusform>Usunięto przypisanie %n wierszy.</numerusform>
-            <numerusform>Usunięto przypisanie %n wierszy.</numerusform>
+            <numerusform>Usunięto przypisanie %Ln wiersza.</numerusform>
+            <numerusform>Usunięto przypisanie %Ln wierszy.</numerusform>
+            <numerusform>Usunięto przypisanie %Ln wierszy.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>Usunięto przypisanie %n wiersza, potwierdzono jako wycofany.</numerusform>
-            <numerusform>Usunięto przypisanie %n wierszy, potwierdzono jako wycofane.</numerusform>
-            <numerusform>Usunięto przypisanie %n wierszy, potwierdzono jako wycofane.</numerusform>
+            <numerusform>Usunięto przypisanie %Ln wiersza, potwierdzono jako wycofany.</numerusform>
+            <numerusform>Usunięto przypisanie %Ln wierszy, potwierdzono jako wycofane.</numerusform>
+            <numerusform>Usunięto przypisanie %Ln wierszy, potwierdzono jako wycofane.</numerusform>
         </translation>
     </message>
 </context>
@@ -174,10 +174,6 @@
         <translation>Z %1 nie ma czego przejąć.</translation>
     </message>
     <message>
-        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
-        <translation>Z %1 przejęto: %2 z %3 potwierdzonych wierszy, %4 przypisano na pewno, %5 zaproponowano.</translation>
-    </message>
-    <message>
         <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
         <translation>Plik nie zawiera mapowania z wersji katalogu %1.</translation>
     </message>
@@ -220,6 +216,14 @@
     <message>
         <source>Entscheidungen aus %1 übernommen: %2</source>
         <translation>Decyzje przejęte z %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Aus %1 übernommen: %2 von %Ln bestätigten Zeile(n), %3 sicher zugeordnet, %4 vorgeschlagen.</source>
+        <translation>
+            <numerusform>Z %1 przejęto: %2 z %Ln potwierdzonego wiersza, %3 przypisano na pewno, %4 zaproponowano.</numerusform>
+            <numerusform>Z %1 przejęto: %2 z %Ln potwierdzonych wierszy, %3 przypisano na pewno, %4 zaproponowano.</numerusform>
+            <numerusform>Z %1 przejęto: %2 z %Ln potwierdzonych wierszy, %3 przypisano na pewno, %4 zaproponowano.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -284,11 +288,11 @@
         <translation>Konflikt %1 z %2, nierozstrzygniętych jeszcze: %3</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
+        <source>%Ln Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
         <translation>
-            <numerusform>%n wiersz z %1 jest sprzeczny w ten sam sposób. Czy decyzja dotyczy wszystkich?</numerusform>
-            <numerusform>%n wiersze z %1 są sprzeczne w ten sam sposób. Czy decyzja dotyczy wszystkich?</numerusform>
-            <numerusform>%n wierszy z %1 jest sprzecznych w ten sam sposób. Czy decyzja dotyczy wszystkich?</numerusform>
+            <numerusform>%Ln wiersz z %1 jest sprzeczny w ten sam sposób. Czy decyzja dotyczy wszystkich?</numerusform>
+            <numerusform>%Ln wiersze z %1 są sprzeczne w ten sam sposób. Czy decyzja dotyczy wszystkich?</numerusform>
+            <numerusform>%Ln wierszy z %1 jest sprzecznych w ten sam sposób. Czy decyzja dotyczy wszystkich?</numerusform>
         </translation>
     </message>
     <message>
@@ -324,16 +328,12 @@ Inna: %2</translation>
         <source>Alle Konflikte sind entschieden.</source>
         <translation>Wszystkie konflikty są rozstrzygnięte.</translation>
     </message>
-    <message>
-        <source>%1 von %2 Konflikten sind noch offen.</source>
-        <translation>Nierozstrzygnięte konflikty: %1 z %2.</translation>
-    </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) widersprechen sich wie diese.</source>
+        <source>%Ln weitere Zeile(n) widersprechen sich wie diese.</source>
         <translation>
-            <numerusform>Jeszcze %n wiersz jest sprzeczny tak jak ten.</numerusform>
-            <numerusform>Jeszcze %n wiersze są sprzeczne tak jak ten.</numerusform>
-            <numerusform>Jeszcze %n wierszy jest sprzecznych tak jak ten.</numerusform>
+            <numerusform>Jeszcze %Ln wiersz jest sprzeczny tak jak ten.</numerusform>
+            <numerusform>Jeszcze %Ln wiersze są sprzeczne tak jak ten.</numerusform>
+            <numerusform>Jeszcze %Ln wierszy jest sprzecznych tak jak ten.</numerusform>
         </translation>
     </message>
     <message>
@@ -355,6 +355,14 @@ Inna: %2</translation>
     <message>
         <source>Neu entscheiden</source>
         <translation>Rozstrzygnij od nowa</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Konflikt(en) noch offen.</source>
+        <translation>
+            <numerusform>Nierozstrzygnięte konflikty: %1 z %Ln.</numerusform>
+            <numerusform>Nierozstrzygnięte konflikty: %1 z %Ln.</numerusform>
+            <numerusform>Nierozstrzygnięte konflikty: %1 z %Ln.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -473,11 +481,11 @@ Inna: %2</translation>
         <translation>równe</translation>
     </message>
     <message numerus="yes">
-        <source>ersetzt wie in %n weiteren Zeile(n)</source>
+        <source>ersetzt wie in %Ln weiteren Zeile(n)</source>
         <translation>
-            <numerusform>zastąpione jak w jeszcze %n wierszu</numerusform>
-            <numerusform>zastąpione jak w jeszcze %n wierszach</numerusform>
-            <numerusform>zastąpione jak w jeszcze %n wierszach</numerusform>
+            <numerusform>zastąpione jak w jeszcze %Ln wierszu</numerusform>
+            <numerusform>zastąpione jak w jeszcze %Ln wierszach</numerusform>
+            <numerusform>zastąpione jak w jeszcze %Ln wierszach</numerusform>
         </translation>
     </message>
     <message>
@@ -540,11 +548,11 @@ Inna: %2</translation>
         <translation>Przypisany na pewno.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n wiersz</numerusform>
-            <numerusform>%n wiersze</numerusform>
-            <numerusform>%n wierszy</numerusform>
+            <numerusform>%Ln wiersz</numerusform>
+            <numerusform>%Ln wiersze</numerusform>
+            <numerusform>%Ln wierszy</numerusform>
         </translation>
     </message>
     <message>
@@ -627,23 +635,19 @@ Inna: %2</translation>
         <translation>&amp;Odrzuć</translation>
     </message>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n wiersz</numerusform>
-            <numerusform>%1: %n wiersze</numerusform>
-            <numerusform>%1: %n wierszy</numerusform>
+            <numerusform>%1: %Ln wiersz</numerusform>
+            <numerusform>%1: %Ln wiersze</numerusform>
+            <numerusform>%1: %Ln wierszy</numerusform>
         </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>i jeszcze %1</translation>
-    </message>
     <message numerus="yes">
-        <source>Noch %n Zeile(n) in Konflikt, in diesen Projekten:</source>
+        <source>Noch %Ln Zeile(n) in Konflikt, in diesen Projekten:</source>
         <translation>
-            <numerusform>Jeszcze %n wiersz w konflikcie, w tych projektach:</numerusform>
-            <numerusform>Jeszcze %n wiersze w konflikcie, w tych projektach:</numerusform>
-            <numerusform>Jeszcze %n wierszy w konflikcie, w tych projektach:</numerusform>
+            <numerusform>Jeszcze %Ln wiersz w konflikcie, w tych projektach:</numerusform>
+            <numerusform>Jeszcze %Ln wiersze w konflikcie, w tych projektach:</numerusform>
+            <numerusform>Jeszcze %Ln wierszy w konflikcie, w tych projektach:</numerusform>
         </translation>
     </message>
     <message>
@@ -685,6 +689,14 @@ Inna: %2</translation>
     <message>
         <source>Die Mapping-Datei kann nicht angelegt werden.</source>
         <translation>Nie można utworzyć pliku mapowania.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>i jeszcze %Ln</numerusform>
+            <numerusform>i jeszcze %Ln</numerusform>
+            <numerusform>i jeszcze %Ln</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -748,6 +760,15 @@ Wybierz inny plik.</translation>
     <message>
         <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte einen anderen Ordner wählen.</source>
         <translation>W folderze pliku %1 nie można nic utworzyć (%2). Nic nie zapisano. Wybierz inny folder.</translation>
+    </message>
+</context>
+<context>
+    <name>EditorArea</name>
+    <message>
+        <source>Keine Zeile dieses Projekts ist im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Zeilen zu sehen.</source>
+        <translation>Żaden wiersz tego projektu nie jest w filtrze.
+Aby znów zobaczyć wszystkie wiersze, otwórz „%1” i wybierz „%2”.</translation>
     </message>
 </context>
 <context>
@@ -875,19 +896,19 @@ Wybierz inny plik.</translation>
         <translation>Odczyt tabel...</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n wiersz</numerusform>
-            <numerusform>%n wiersze</numerusform>
-            <numerusform>%n wierszy</numerusform>
+            <numerusform>%Ln wiersz</numerusform>
+            <numerusform>%Ln wiersze</numerusform>
+            <numerusform>%Ln wierszy</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>w %n projekcie</numerusform>
-            <numerusform>w %n projektach</numerusform>
-            <numerusform>w %n projektach</numerusform>
+            <numerusform>w %Ln projekcie</numerusform>
+            <numerusform>w %Ln projektach</numerusform>
+            <numerusform>w %Ln projektach</numerusform>
         </translation>
     </message>
     <message>
@@ -895,11 +916,11 @@ Wybierz inny plik.</translation>
         <translation>Bez filtra: wszystkie wiersze</translation>
     </message>
     <message numerus="yes">
-        <source>%n Tabelle(n) nicht lesbar</source>
+        <source>%Ln Tabelle(n) nicht lesbar</source>
         <translation>
-            <numerusform>Nieczytelne tabele: %n</numerusform>
-            <numerusform>Nieczytelne tabele: %n</numerusform>
-            <numerusform>Nieczytelne tabele: %n</numerusform>
+            <numerusform>Nieczytelne tabele: %Ln</numerusform>
+            <numerusform>Nieczytelne tabele: %Ln</numerusform>
+            <numerusform>Nieczytelne tabele: %Ln</numerusform>
         </translation>
     </message>
     <message>
@@ -1048,11 +1069,11 @@ Wybierz inny plik.</translation>
         <translation>Wiersz %1 w %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1</source>
+        <source>%Ln Zeile(n) in %1</source>
         <translation>
-            <numerusform>%n wiersz w %1</numerusform>
-            <numerusform>%n wiersze w %1</numerusform>
-            <numerusform>%n wierszy w %1</numerusform>
+            <numerusform>%Ln wiersz w %1</numerusform>
+            <numerusform>%Ln wiersze w %1</numerusform>
+            <numerusform>%Ln wierszy w %1</numerusform>
         </translation>
     </message>
     <message>
@@ -1381,11 +1402,11 @@ Wybierz inny plik.</translation>
         <translation>Skopiowany warunek nie nadaje się jeszcze do użycia: brakuje wartości, jest ona zakresem lub zawiera cudzysłów: %1</translation>
     </message>
     <message numerus="yes">
-        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.</source>
+        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %Ln Zeile(n) offen.</source>
         <translation>
-            <numerusform>Tu, w filtrze, wszystko gotowe; poza nim jest jeszcze %n otwarty wiersz.</numerusform>
-            <numerusform>Tu, w filtrze, wszystko gotowe; poza nim są jeszcze %n otwarte wiersze.</numerusform>
-            <numerusform>Tu, w filtrze, wszystko gotowe; poza nim jest jeszcze %n otwartych wierszy.</numerusform>
+            <numerusform>Tu, w filtrze, wszystko gotowe; poza nim jest jeszcze %Ln otwarty wiersz.</numerusform>
+            <numerusform>Tu, w filtrze, wszystko gotowe; poza nim są jeszcze %Ln otwarte wiersze.</numerusform>
+            <numerusform>Tu, w filtrze, wszystko gotowe; poza nim jest jeszcze %Ln otwartych wierszy.</numerusform>
         </translation>
     </message>
     <message>
@@ -1453,16 +1474,16 @@ Wybierz inny plik.</translation>
         <translation>Chodzi o wszystkie wiersze projektu.</translation>
     </message>
     <message>
-        <source>Gemeint sind die %1 gezeigten von %2 Zeilen des Projekts.</source>
-        <translation>Chodzi o pokazane wiersze projektu: %1 z %2.</translation>
-    </message>
-    <message>
         <source>Filter: %1.</source>
         <translation>Filtr: %1.</translation>
     </message>
     <message>
         <source>Kein anderes Projekt hat solche Zeilen</source>
         <translation>Żaden inny projekt nie ma takich wierszy</translation>
+    </message>
+    <message>
+        <source>Gemeint sind nur die gezeigten Zeilen des Projekts: %1 von %2.</source>
+        <translation>Chodzi tylko o pokazane wiersze projektu: %1 z %2.</translation>
     </message>
 </context>
 <context>
@@ -1695,10 +1716,6 @@ Wybierz inny plik.</translation>
         <translation>&amp;Zamknij</translation>
     </message>
     <message>
-        <source>Die ersten %1 Links; die Suche zeigt andere.</source>
-        <translation>Pierwszych %1 łączy; wyszukiwanie pokazuje inne.</translation>
-    </message>
-    <message>
         <source>Links: %1</source>
         <translation>Łącza: %1</translation>
     </message>
@@ -1717,6 +1734,14 @@ Wybierz inny plik.</translation>
     <message>
         <source>&amp;Wiederherstellen</source>
         <translation>P&amp;rzywróć</translation>
+    </message>
+    <message numerus="yes">
+        <source>Die ersten %Ln Link(s); die Suche zeigt andere.</source>
+        <translation>
+            <numerusform>Pierwsze %Ln łącze; wyszukiwanie pokazuje inne.</numerusform>
+            <numerusform>Pierwsze %Ln łącza; wyszukiwanie pokazuje inne.</numerusform>
+            <numerusform>Pierwszych %Ln łączy; wyszukiwanie pokazuje inne.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1839,16 +1864,20 @@ Wybierz inny plik.</translation>
         <source>Nichts gefunden</source>
         <translation>Nic nie znaleziono</translation>
     </message>
-    <message>
-        <source>Die ersten %1 von %2 Treffern</source>
-        <translation>Pierwsze trafienia: %1 z %2</translation>
+    <message numerus="yes">
+        <source>%Ln Treffer</source>
+        <translation>
+            <numerusform>%Ln trafienie</numerusform>
+            <numerusform>%Ln trafienia</numerusform>
+            <numerusform>%Ln trafień</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
-        <source>%n Treffer</source>
+        <source>Die ersten %1 von %Ln Treffer(n)</source>
         <translation>
-            <numerusform>%n trafienie</numerusform>
-            <numerusform>%n trafienia</numerusform>
-            <numerusform>%n trafień</numerusform>
+            <numerusform>Pierwsze trafienia: %1 z %Ln</numerusform>
+            <numerusform>Pierwsze trafienia: %1 z %Ln</numerusform>
+            <numerusform>Pierwsze trafienia: %1 z %Ln</numerusform>
         </translation>
     </message>
 </context>
@@ -2071,27 +2100,27 @@ Wybierz inny plik.</translation>
         <translation>Własne zmiany na wersji z pliku</translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): eigene Entscheidung</source>
+        <source>%Ln Konflikt(e): eigene Entscheidung</source>
         <translation>
-            <numerusform>%n konflikt: własna decyzja</numerusform>
-            <numerusform>%n konflikty: własna decyzja</numerusform>
-            <numerusform>%n konfliktów: własna decyzja</numerusform>
+            <numerusform>%Ln konflikt: własna decyzja</numerusform>
+            <numerusform>%Ln konflikty: własna decyzja</numerusform>
+            <numerusform>%Ln konfliktów: własna decyzja</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): Entscheidung der anderen Seite</source>
+        <source>%Ln Konflikt(e): Entscheidung der anderen Seite</source>
         <translation>
-            <numerusform>%n konflikt: decyzja drugiej strony</numerusform>
-            <numerusform>%n konflikty: decyzja drugiej strony</numerusform>
-            <numerusform>%n konfliktów: decyzja drugiej strony</numerusform>
+            <numerusform>%Ln konflikt: decyzja drugiej strony</numerusform>
+            <numerusform>%Ln konflikty: decyzja drugiej strony</numerusform>
+            <numerusform>%Ln konfliktów: decyzja drugiej strony</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): neu zu entscheiden</source>
+        <source>%Ln Konflikt(e): neu zu entscheiden</source>
         <translation>
-            <numerusform>%n konflikt: do rozstrzygnięcia od nowa</numerusform>
-            <numerusform>%n konflikty: do rozstrzygnięcia od nowa</numerusform>
-            <numerusform>%n konfliktów: do rozstrzygnięcia od nowa</numerusform>
+            <numerusform>%Ln konflikt: do rozstrzygnięcia od nowa</numerusform>
+            <numerusform>%Ln konflikty: do rozstrzygnięcia od nowa</numerusform>
+            <numerusform>%Ln konfliktów: do rozstrzygnięcia od nowa</numerusform>
         </translation>
     </message>
     <message>
@@ -2162,54 +2191,74 @@ Wybierz inny plik.</translation>
         <translation>Przerwano, nic nie utworzono</translation>
     </message>
     <message>
-        <source>%1 Projekte: %2 am selben Ort, %3 an anderem, %4 aufgeteilt, %5 ohne Ziel, %6 unlesbar</source>
-        <translation>Projekty: %1, w tym w tym samym miejscu %2, w innym %3, podzielone %4, bez celu %5, nieczytelne %6</translation>
-    </message>
-    <message>
         <source>Zeilen werden zugeordnet</source>
         <translation>Przypisywanie wierszy</translation>
     </message>
-    <message>
-        <source>Abgebrochen: %1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>Przerwano: projekty: %1 z %2, wiersze: %3, w tym przypisane %4, do sprawdzenia %5, bez celu %6</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e): %1 am selben Ort, %2 an anderem, %3 aufgeteilt, %4 ohne Ziel, %5 unlesbar</source>
+        <translation>
+            <numerusform>%Ln projekt: w tym samym miejscu %1, w innym %2, podzielone %3, bez celu %4, nieczytelne %5</numerusform>
+            <numerusform>%Ln projekty: w tym samym miejscu %1, w innym %2, podzielone %3, bez celu %4, nieczytelne %5</numerusform>
+            <numerusform>%Ln projektów: w tym samym miejscu %1, w innym %2, podzielone %3, bez celu %4, nieczytelne %5</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 z %Ln projektu</numerusform>
+            <numerusform>%1 z %Ln projektów</numerusform>
+            <numerusform>%1 z %Ln projektów</numerusform>
+        </translation>
     </message>
     <message>
-        <source>%1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>Projekty: %1 z %2, wiersze: %3, w tym przypisane %4, do sprawdzenia %5, bez celu %6</translation>
+        <source>davon %1 zugeordnet, %2 zu prüfen, %3 ohne Ziel</source>
+        <translation>w tym przypisane %1, do sprawdzenia %2, bez celu %3</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>Przerwano: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 z %Ln wierszem</numerusform>
+            <numerusform>%1 z %Ln wierszami</numerusform>
+            <numerusform>%1 z %Ln wierszami</numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>MergeState</name>
     <message numerus="yes">
-        <source>%n Änderung(en) übernommen.</source>
+        <source>%Ln Änderung(en) übernommen.</source>
         <translation>
-            <numerusform>Przejęto %n zmianę.</numerusform>
-            <numerusform>Przejęto %n zmiany.</numerusform>
-            <numerusform>Przejęto %n zmian.</numerusform>
+            <numerusform>Przejęto %Ln zmianę.</numerusform>
+            <numerusform>Przejęto %Ln zmiany.</numerusform>
+            <numerusform>Przejęto %Ln zmian.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) haben beide gleich entschieden.</source>
+        <source>%Ln Zeile(n) haben beide gleich entschieden.</source>
         <translation>
-            <numerusform>%n wiersz obie strony rozstrzygnęły tak samo.</numerusform>
-            <numerusform>%n wiersze obie strony rozstrzygnęły tak samo.</numerusform>
-            <numerusform>%n wierszy obie strony rozstrzygnęły tak samo.</numerusform>
+            <numerusform>%Ln wiersz obie strony rozstrzygnęły tak samo.</numerusform>
+            <numerusform>%Ln wiersze obie strony rozstrzygnęły tak samo.</numerusform>
+            <numerusform>%Ln wierszy obie strony rozstrzygnęły tak samo.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
+        <source>%Ln Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
         <translation>
-            <numerusform>%n wiersz rozstrzygnięto różnie i oznaczono jako konflikt.</numerusform>
-            <numerusform>%n wiersze rozstrzygnięto różnie i oznaczono jako konflikt.</numerusform>
-            <numerusform>%n wierszy rozstrzygnięto różnie i oznaczono jako konflikt.</numerusform>
+            <numerusform>%Ln wiersz rozstrzygnięto różnie i oznaczono jako konflikt.</numerusform>
+            <numerusform>%Ln wiersze rozstrzygnięto różnie i oznaczono jako konflikt.</numerusform>
+            <numerusform>%Ln wierszy rozstrzygnięto różnie i oznaczono jako konflikt.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
+        <source>%Ln andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
         <translation>
-            <numerusform>%n inna sprzeczność: obowiązuje wersja z pliku.</numerusform>
-            <numerusform>%n inne sprzeczności: obowiązuje wersja z pliku.</numerusform>
-            <numerusform>%n innych sprzeczności: obowiązuje wersja z pliku.</numerusform>
+            <numerusform>%Ln inna sprzeczność: obowiązuje wersja z pliku.</numerusform>
+            <numerusform>%Ln inne sprzeczności: obowiązuje wersja z pliku.</numerusform>
+            <numerusform>%Ln innych sprzeczności: obowiązuje wersja z pliku.</numerusform>
         </translation>
     </message>
 </context>
@@ -2235,19 +2284,19 @@ Wybierz inny plik.</translation>
         <translation>Tabele są porównywane</translation>
     </message>
     <message numerus="yes">
-        <source>%n zugeordnete Zeile(n) angesehen</source>
+        <source>%Ln zugeordnete Zeile(n) angesehen</source>
         <translation>
-            <numerusform>Obejrzano %n przypisany wiersz</numerusform>
-            <numerusform>Obejrzano %n przypisane wiersze</numerusform>
-            <numerusform>Obejrzano %n przypisanych wierszy</numerusform>
+            <numerusform>Obejrzano %Ln przypisany wiersz</numerusform>
+            <numerusform>Obejrzano %Ln przypisane wiersze</numerusform>
+            <numerusform>Obejrzano %Ln przypisanych wierszy</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Fundstelle(n)</source>
+        <source>%Ln Fundstelle(n)</source>
         <translation>
-            <numerusform>%n znalezisko</numerusform>
-            <numerusform>%n znaleziska</numerusform>
-            <numerusform>%n znalezisk</numerusform>
+            <numerusform>%Ln znalezisko</numerusform>
+            <numerusform>%Ln znaleziska</numerusform>
+            <numerusform>%Ln znalezisk</numerusform>
         </translation>
     </message>
     <message>
@@ -2472,48 +2521,44 @@ Wybierz inny plik.</translation>
 </context>
 <context>
     <name>PatternDock</name>
-    <message>
-        <source>Die Tabellen werden verglichen: %1 Projekte gelesen</source>
-        <translation>Tabele są porównywane: odczytane projekty: %1</translation>
-    </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) mit Vorschlag</source>
+        <source>%Ln offene Zeile(n) mit Vorschlag</source>
         <translation>
-            <numerusform>%n otwarty wiersz z propozycją</numerusform>
-            <numerusform>%n otwarte wiersze z propozycją</numerusform>
-            <numerusform>%n otwartych wierszy z propozycją</numerusform>
+            <numerusform>%Ln otwarty wiersz z propozycją</numerusform>
+            <numerusform>%Ln otwarte wiersze z propozycją</numerusform>
+            <numerusform>%Ln otwartych wierszy z propozycją</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Muster(n)</source>
+        <source>in %Ln Muster(n)</source>
         <translation>
-            <numerusform>w %n wzorcu</numerusform>
-            <numerusform>w %n wzorcach</numerusform>
-            <numerusform>w %n wzorcach</numerusform>
+            <numerusform>w %Ln wzorcu</numerusform>
+            <numerusform>w %Ln wzorcach</numerusform>
+            <numerusform>w %Ln wzorcach</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon wird/werden noch verglichen</source>
+        <source>%Ln davon wird/werden noch verglichen</source>
         <translation>
-            <numerusform>%n z nich jest jeszcze porównywany</numerusform>
-            <numerusform>%n z nich są jeszcze porównywane</numerusform>
-            <numerusform>%n z nich jest jeszcze porównywanych</numerusform>
+            <numerusform>%Ln z nich jest jeszcze porównywany</numerusform>
+            <numerusform>%Ln z nich są jeszcze porównywane</numerusform>
+            <numerusform>%Ln z nich jest jeszcze porównywanych</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Gewählt: %n Zeile(n)</source>
+        <source>Gewählt: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>Wybrano: %n wiersz</numerusform>
-            <numerusform>Wybrano: %n wiersze</numerusform>
-            <numerusform>Wybrano: %n wierszy</numerusform>
+            <numerusform>Wybrano: %Ln wiersz</numerusform>
+            <numerusform>Wybrano: %Ln wiersze</numerusform>
+            <numerusform>Wybrano: %Ln wierszy</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon herausgenommen</source>
+        <source>%Ln davon herausgenommen</source>
         <translation>
-            <numerusform>%n z nich wyjęto</numerusform>
-            <numerusform>%n z nich wyjęto</numerusform>
-            <numerusform>%n z nich wyjęto</numerusform>
+            <numerusform>%Ln z nich wyjęto</numerusform>
+            <numerusform>%Ln z nich wyjęto</numerusform>
+            <numerusform>%Ln z nich wyjęto</numerusform>
         </translation>
     </message>
     <message>
@@ -2521,46 +2566,54 @@ Wybierz inny plik.</translation>
         <translation>Różnice otwartych wierszy</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>w %n projekcie</numerusform>
-            <numerusform>w %n projektach</numerusform>
-            <numerusform>w %n projektach</numerusform>
+            <numerusform>w %Ln projekcie</numerusform>
+            <numerusform>w %Ln projektach</numerusform>
+            <numerusform>w %Ln projektach</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <source>%Ln offene Zeile(n) ohne Nachfolger</source>
         <translation>
-            <numerusform>%n otwarty wiersz bez następcy</numerusform>
-            <numerusform>%n otwarte wiersze bez następcy</numerusform>
-            <numerusform>%n otwartych wierszy bez następcy</numerusform>
+            <numerusform>%Ln otwarty wiersz bez następcy</numerusform>
+            <numerusform>%Ln otwarte wiersze bez następcy</numerusform>
+            <numerusform>%Ln otwartych wierszy bez następcy</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Die Tabellen werden verglichen: %Ln Projekt(e) gelesen</source>
+        <translation>
+            <numerusform>Tabele są porównywane: odczytano %Ln projekt</numerusform>
+            <numerusform>Tabele są porównywane: odczytano %Ln projekty</numerusform>
+            <numerusform>Tabele są porównywane: odczytano %Ln projektów</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>PatternModel</name>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n wiersz</numerusform>
-            <numerusform>%n wiersze</numerusform>
-            <numerusform>%n wierszy</numerusform>
+            <numerusform>%Ln wiersz</numerusform>
+            <numerusform>%Ln wiersze</numerusform>
+            <numerusform>%Ln wierszy</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Projekt(e)</source>
+        <source>%Ln Projekt(e)</source>
         <translation>
-            <numerusform>%n projekt</numerusform>
-            <numerusform>%n projekty</numerusform>
-            <numerusform>%n projektów</numerusform>
+            <numerusform>%Ln projekt</numerusform>
+            <numerusform>%Ln projekty</numerusform>
+            <numerusform>%Ln projektów</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) haben diese und andere Unterschiede</source>
+        <source>%Ln weitere Zeile(n) haben diese und andere Unterschiede</source>
         <translation>
-            <numerusform>Jeszcze %n wiersz ma te i inne różnice</numerusform>
-            <numerusform>Jeszcze %n wiersze mają te i inne różnice</numerusform>
-            <numerusform>Jeszcze %n wierszy ma te i inne różnice</numerusform>
+            <numerusform>Jeszcze %Ln wiersz ma te i inne różnice</numerusform>
+            <numerusform>Jeszcze %Ln wiersze mają te i inne różnice</numerusform>
+            <numerusform>Jeszcze %Ln wierszy ma te i inne różnice</numerusform>
         </translation>
     </message>
     <message>
@@ -2787,11 +2840,11 @@ Wiersz: %2
         <translation>Wiersz %1: %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
+        <source>%Ln Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
         <translation>
-            <numerusform>%n wiersz jest potwierdzony, choć wartości jego zakresu nie mają nowego wiersza.</numerusform>
-            <numerusform>%n wiersze są potwierdzone, choć wartości ich zakresów nie mają nowego wiersza.</numerusform>
-            <numerusform>%n wierszy jest potwierdzonych, choć wartości ich zakresów nie mają nowego wiersza.</numerusform>
+            <numerusform>%Ln wiersz jest potwierdzony, choć wartości jego zakresu nie mają nowego wiersza.</numerusform>
+            <numerusform>%Ln wiersze są potwierdzone, choć wartości ich zakresów nie mają nowego wiersza.</numerusform>
+            <numerusform>%Ln wierszy jest potwierdzonych, choć wartości ich zakresów nie mają nowego wiersza.</numerusform>
         </translation>
     </message>
     <message>
@@ -2806,20 +2859,16 @@ Wiersz: %2
 <context>
     <name>RangeDock</name>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n wiersz</numerusform>
-            <numerusform>%1: %n wiersze</numerusform>
-            <numerusform>%1: %n wierszy</numerusform>
+            <numerusform>%1: %Ln wiersz</numerusform>
+            <numerusform>%1: %Ln wiersze</numerusform>
+            <numerusform>%1: %Ln wierszy</numerusform>
         </translation>
     </message>
     <message>
         <source>Die Zeile hat keine Wertebereichszuordnung.</source>
         <translation>Wiersz nie ma przypisania zakresów wartości.</translation>
-    </message>
-    <message>
-        <source>%1: %2 von %3 Werten zugeordnet</source>
-        <translation>%1: przypisane wartości: %2 z %3</translation>
     </message>
     <message>
         <source>fehlend: %1</source>
@@ -2836,6 +2885,14 @@ Wiersz: %2
     <message>
         <source>Wertebereich der Zeile</source>
         <translation>Zakres wartości wiersza</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 von %Ln Wert(en) zugeordnet</source>
+        <translation>
+            <numerusform>%1: przypisane wartości: %2 z %Ln</numerusform>
+            <numerusform>%1: przypisane wartości: %2 z %Ln</numerusform>
+            <numerusform>%1: przypisane wartości: %2 z %Ln</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2878,10 +2935,6 @@ Wiersz: %2
     <message>
         <source>Wiederherstellung</source>
         <translation>Odzyskiwanie</translation>
-    </message>
-    <message>
-        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2 Schritte mit %3 Zeilen in %4 Projekten, zuletzt „%5“. Sie stammt von %6.</source>
-        <translation>Dla %1 istnieje praca, która nie została zapisana: kroki: %2, wiersze: %3, projekty: %4, ostatnio „%5”. Pochodzi od %6.</translation>
     </message>
     <message>
         <source>Gespeichert</source>
@@ -2931,16 +2984,40 @@ Wiersz: %2
         <source>&amp;Gespeicherten Stand öffnen</source>
         <translation>&amp;Otwórz zapisaną wersję</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln Schritt(e)</source>
+        <translation>
+            <numerusform>%Ln krok</numerusform>
+            <numerusform>%Ln kroki</numerusform>
+            <numerusform>%Ln kroków</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2, zuletzt „%3“. Sie stammt von %4.</source>
+        <translation>Dla %1 istnieje praca, która nie została zapisana: %2, ostatnio „%3”. Pochodzi od %4.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 z %Ln wierszem</numerusform>
+            <numerusform>%1 z %Ln wierszami</numerusform>
+            <numerusform>%1 z %Ln wierszami</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 w %Ln projekcie</numerusform>
+            <numerusform>%1 w %Ln projektach</numerusform>
+            <numerusform>%1 w %Ln projektach</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ReleaseCommands</name>
     <message>
         <source>Tabellen werden importiert</source>
         <translation>Importowanie tabel</translation>
-    </message>
-    <message>
-        <source>%1 Tabellen mit %2 Zeilen: %3 neu, %4 geändert, %5 unverändert, %6 nicht importiert</source>
-        <translation>Tabele: %1, wiersze: %2; nowe %3, zmienione %4, niezmienione %5, niezaimportowane %6</translation>
     </message>
     <message>
         <source>%1 hat keine CSV-Datei mehr und bleibt, wie es ist</source>
@@ -2979,10 +3056,6 @@ Wiersz: %2
         <translation>Przerwano, nic nie wyeksportowano</translation>
     </message>
     <message>
-        <source>%1 Zeilen nach %2 exportiert</source>
-        <translation>Wyeksportowano wiersze (%1) do %2</translation>
-    </message>
-    <message>
         <source>Bericht schreiben</source>
         <translation>Zapisz raport</translation>
     </message>
@@ -3013,6 +3086,34 @@ Wiersz: %2
     <message>
         <source>Seite %1 von %2</source>
         <translation>Strona %1 z %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Tabelle(n)</source>
+        <translation>
+            <numerusform>%Ln tabela</numerusform>
+            <numerusform>%Ln tabele</numerusform>
+            <numerusform>%Ln tabel</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 neu, %2 geändert, %3 unverändert, %4 nicht importiert</source>
+        <translation>nowe %1, zmienione %2, niezmienione %3, niezaimportowane %4</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Zeile(n) nach %1 exportiert</source>
+        <translation>
+            <numerusform>Wyeksportowano %Ln wiersz do %1</numerusform>
+            <numerusform>Wyeksportowano %Ln wiersze do %1</numerusform>
+            <numerusform>Wyeksportowano %Ln wierszy do %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 z %Ln wierszem</numerusform>
+            <numerusform>%1 z %Ln wierszami</numerusform>
+            <numerusform>%1 z %Ln wierszami</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3058,19 +3159,19 @@ Wiersz: %2
         <translation>Odczyt tabel</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dafür</source>
+        <source>%Ln Zeile(n) dafür</source>
         <translation>
-            <numerusform>%n wiersz za</numerusform>
-            <numerusform>%n wiersze za</numerusform>
-            <numerusform>%n wierszy za</numerusform>
+            <numerusform>%Ln wiersz za</numerusform>
+            <numerusform>%Ln wiersze za</numerusform>
+            <numerusform>%Ln wierszy za</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dagegen</source>
+        <source>%Ln Zeile(n) dagegen</source>
         <translation>
-            <numerusform>%n wiersz przeciw</numerusform>
-            <numerusform>%n wiersze przeciw</numerusform>
-            <numerusform>%n wierszy przeciw</numerusform>
+            <numerusform>%Ln wiersz przeciw</numerusform>
+            <numerusform>%Ln wiersze przeciw</numerusform>
+            <numerusform>%Ln wierszy przeciw</numerusform>
         </translation>
     </message>
 </context>
@@ -3087,10 +3188,6 @@ Wiersz: %2
     <message>
         <source>Erstellt am %1</source>
         <translation>Utworzono %1</translation>
-    </message>
-    <message>
-        <source>Erledigt: %1 von %2 Zeilen; offen: %3.</source>
-        <translation>Załatwione: %1 z %2 wierszy; otwarte: %3.</translation>
     </message>
     <message>
         <source>Stand der Zeilen</source>
@@ -3316,6 +3413,10 @@ Wiersz: %2
         <source>Beurteilte Zeilen</source>
         <translation>Ocenione wiersze</translation>
     </message>
+    <message>
+        <source>Erledigte Zeilen: %1 von %2; offen: %3.</source>
+        <translation>Załatwione wiersze: %1 z %2; otwarte: %3.</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3394,11 +3495,11 @@ Wiersz: %2
         <translation>Tabele nie są jeszcze porównane</translation>
     </message>
     <message numerus="yes">
-        <source>Von vorn: %n Zeile(n) offen</source>
+        <source>Von vorn: %Ln Zeile(n) offen</source>
         <translation>
-            <numerusform>Od początku: %n otwarty wiersz</numerusform>
-            <numerusform>Od początku: %n otwarte wiersze</numerusform>
-            <numerusform>Od początku: %n otwartych wierszy</numerusform>
+            <numerusform>Od początku: %Ln otwarty wiersz</numerusform>
+            <numerusform>Od początku: %Ln otwarte wiersze</numerusform>
+            <numerusform>Od początku: %Ln otwartych wierszy</numerusform>
         </translation>
     </message>
     <message>
@@ -3422,19 +3523,19 @@ Wiersz: %2
         <translation>Nie wybrano wzorca albo wszystkie jego wiersze są rozstrzygnięte</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n wiersz</numerusform>
-            <numerusform>%n wiersze</numerusform>
-            <numerusform>%n wierszy</numerusform>
+            <numerusform>%Ln wiersz</numerusform>
+            <numerusform>%Ln wiersze</numerusform>
+            <numerusform>%Ln wierszy</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en) bestätigen?</source>
+        <source>in %Ln Projekt(en) bestätigen?</source>
         <translation>
-            <numerusform>potwierdzić w %n projekcie?</numerusform>
-            <numerusform>potwierdzić w %n projektach?</numerusform>
-            <numerusform>potwierdzić w %n projektach?</numerusform>
+            <numerusform>potwierdzić w %Ln projekcie?</numerusform>
+            <numerusform>potwierdzić w %Ln projektach?</numerusform>
+            <numerusform>potwierdzić w %Ln projektach?</numerusform>
         </translation>
     </message>
     <message>
@@ -3446,11 +3547,11 @@ Wiersz: %2
         <translation>&amp;Potwierdź</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>Potwierdzono %n wiersz</numerusform>
-            <numerusform>Potwierdzono %n wiersze</numerusform>
-            <numerusform>Potwierdzono %n wierszy</numerusform>
+            <numerusform>Potwierdzono %Ln wiersz</numerusform>
+            <numerusform>Potwierdzono %Ln wiersze</numerusform>
+            <numerusform>Potwierdzono %Ln wierszy</numerusform>
         </translation>
     </message>
     <message>
@@ -3472,10 +3573,6 @@ Wiersz: %2
     <message>
         <source>Stichprobe</source>
         <translation>Próba losowa</translation>
-    </message>
-    <message>
-        <source>So viele von %1 Zeilen werden gezogen und einzeln beurteilt. %2 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %3 richtige weniger als 1 %.</source>
-        <translation>Tyle wierszy z %1 zostanie wylosowanych i ocenionych pojedynczo. %2 poprawnych mówi z pewnością 95 %, że mniej niż 5 % jest błędnych, %3 poprawnych – mniej niż 1 %.</translation>
     </message>
     <message>
         <source>&amp;Ziehen</source>
@@ -3534,11 +3631,11 @@ Wiersz: %2
         <translation>&amp;Obejrzyj błędny wiersz</translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind unsicher.</source>
+        <source>%Ln davon ist/sind unsicher.</source>
         <translation>
-            <numerusform>%n z nich jest niepewny.</numerusform>
-            <numerusform>%n z nich są niepewne.</numerusform>
-            <numerusform>%n z nich jest niepewnych.</numerusform>
+            <numerusform>%Ln z nich jest niepewny.</numerusform>
+            <numerusform>%Ln z nich są niepewne.</numerusform>
+            <numerusform>%Ln z nich jest niepewnych.</numerusform>
         </translation>
     </message>
     <message>
@@ -3546,24 +3643,32 @@ Wiersz: %2
         <translation>Wszystkie wzorce są załatwione</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>w %n projekcie</numerusform>
-            <numerusform>w %n projektach</numerusform>
-            <numerusform>w %n projektach</numerusform>
+            <numerusform>w %Ln projekcie</numerusform>
+            <numerusform>w %Ln projektach</numerusform>
+            <numerusform>w %Ln projektach</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>potwierdzono %n wiersz jako wycofany</numerusform>
-            <numerusform>potwierdzono %n wiersze jako wycofane</numerusform>
-            <numerusform>potwierdzono %n wierszy jako wycofane</numerusform>
+            <numerusform>potwierdzono %Ln wiersz jako wycofany</numerusform>
+            <numerusform>potwierdzono %Ln wiersze jako wycofane</numerusform>
+            <numerusform>potwierdzono %Ln wierszy jako wycofane</numerusform>
         </translation>
     </message>
     <message>
         <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
         <translation>Wiersz %1 w %2 jest błędny. Zbiór podzielono; z którą częścią kontynuować?</translation>
+    </message>
+    <message numerus="yes">
+        <source>So viele von %Ln Zeile(n) werden gezogen und einzeln beurteilt. %1 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %2 richtige weniger als 1 %.</source>
+        <translation>
+            <numerusform>Tyle z %Ln wiersza zostanie wylosowanych i ocenionych pojedynczo. %1 poprawnych mówi z pewnością 95 %, że mniej niż 5 % jest błędnych, %2 poprawnych – mniej niż 1 %.</numerusform>
+            <numerusform>Tyle z %Ln wierszy zostanie wylosowanych i ocenionych pojedynczo. %1 poprawnych mówi z pewnością 95 %, że mniej niż 5 % jest błędnych, %2 poprawnych – mniej niż 1 %.</numerusform>
+            <numerusform>Tyle z %Ln wierszy zostanie wylosowanych i ocenionych pojedynczo. %1 poprawnych mówi z pewnością 95 %, że mniej niż 5 % jest błędnych, %2 poprawnych – mniej niż 1 %.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3721,16 +3826,24 @@ Wiersz: %2
         <translation>Za ostatnią zakończoną sesją dziennik %1 jest nieczytelny. Nie wiadomo, co tam było; dziennik zostaje zachowany.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passen noch %2 Änderungen, %3 passen nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
-        <translation>Dziennik %1 jest uszkodzony. Za uszkodzeniem zmiany, które jeszcze pasują: %2, które już nie pasują: %3; może brakować dalszych. Dziennik zostaje zachowany.</translation>
-    </message>
-    <message>
         <source>Das Ende des Journals %1 ist nicht lesbar. Die letzte Änderung kann fehlen.</source>
         <translation>Koniec dziennika %1 jest nieczytelny. Może brakować ostatniej zmiany.</translation>
     </message>
-    <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
-        <translation>Dziennik %1 jest uszkodzony lub nie pasuje do pliku mapowania. Brakuje co najmniej późniejszych zmian: %2; dziennik zostaje zachowany.</translation>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passt/passen noch %Ln Änderung(en), %2 nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>Dziennik %1 jest uszkodzony. Za uszkodzeniem pasuje jeszcze %Ln zmiana, nie pasuje już: %2; może brakować dalszych. Dziennik zostaje zachowany.</numerusform>
+            <numerusform>Dziennik %1 jest uszkodzony. Za uszkodzeniem pasują jeszcze %Ln zmiany, nie pasuje już: %2; może brakować dalszych. Dziennik zostaje zachowany.</numerusform>
+            <numerusform>Dziennik %1 jest uszkodzony. Za uszkodzeniem pasuje jeszcze %Ln zmian, nie pasuje już: %2; może brakować dalszych. Dziennik zostaje zachowany.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %Ln spätere Änderung(en) fehlt/fehlen; das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>Dziennik %1 jest uszkodzony lub nie pasuje do pliku mapowania. Brakuje co najmniej %Ln późniejszej zmiany; dziennik zostaje zachowany.</numerusform>
+            <numerusform>Dziennik %1 jest uszkodzony lub nie pasuje do pliku mapowania. Brakuje co najmniej %Ln późniejszych zmian; dziennik zostaje zachowany.</numerusform>
+            <numerusform>Dziennik %1 jest uszkodzony lub nie pasuje do pliku mapowania. Brakuje co najmniej %Ln późniejszych zmian; dziennik zostaje zachowany.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3982,11 +4095,6 @@ Wiersz: %2
         <translation>Wszystko rozstrzygnięte</translation>
     </message>
     <message>
-        <source>Offen: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Otwarte: &lt;a href=&quot;next&quot;&gt;wiersze: %1&lt;/a&gt;, projekty: %2</translation>
-    </message>
-    <message>
         <source>Zeilen, die noch eine Entscheidung brauchen</source>
         <translation>Wiersze, które jeszcze wymagają decyzji</translation>
     </message>
@@ -3999,13 +4107,33 @@ Wiersz: %2
         <translation>Filtr: brak wierszy</translation>
     </message>
     <message>
-        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Filtr: &lt;a href=&quot;next&quot;&gt;%1 wierszy&lt;/a&gt; w %2 projektach</translation>
-    </message>
-    <message>
         <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
         <translation>Wiersze pokazywane przez filtr wszystkich wierszy</translation>
+    </message>
+    <message numerus="yes">
+        <source>&lt;a href=&quot;next&quot;&gt;%Ln Zeile(n)&lt;/a&gt;</source>
+        <translation>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln wiersz&lt;/a&gt;</numerusform>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln wiersze&lt;/a&gt;</numerusform>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln wierszy&lt;/a&gt;</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Offen: %1</source>
+        <translation>Otwarte: %1</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>Filtr: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <extracomment>&quot;12 lines in 3 projects&quot;</extracomment>
+        <translation>
+            <numerusform>%1 w %Ln projekcie</numerusform>
+            <numerusform>%1 w %Ln projektach</numerusform>
+            <numerusform>%1 w %Ln projektach</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -4054,11 +4182,11 @@ Wiersz: %2
         <translation>Za&amp;mknij</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <source>Mit %Ln abhängigen &amp;zurücknehmen</source>
         <translation>
-            <numerusform>&amp;Cofnij z zależnymi (%n)</numerusform>
-            <numerusform>&amp;Cofnij z zależnymi (%n)</numerusform>
-            <numerusform>&amp;Cofnij z zależnymi (%n)</numerusform>
+            <numerusform>&amp;Cofnij z zależnymi (%Ln)</numerusform>
+            <numerusform>&amp;Cofnij z zależnymi (%Ln)</numerusform>
+            <numerusform>&amp;Cofnij z zależnymi (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -4066,11 +4194,11 @@ Wiersz: %2
         <translation>&amp;Cofnij tylko ten</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <source>Mit %Ln früheren &amp;wieder ausführen</source>
         <translation>
-            <numerusform>&amp;Wykonaj ponownie z wcześniejszymi (%n)</numerusform>
-            <numerusform>&amp;Wykonaj ponownie z wcześniejszymi (%n)</numerusform>
-            <numerusform>&amp;Wykonaj ponownie z wcześniejszymi (%n)</numerusform>
+            <numerusform>&amp;Wykonaj ponownie z wcześniejszymi (%Ln)</numerusform>
+            <numerusform>&amp;Wykonaj ponownie z wcześniejszymi (%Ln)</numerusform>
+            <numerusform>&amp;Wykonaj ponownie z wcześniejszymi (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -4106,22 +4234,22 @@ Wiersz: %2
         <translation>Jest tam teraz coś innego, o czym nie zdecydował żaden krok tej listy, na przykład z innego programu. Kroku nie można już przesunąć.</translation>
     </message>
     <message numerus="yes">
-        <source>und %n weitere</source>
+        <source>und %Ln weitere</source>
         <translation>
-            <numerusform>i jeszcze %n</numerusform>
-            <numerusform>i jeszcze %n</numerusform>
-            <numerusform>i jeszcze %n</numerusform>
+            <numerusform>i jeszcze %Ln</numerusform>
+            <numerusform>i jeszcze %Ln</numerusform>
+            <numerusform>i jeszcze %Ln</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepListModel</name>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1 w %n projekcie</numerusform>
-            <numerusform>%1 w %n projektach</numerusform>
-            <numerusform>%1 w %n projektach</numerusform>
+            <numerusform>%1 w %Ln projekcie</numerusform>
+            <numerusform>%1 w %Ln projektach</numerusform>
+            <numerusform>%1 w %Ln projektach</numerusform>
         </translation>
     </message>
     <message>
@@ -4164,11 +4292,11 @@ Wiersz: %2
         <translation>Zmiana w %1 zadziała dopiero po ponownym przypisaniu wierszy. Zachowane zostanie wtedy tylko to, co potwierdzone.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
+        <source>%Ln Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
         <translation>
-            <numerusform>%n wiersz w %1 był potwierdzony jako wycofany i już nie jest: %2</numerusform>
-            <numerusform>%n wiersze w %1 były potwierdzone jako wycofane i już nie są: %2</numerusform>
-            <numerusform>%n wierszy w %1 było potwierdzonych jako wycofane i już nie jest: %2</numerusform>
+            <numerusform>%Ln wiersz w %1 był potwierdzony jako wycofany i już nie jest: %2</numerusform>
+            <numerusform>%Ln wiersze w %1 były potwierdzone jako wycofane i już nie są: %2</numerusform>
+            <numerusform>%Ln wierszy w %1 było potwierdzonych jako wycofane i już nie jest: %2</numerusform>
         </translation>
     </message>
     <message>
@@ -4184,86 +4312,86 @@ Wiersz: %2
         <translation>Odpadło mapowanie zmiennych projektu docelowego %1 w %2.</translation>
     </message>
     <message numerus="yes">
-        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %n andere Zeile(n): %4</source>
+        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %Ln andere Zeile(n): %4</source>
         <translation>
-            <numerusform>Wiersz %1 → %2 w %3: wiersz docelowy ma też %n inny wiersz: %4</numerusform>
-            <numerusform>Wiersz %1 → %2 w %3: wiersz docelowy mają też %n inne wiersze: %4</numerusform>
-            <numerusform>Wiersz %1 → %2 w %3: wiersz docelowy ma też %n innych wierszy: %4</numerusform>
+            <numerusform>Wiersz %1 → %2 w %3: wiersz docelowy ma też %Ln inny wiersz: %4</numerusform>
+            <numerusform>Wiersz %1 → %2 w %3: wiersz docelowy mają też %Ln inne wiersze: %4</numerusform>
+            <numerusform>Wiersz %1 → %2 w %3: wiersz docelowy ma też %Ln innych wierszy: %4</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
+        <source>%Ln Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
         <translation>
-            <numerusform>%n wiersz w %1 dzieli swój wiersz docelowy z nowo przypisanymi: %2</numerusform>
-            <numerusform>%n wiersze w %1 dzielą swój wiersz docelowy z nowo przypisanymi: %2</numerusform>
-            <numerusform>%n wierszy w %1 dzieli swój wiersz docelowy z nowo przypisanymi: %2</numerusform>
+            <numerusform>%Ln wiersz w %1 dzieli swój wiersz docelowy z nowo przypisanymi: %2</numerusform>
+            <numerusform>%Ln wiersze w %1 dzielą swój wiersz docelowy z nowo przypisanymi: %2</numerusform>
+            <numerusform>%Ln wierszy w %1 dzieli swój wiersz docelowy z nowo przypisanymi: %2</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepSummary</name>
     <message numerus="yes">
-        <source>%n Konflikt(e) angenommen</source>
+        <source>%Ln Konflikt(e) angenommen</source>
         <translation>
-            <numerusform>przyjęto %n konflikt</numerusform>
-            <numerusform>przyjęto %n konflikty</numerusform>
-            <numerusform>przyjęto %n konfliktów</numerusform>
+            <numerusform>przyjęto %Ln konflikt</numerusform>
+            <numerusform>przyjęto %Ln konflikty</numerusform>
+            <numerusform>przyjęto %Ln konfliktów</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>Potwierdzono %n wiersz</numerusform>
-            <numerusform>Potwierdzono %n wiersze</numerusform>
-            <numerusform>Potwierdzono %n wierszy</numerusform>
+            <numerusform>Potwierdzono %Ln wiersz</numerusform>
+            <numerusform>Potwierdzono %Ln wiersze</numerusform>
+            <numerusform>Potwierdzono %Ln wierszy</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>potwierdzono %n wiersz jako wycofany</numerusform>
-            <numerusform>potwierdzono %n wiersze jako wycofane</numerusform>
-            <numerusform>potwierdzono %n wierszy jako wycofane</numerusform>
+            <numerusform>potwierdzono %Ln wiersz jako wycofany</numerusform>
+            <numerusform>potwierdzono %Ln wiersze jako wycofane</numerusform>
+            <numerusform>potwierdzono %Ln wierszy jako wycofane</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) zugeordnet</source>
+        <source>%Ln Zeile(n) zugeordnet</source>
         <translation>
-            <numerusform>przypisano %n wiersz</numerusform>
-            <numerusform>przypisano %n wiersze</numerusform>
-            <numerusform>przypisano %n wierszy</numerusform>
+            <numerusform>przypisano %Ln wiersz</numerusform>
+            <numerusform>przypisano %Ln wiersze</numerusform>
+            <numerusform>przypisano %Ln wierszy</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben</source>
         <translation>
-            <numerusform>usunięto przypisanie %n wiersza</numerusform>
-            <numerusform>usunięto przypisanie %n wierszy</numerusform>
-            <numerusform>usunięto przypisanie %n wierszy</numerusform>
+            <numerusform>usunięto przypisanie %Ln wiersza</numerusform>
+            <numerusform>usunięto przypisanie %Ln wierszy</numerusform>
+            <numerusform>usunięto przypisanie %Ln wierszy</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Wertebereichszuordnung von %n Zeile(n) geändert</source>
+        <source>Wertebereichszuordnung von %Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>zmieniono przypisanie zakresów wartości %n wiersza</numerusform>
-            <numerusform>zmieniono przypisanie zakresów wartości %n wierszy</numerusform>
-            <numerusform>zmieniono przypisanie zakresów wartości %n wierszy</numerusform>
+            <numerusform>zmieniono przypisanie zakresów wartości %Ln wiersza</numerusform>
+            <numerusform>zmieniono przypisanie zakresów wartości %Ln wierszy</numerusform>
+            <numerusform>zmieniono przypisanie zakresów wartości %Ln wierszy</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Konflikt von %n Zeile(n) gelöst</source>
+        <source>Konflikt von %Ln Zeile(n) gelöst</source>
         <translation>
-            <numerusform>rozwiązano konflikt %n wiersza</numerusform>
-            <numerusform>rozwiązano konflikt %n wierszy</numerusform>
-            <numerusform>rozwiązano konflikt %n wierszy</numerusform>
+            <numerusform>rozwiązano konflikt %Ln wiersza</numerusform>
+            <numerusform>rozwiązano konflikt %Ln wierszy</numerusform>
+            <numerusform>rozwiązano konflikt %Ln wierszy</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) geändert</source>
+        <source>%Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>zmieniono %n wiersz</numerusform>
-            <numerusform>zmieniono %n wiersze</numerusform>
-            <numerusform>zmieniono %n wierszy</numerusform>
+            <numerusform>zmieniono %Ln wiersz</numerusform>
+            <numerusform>zmieniono %Ln wiersze</numerusform>
+            <numerusform>zmieniono %Ln wierszy</numerusform>
         </translation>
     </message>
     <message>
@@ -4331,11 +4459,11 @@ Wiersz: %2
         <translation>%1 w %2</translation>
     </message>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1 w %n projekcie</numerusform>
-            <numerusform>%1 w %n projektach</numerusform>
-            <numerusform>%1 w %n projektach</numerusform>
+            <numerusform>%1 w %Ln projekcie</numerusform>
+            <numerusform>%1 w %Ln projektach</numerusform>
+            <numerusform>%1 w %Ln projektach</numerusform>
         </translation>
     </message>
 </context>
@@ -4381,11 +4509,11 @@ Wiersz: %2
         <translation>Sprawdzanie przypisań zakresów wartości</translation>
     </message>
     <message numerus="yes">
-        <source>%n Wertebereichszuordnung(en) geprüft</source>
+        <source>%Ln Wertebereichszuordnung(en) geprüft</source>
         <translation>
-            <numerusform>Sprawdzono %n przypisanie zakresów wartości</numerusform>
-            <numerusform>Sprawdzono %n przypisania zakresów wartości</numerusform>
-            <numerusform>Sprawdzono %n przypisań zakresów wartości</numerusform>
+            <numerusform>Sprawdzono %Ln przypisanie zakresów wartości</numerusform>
+            <numerusform>Sprawdzono %Ln przypisania zakresów wartości</numerusform>
+            <numerusform>Sprawdzono %Ln przypisań zakresów wartości</numerusform>
         </translation>
     </message>
     <message>
@@ -4393,11 +4521,11 @@ Wiersz: %2
         <translation>bez zastrzeżeń</translation>
     </message>
     <message numerus="yes">
-        <source>%n Beanstandung(en)</source>
+        <source>%Ln Beanstandung(en)</source>
         <translation>
-            <numerusform>%n zastrzeżenie</numerusform>
-            <numerusform>%n zastrzeżenia</numerusform>
-            <numerusform>%n zastrzeżeń</numerusform>
+            <numerusform>%Ln zastrzeżenie</numerusform>
+            <numerusform>%Ln zastrzeżenia</numerusform>
+            <numerusform>%Ln zastrzeżeń</numerusform>
         </translation>
     </message>
     <message>

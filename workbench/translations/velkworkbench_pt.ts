@@ -8,101 +8,101 @@
         <translation>Não há nada para alterar.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigen?</source>
+        <source>%Ln Zeile(n) bestätigen?</source>
         <translation>
-            <numerusform>Confirmar %n linha?</numerusform>
-            <numerusform>Confirmar %n linhas?</numerusform>
+            <numerusform>Confirmar %Ln linha?</numerusform>
+            <numerusform>Confirmar %Ln linhas?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigen?</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Confirmar %n linha como descontinuada?</numerusform>
-            <numerusform>Confirmar %n linhas como descontinuadas?</numerusform>
+            <numerusform>Confirmar %Ln linha como descontinuada?</numerusform>
+            <numerusform>Confirmar %Ln linhas como descontinuadas?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben?</source>
         <translation>
-            <numerusform>Remover a atribuição de %n linha?</numerusform>
-            <numerusform>Remover a atribuição de %n linhas?</numerusform>
+            <numerusform>Remover a atribuição de %Ln linha?</numerusform>
+            <numerusform>Remover a atribuição de %Ln linhas?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Remover a atribuição de %n linha e confirmá-la como descontinuada?</numerusform>
-            <numerusform>Remover a atribuição de %n linhas e confirmá-las como descontinuadas?</numerusform>
+            <numerusform>Remover a atribuição de %Ln linha e confirmá-la como descontinuada?</numerusform>
+            <numerusform>Remover a atribuição de %Ln linhas e confirmá-las como descontinuadas?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind schon bestätigt.</source>
+        <source>%Ln davon ist/sind schon bestätigt.</source>
         <translation>
-            <numerusform>%n delas já está confirmada.</numerusform>
-            <numerusform>%n delas já estão confirmadas.</numerusform>
+            <numerusform>%Ln delas já está confirmada.</numerusform>
+            <numerusform>%Ln delas já estão confirmadas.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon verliert/verlieren ihre Wertebereichszuordnung.</source>
+        <source>%Ln davon verliert/verlieren ihre Wertebereichszuordnung.</source>
         <translation>
-            <numerusform>%n delas perde a sua atribuição de intervalos de valores.</numerusform>
-            <numerusform>%n delas perdem a sua atribuição de intervalos de valores.</numerusform>
+            <numerusform>%Ln delas perde a sua atribuição de intervalos de valores.</numerusform>
+            <numerusform>%Ln delas perdem a sua atribuição de intervalos de valores.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
+        <source>%Ln Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
         <translation>
-            <numerusform>%n linha sem destino fica por confirmar.</numerusform>
-            <numerusform>%n linhas sem destino ficam por confirmar.</numerusform>
+            <numerusform>%Ln linha sem destino fica por confirmar.</numerusform>
+            <numerusform>%Ln linhas sem destino ficam por confirmar.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
+        <source>%Ln Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
         <translation>
-            <numerusform>%n linha fica como está.</numerusform>
-            <numerusform>%n linhas ficam como estão.</numerusform>
+            <numerusform>%Ln linha fica como está.</numerusform>
+            <numerusform>%Ln linhas ficam como estão.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
+        <source>%Ln Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
         <translation>
-            <numerusform>%n linha em conflito não é alterada.</numerusform>
-            <numerusform>%n linhas em conflito não são alteradas.</numerusform>
+            <numerusform>%Ln linha em conflito não é alterada.</numerusform>
+            <numerusform>%Ln linhas em conflito não são alteradas.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
+        <source>%Ln Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
         <translation>
-            <numerusform>%n linha não consta de nenhum projeto de destino.</numerusform>
-            <numerusform>%n linhas não constam de nenhum projeto de destino.</numerusform>
+            <numerusform>%Ln linha não consta de nenhum projeto de destino.</numerusform>
+            <numerusform>%Ln linhas não constam de nenhum projeto de destino.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt.</source>
+        <source>%Ln Zeile(n) bestätigt.</source>
         <translation>
-            <numerusform>%n linha confirmada.</numerusform>
-            <numerusform>%n linhas confirmadas.</numerusform>
+            <numerusform>%Ln linha confirmada.</numerusform>
+            <numerusform>%Ln linhas confirmadas.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt.</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>%n linha confirmada como descontinuada.</numerusform>
-            <numerusform>%n linhas confirmadas como descontinuadas.</numerusform>
+            <numerusform>%Ln linha confirmada como descontinuada.</numerusform>
+            <numerusform>%Ln linhas confirmadas como descontinuadas.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben.</source>
         <translation>
-            <numerusform>Atribuição de %n linha removida.</numerusform>
-            <numerusform>Atribuição de %n linhas removida.</numerusform>
+            <numerusform>Atribuição de %Ln linha removida.</numerusform>
+            <numerusform>Atribuição de %Ln linhas removida.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>Atribuição de %n linha removida, confirmada como descontinuada.</numerusform>
-            <numerusform>Atribuição de %n linhas removida, confirmadas como descontinuadas.</numerusform>
+            <numerusform>Atribuição de %Ln linha removida, confirmada como descontinuada.</numerusform>
+            <numerusform>Atribuição de %Ln linhas removida, confirmadas como descontinuadas.</numerusform>
         </translation>
     </message>
 </context>
@@ -160,10 +160,6 @@
         <translation>Não há nada a assumir de %1.</translation>
     </message>
     <message>
-        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
-        <translation>Assumidas de %1: %2 de %3 linhas confirmadas, %4 atribuídas com certeza, %5 propostas.</translation>
-    </message>
-    <message>
         <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
         <translation>O ficheiro não contém nenhum mapeamento da versão do catálogo %1.</translation>
     </message>
@@ -206,6 +202,13 @@
     <message>
         <source>Entscheidungen aus %1 übernommen: %2</source>
         <translation>Decisões assumidas de %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Aus %1 übernommen: %2 von %Ln bestätigten Zeile(n), %3 sicher zugeordnet, %4 vorgeschlagen.</source>
+        <translation>
+            <numerusform>Assumidas de %1: %2 de %Ln linha confirmada, %3 atribuídas com certeza, %4 propostas.</numerusform>
+            <numerusform>Assumidas de %1: %2 de %Ln linhas confirmadas, %3 atribuídas com certeza, %4 propostas.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -270,10 +273,10 @@
         <translation>Conflito %1 de %2, ainda %3 por decidir</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
+        <source>%Ln Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
         <translation>
-            <numerusform>%n linha de %1 contradiz-se do mesmo modo. A decisão vale para todas?</numerusform>
-            <numerusform>%n linhas de %1 contradizem-se do mesmo modo. A decisão vale para todas?</numerusform>
+            <numerusform>%Ln linha de %1 contradiz-se do mesmo modo. A decisão vale para todas?</numerusform>
+            <numerusform>%Ln linhas de %1 contradizem-se do mesmo modo. A decisão vale para todas?</numerusform>
         </translation>
     </message>
     <message>
@@ -309,15 +312,11 @@ Outra: %2</translation>
         <source>Alle Konflikte sind entschieden.</source>
         <translation>Todos os conflitos estão decididos.</translation>
     </message>
-    <message>
-        <source>%1 von %2 Konflikten sind noch offen.</source>
-        <translation>%1 de %2 conflitos ainda estão por decidir.</translation>
-    </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) widersprechen sich wie diese.</source>
+        <source>%Ln weitere Zeile(n) widersprechen sich wie diese.</source>
         <translation>
-            <numerusform>%n outra linha contradiz-se como esta.</numerusform>
-            <numerusform>%n outras linhas contradizem-se como esta.</numerusform>
+            <numerusform>%Ln outra linha contradiz-se como esta.</numerusform>
+            <numerusform>%Ln outras linhas contradizem-se como esta.</numerusform>
         </translation>
     </message>
     <message>
@@ -339,6 +338,13 @@ Outra: %2</translation>
     <message>
         <source>Neu entscheiden</source>
         <translation>Decidir de novo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Konflikt(en) noch offen.</source>
+        <translation>
+            <numerusform>%1 de %Ln conflito ainda por decidir.</numerusform>
+            <numerusform>%1 de %Ln conflitos ainda por decidir.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -457,10 +463,10 @@ Outra: %2</translation>
         <translation>igual</translation>
     </message>
     <message numerus="yes">
-        <source>ersetzt wie in %n weiteren Zeile(n)</source>
+        <source>ersetzt wie in %Ln weiteren Zeile(n)</source>
         <translation>
-            <numerusform>substituído como em mais %n linha</numerusform>
-            <numerusform>substituído como em mais %n linhas</numerusform>
+            <numerusform>substituído como em mais %Ln linha</numerusform>
+            <numerusform>substituído como em mais %Ln linhas</numerusform>
         </translation>
     </message>
     <message>
@@ -523,10 +529,10 @@ Outra: %2</translation>
         <translation>Atribuída com certeza.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n linha</numerusform>
-            <numerusform>%n linhas</numerusform>
+            <numerusform>%Ln linha</numerusform>
+            <numerusform>%Ln linhas</numerusform>
         </translation>
     </message>
     <message>
@@ -609,21 +615,17 @@ Outra: %2</translation>
         <translation>&amp;Rejeitar</translation>
     </message>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n linha</numerusform>
-            <numerusform>%1: %n linhas</numerusform>
+            <numerusform>%1: %Ln linha</numerusform>
+            <numerusform>%1: %Ln linhas</numerusform>
         </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>e mais %1</translation>
-    </message>
     <message numerus="yes">
-        <source>Noch %n Zeile(n) in Konflikt, in diesen Projekten:</source>
+        <source>Noch %Ln Zeile(n) in Konflikt, in diesen Projekten:</source>
         <translation>
-            <numerusform>Ainda %n linha em conflito, nestes projetos:</numerusform>
-            <numerusform>Ainda %n linhas em conflito, nestes projetos:</numerusform>
+            <numerusform>Ainda %Ln linha em conflito, nestes projetos:</numerusform>
+            <numerusform>Ainda %Ln linhas em conflito, nestes projetos:</numerusform>
         </translation>
     </message>
     <message>
@@ -665,6 +667,13 @@ Outra: %2</translation>
     <message>
         <source>Die Mapping-Datei kann nicht angelegt werden.</source>
         <translation>Não é possível criar o ficheiro de mapeamento.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>e mais %Ln</numerusform>
+            <numerusform>e mais %Ln</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -728,6 +737,15 @@ Escolha outro ficheiro.</translation>
     <message>
         <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte einen anderen Ordner wählen.</source>
         <translation>Não é possível criar nada na pasta de %1 (%2). Nada foi escrito. Escolha outra pasta.</translation>
+    </message>
+</context>
+<context>
+    <name>EditorArea</name>
+    <message>
+        <source>Keine Zeile dieses Projekts ist im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Zeilen zu sehen.</source>
+        <translation>Nenhuma linha deste projeto está no filtro.
+Abra «%1» e escolha «%2» para voltar a ver todas as linhas.</translation>
     </message>
 </context>
 <context>
@@ -855,17 +873,17 @@ Escolha outro ficheiro.</translation>
         <translation>A ler as tabelas...</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n linha</numerusform>
-            <numerusform>%n linhas</numerusform>
+            <numerusform>%Ln linha</numerusform>
+            <numerusform>%Ln linhas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>em %n projeto</numerusform>
-            <numerusform>em %n projetos</numerusform>
+            <numerusform>em %Ln projeto</numerusform>
+            <numerusform>em %Ln projetos</numerusform>
         </translation>
     </message>
     <message>
@@ -873,10 +891,10 @@ Escolha outro ficheiro.</translation>
         <translation>Sem filtro: todas as linhas</translation>
     </message>
     <message numerus="yes">
-        <source>%n Tabelle(n) nicht lesbar</source>
+        <source>%Ln Tabelle(n) nicht lesbar</source>
         <translation>
-            <numerusform>Tabelas ilegíveis: %n</numerusform>
-            <numerusform>Tabelas ilegíveis: %n</numerusform>
+            <numerusform>Tabelas ilegíveis: %Ln</numerusform>
+            <numerusform>Tabelas ilegíveis: %Ln</numerusform>
         </translation>
     </message>
     <message>
@@ -1025,10 +1043,10 @@ Escolha outro ficheiro.</translation>
         <translation>Linha %1 em %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1</source>
+        <source>%Ln Zeile(n) in %1</source>
         <translation>
-            <numerusform>%n linha em %1</numerusform>
-            <numerusform>%n linhas em %1</numerusform>
+            <numerusform>%Ln linha em %1</numerusform>
+            <numerusform>%Ln linhas em %1</numerusform>
         </translation>
     </message>
     <message>
@@ -1357,10 +1375,10 @@ Escolha outro ficheiro.</translation>
         <translation>A condição copiada ainda não serve assim: falta um valor, é um intervalo ou contém aspas: %1</translation>
     </message>
     <message numerus="yes">
-        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.</source>
+        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %Ln Zeile(n) offen.</source>
         <translation>
-            <numerusform>Aqui, dentro do filtro, está tudo feito; fora ainda há %n linha em aberto.</numerusform>
-            <numerusform>Aqui, dentro do filtro, está tudo feito; fora ainda há %n linhas em aberto.</numerusform>
+            <numerusform>Aqui, dentro do filtro, está tudo feito; fora ainda há %Ln linha em aberto.</numerusform>
+            <numerusform>Aqui, dentro do filtro, está tudo feito; fora ainda há %Ln linhas em aberto.</numerusform>
         </translation>
     </message>
     <message>
@@ -1428,16 +1446,16 @@ Escolha outro ficheiro.</translation>
         <translation>Trata-se de todas as linhas do projeto.</translation>
     </message>
     <message>
-        <source>Gemeint sind die %1 gezeigten von %2 Zeilen des Projekts.</source>
-        <translation>Trata-se das %1 linhas mostradas das %2 do projeto.</translation>
-    </message>
-    <message>
         <source>Filter: %1.</source>
         <translation>Filtro: %1.</translation>
     </message>
     <message>
         <source>Kein anderes Projekt hat solche Zeilen</source>
         <translation>Nenhum outro projeto tem linhas assim</translation>
+    </message>
+    <message>
+        <source>Gemeint sind nur die gezeigten Zeilen des Projekts: %1 von %2.</source>
+        <translation>Trata-se apenas das linhas mostradas do projeto: %1 de %2.</translation>
     </message>
 </context>
 <context>
@@ -1670,10 +1688,6 @@ Escolha outro ficheiro.</translation>
         <translation>&amp;Fechar</translation>
     </message>
     <message>
-        <source>Die ersten %1 Links; die Suche zeigt andere.</source>
-        <translation>As primeiras %1 ligações; a pesquisa mostra outras.</translation>
-    </message>
-    <message>
         <source>Links: %1</source>
         <translation>Ligações: %1</translation>
     </message>
@@ -1692,6 +1706,13 @@ Escolha outro ficheiro.</translation>
     <message>
         <source>&amp;Wiederherstellen</source>
         <translation>&amp;Repor</translation>
+    </message>
+    <message numerus="yes">
+        <source>Die ersten %Ln Link(s); die Suche zeigt andere.</source>
+        <translation>
+            <numerusform>A primeira ligação (%Ln); a pesquisa mostra outras.</numerusform>
+            <numerusform>As primeiras %Ln ligações; a pesquisa mostra outras.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1814,15 +1835,18 @@ Escolha outro ficheiro.</translation>
         <source>Nichts gefunden</source>
         <translation>Nada encontrado</translation>
     </message>
-    <message>
-        <source>Die ersten %1 von %2 Treffern</source>
-        <translation>Os primeiros %1 de %2 resultados</translation>
+    <message numerus="yes">
+        <source>%Ln Treffer</source>
+        <translation>
+            <numerusform>%Ln resultado</numerusform>
+            <numerusform>%Ln resultados</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
-        <source>%n Treffer</source>
+        <source>Die ersten %1 von %Ln Treffer(n)</source>
         <translation>
-            <numerusform>%n resultado</numerusform>
-            <numerusform>%n resultados</numerusform>
+            <numerusform>Os primeiros %1 de %Ln resultado</numerusform>
+            <numerusform>Os primeiros %1 de %Ln resultados</numerusform>
         </translation>
     </message>
 </context>
@@ -2045,24 +2069,24 @@ Escolha outro ficheiro.</translation>
         <translation>Alterações próprias sobre a versão do ficheiro</translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): eigene Entscheidung</source>
+        <source>%Ln Konflikt(e): eigene Entscheidung</source>
         <translation>
-            <numerusform>%n conflito: decisão própria</numerusform>
-            <numerusform>%n conflitos: decisão própria</numerusform>
+            <numerusform>%Ln conflito: decisão própria</numerusform>
+            <numerusform>%Ln conflitos: decisão própria</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): Entscheidung der anderen Seite</source>
+        <source>%Ln Konflikt(e): Entscheidung der anderen Seite</source>
         <translation>
-            <numerusform>%n conflito: decisão do outro lado</numerusform>
-            <numerusform>%n conflitos: decisão do outro lado</numerusform>
+            <numerusform>%Ln conflito: decisão do outro lado</numerusform>
+            <numerusform>%Ln conflitos: decisão do outro lado</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): neu zu entscheiden</source>
+        <source>%Ln Konflikt(e): neu zu entscheiden</source>
         <translation>
-            <numerusform>%n conflito: a decidir de novo</numerusform>
-            <numerusform>%n conflitos: a decidir de novo</numerusform>
+            <numerusform>%Ln conflito: a decidir de novo</numerusform>
+            <numerusform>%Ln conflitos: a decidir de novo</numerusform>
         </translation>
     </message>
     <message>
@@ -2133,50 +2157,67 @@ Escolha outro ficheiro.</translation>
         <translation>Cancelado, nada foi criado</translation>
     </message>
     <message>
-        <source>%1 Projekte: %2 am selben Ort, %3 an anderem, %4 aufgeteilt, %5 ohne Ziel, %6 unlesbar</source>
-        <translation>%1 projetos: %2 no mesmo lugar, %3 noutro, %4 divididos, %5 sem destino, %6 ilegíveis</translation>
-    </message>
-    <message>
         <source>Zeilen werden zugeordnet</source>
         <translation>A atribuir linhas</translation>
     </message>
-    <message>
-        <source>Abgebrochen: %1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>Cancelado: %1 de %2 projetos com %3 linhas, das quais %4 atribuídas, %5 a verificar, %6 sem destino</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e): %1 am selben Ort, %2 an anderem, %3 aufgeteilt, %4 ohne Ziel, %5 unlesbar</source>
+        <translation>
+            <numerusform>%Ln projeto: %1 no mesmo lugar, %2 noutro, %3 dividido, %4 sem destino, %5 ilegível</numerusform>
+            <numerusform>%Ln projetos: %1 no mesmo lugar, %2 noutro, %3 divididos, %4 sem destino, %5 ilegíveis</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 de %Ln projeto</numerusform>
+            <numerusform>%1 de %Ln projetos</numerusform>
+        </translation>
     </message>
     <message>
-        <source>%1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>%1 de %2 projetos com %3 linhas, das quais %4 atribuídas, %5 a verificar, %6 sem destino</translation>
+        <source>davon %1 zugeordnet, %2 zu prüfen, %3 ohne Ziel</source>
+        <translation>das quais %1 atribuídas, %2 a verificar, %3 sem destino</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>Cancelado: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 com %Ln linha</numerusform>
+            <numerusform>%1 com %Ln linhas</numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>MergeState</name>
     <message numerus="yes">
-        <source>%n Änderung(en) übernommen.</source>
+        <source>%Ln Änderung(en) übernommen.</source>
         <translation>
-            <numerusform>%n alteração integrada.</numerusform>
-            <numerusform>%n alterações integradas.</numerusform>
+            <numerusform>%Ln alteração integrada.</numerusform>
+            <numerusform>%Ln alterações integradas.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) haben beide gleich entschieden.</source>
+        <source>%Ln Zeile(n) haben beide gleich entschieden.</source>
         <translation>
-            <numerusform>%n linha foi decidida da mesma forma por ambos.</numerusform>
-            <numerusform>%n linhas foram decididas da mesma forma por ambos.</numerusform>
+            <numerusform>%Ln linha foi decidida da mesma forma por ambos.</numerusform>
+            <numerusform>%Ln linhas foram decididas da mesma forma por ambos.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
+        <source>%Ln Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
         <translation>
-            <numerusform>%n linha foi decidida de forma diferente e está marcada como conflito.</numerusform>
-            <numerusform>%n linhas foram decididas de forma diferente e estão marcadas como conflito.</numerusform>
+            <numerusform>%Ln linha foi decidida de forma diferente e está marcada como conflito.</numerusform>
+            <numerusform>%Ln linhas foram decididas de forma diferente e estão marcadas como conflito.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
+        <source>%Ln andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
         <translation>
-            <numerusform>%n outra contradição: vale a versão do ficheiro.</numerusform>
-            <numerusform>%n outras contradições: vale a versão do ficheiro.</numerusform>
+            <numerusform>%Ln outra contradição: vale a versão do ficheiro.</numerusform>
+            <numerusform>%Ln outras contradições: vale a versão do ficheiro.</numerusform>
         </translation>
     </message>
 </context>
@@ -2202,17 +2243,17 @@ Escolha outro ficheiro.</translation>
         <translation>As tabelas estão a ser comparadas</translation>
     </message>
     <message numerus="yes">
-        <source>%n zugeordnete Zeile(n) angesehen</source>
+        <source>%Ln zugeordnete Zeile(n) angesehen</source>
         <translation>
-            <numerusform>%n linha atribuída examinada</numerusform>
-            <numerusform>%n linhas atribuídas examinadas</numerusform>
+            <numerusform>%Ln linha atribuída examinada</numerusform>
+            <numerusform>%Ln linhas atribuídas examinadas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Fundstelle(n)</source>
+        <source>%Ln Fundstelle(n)</source>
         <translation>
-            <numerusform>%n ocorrência</numerusform>
-            <numerusform>%n ocorrências</numerusform>
+            <numerusform>%Ln ocorrência</numerusform>
+            <numerusform>%Ln ocorrências</numerusform>
         </translation>
     </message>
     <message>
@@ -2437,43 +2478,39 @@ Escolha outro ficheiro.</translation>
 </context>
 <context>
     <name>PatternDock</name>
-    <message>
-        <source>Die Tabellen werden verglichen: %1 Projekte gelesen</source>
-        <translation>As tabelas estão a ser comparadas: %1 projetos lidos</translation>
-    </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) mit Vorschlag</source>
+        <source>%Ln offene Zeile(n) mit Vorschlag</source>
         <translation>
-            <numerusform>%n linha em aberto com proposta</numerusform>
-            <numerusform>%n linhas em aberto com proposta</numerusform>
+            <numerusform>%Ln linha em aberto com proposta</numerusform>
+            <numerusform>%Ln linhas em aberto com proposta</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Muster(n)</source>
+        <source>in %Ln Muster(n)</source>
         <translation>
-            <numerusform>em %n padrão</numerusform>
-            <numerusform>em %n padrões</numerusform>
+            <numerusform>em %Ln padrão</numerusform>
+            <numerusform>em %Ln padrões</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon wird/werden noch verglichen</source>
+        <source>%Ln davon wird/werden noch verglichen</source>
         <translation>
-            <numerusform>%n delas ainda está a ser comparada</numerusform>
-            <numerusform>%n delas ainda estão a ser comparadas</numerusform>
+            <numerusform>%Ln delas ainda está a ser comparada</numerusform>
+            <numerusform>%Ln delas ainda estão a ser comparadas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Gewählt: %n Zeile(n)</source>
+        <source>Gewählt: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>Escolhida: %n linha</numerusform>
-            <numerusform>Escolhidas: %n linhas</numerusform>
+            <numerusform>Escolhida: %Ln linha</numerusform>
+            <numerusform>Escolhidas: %Ln linhas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon herausgenommen</source>
+        <source>%Ln davon herausgenommen</source>
         <translation>
-            <numerusform>%n delas retirada</numerusform>
-            <numerusform>%n delas retiradas</numerusform>
+            <numerusform>%Ln delas retirada</numerusform>
+            <numerusform>%Ln delas retiradas</numerusform>
         </translation>
     </message>
     <message>
@@ -2481,41 +2518,48 @@ Escolha outro ficheiro.</translation>
         <translation>Diferenças das linhas em aberto</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>em %n projeto</numerusform>
-            <numerusform>em %n projetos</numerusform>
+            <numerusform>em %Ln projeto</numerusform>
+            <numerusform>em %Ln projetos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <source>%Ln offene Zeile(n) ohne Nachfolger</source>
         <translation>
-            <numerusform>%n linha em aberto sem sucessora</numerusform>
-            <numerusform>%n linhas em aberto sem sucessora</numerusform>
+            <numerusform>%Ln linha em aberto sem sucessora</numerusform>
+            <numerusform>%Ln linhas em aberto sem sucessora</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Die Tabellen werden verglichen: %Ln Projekt(e) gelesen</source>
+        <translation>
+            <numerusform>As tabelas estão a ser comparadas: %Ln projeto lido</numerusform>
+            <numerusform>As tabelas estão a ser comparadas: %Ln projetos lidos</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>PatternModel</name>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n linha</numerusform>
-            <numerusform>%n linhas</numerusform>
+            <numerusform>%Ln linha</numerusform>
+            <numerusform>%Ln linhas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Projekt(e)</source>
+        <source>%Ln Projekt(e)</source>
         <translation>
-            <numerusform>%n projeto</numerusform>
-            <numerusform>%n projetos</numerusform>
+            <numerusform>%Ln projeto</numerusform>
+            <numerusform>%Ln projetos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) haben diese und andere Unterschiede</source>
+        <source>%Ln weitere Zeile(n) haben diese und andere Unterschiede</source>
         <translation>
-            <numerusform>%n outra linha tem estas e outras diferenças</numerusform>
-            <numerusform>%n outras linhas têm estas e outras diferenças</numerusform>
+            <numerusform>%Ln outra linha tem estas e outras diferenças</numerusform>
+            <numerusform>%Ln outras linhas têm estas e outras diferenças</numerusform>
         </translation>
     </message>
     <message>
@@ -2742,10 +2786,10 @@ Linha: %2
         <translation>Linha %1: %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
+        <source>%Ln Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
         <translation>
-            <numerusform>%n linha está confirmada, embora valores do seu intervalo não tenham linha nova.</numerusform>
-            <numerusform>%n linhas estão confirmadas, embora valores dos seus intervalos não tenham linha nova.</numerusform>
+            <numerusform>%Ln linha está confirmada, embora valores do seu intervalo não tenham linha nova.</numerusform>
+            <numerusform>%Ln linhas estão confirmadas, embora valores dos seus intervalos não tenham linha nova.</numerusform>
         </translation>
     </message>
     <message>
@@ -2760,19 +2804,15 @@ Linha: %2
 <context>
     <name>RangeDock</name>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n linha</numerusform>
-            <numerusform>%1: %n linhas</numerusform>
+            <numerusform>%1: %Ln linha</numerusform>
+            <numerusform>%1: %Ln linhas</numerusform>
         </translation>
     </message>
     <message>
         <source>Die Zeile hat keine Wertebereichszuordnung.</source>
         <translation>A linha não tem atribuição de intervalos de valores.</translation>
-    </message>
-    <message>
-        <source>%1: %2 von %3 Werten zugeordnet</source>
-        <translation>%1: %2 de %3 valores atribuídos</translation>
     </message>
     <message>
         <source>fehlend: %1</source>
@@ -2789,6 +2829,13 @@ Linha: %2
     <message>
         <source>Wertebereich der Zeile</source>
         <translation>Intervalo de valores da linha</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 von %Ln Wert(en) zugeordnet</source>
+        <translation>
+            <numerusform>%1: %2 de %Ln valor atribuído</numerusform>
+            <numerusform>%1: %2 de %Ln valores atribuídos</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2831,10 +2878,6 @@ Linha: %2
     <message>
         <source>Wiederherstellung</source>
         <translation>Recuperação</translation>
-    </message>
-    <message>
-        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2 Schritte mit %3 Zeilen in %4 Projekten, zuletzt „%5“. Sie stammt von %6.</source>
-        <translation>Há trabalho em %1 que não foi guardado: %2 passos com %3 linhas em %4 projetos, o último «%5». É de %6.</translation>
     </message>
     <message>
         <source>Gespeichert</source>
@@ -2884,16 +2927,37 @@ Linha: %2
         <source>&amp;Gespeicherten Stand öffnen</source>
         <translation>&amp;Abrir a versão guardada</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln Schritt(e)</source>
+        <translation>
+            <numerusform>%Ln passo</numerusform>
+            <numerusform>%Ln passos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2, zuletzt „%3“. Sie stammt von %4.</source>
+        <translation>Há trabalho em %1 que não foi guardado: %2, o último «%3». É de %4.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 com %Ln linha</numerusform>
+            <numerusform>%1 com %Ln linhas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 em %Ln projeto</numerusform>
+            <numerusform>%1 em %Ln projetos</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ReleaseCommands</name>
     <message>
         <source>Tabellen werden importiert</source>
         <translation>A importar tabelas</translation>
-    </message>
-    <message>
-        <source>%1 Tabellen mit %2 Zeilen: %3 neu, %4 geändert, %5 unverändert, %6 nicht importiert</source>
-        <translation>%1 tabelas com %2 linhas: %3 novas, %4 alteradas, %5 inalteradas, %6 não importadas</translation>
     </message>
     <message>
         <source>%1 hat keine CSV-Datei mehr und bleibt, wie es ist</source>
@@ -2932,10 +2996,6 @@ Linha: %2
         <translation>Cancelado, nada foi exportado</translation>
     </message>
     <message>
-        <source>%1 Zeilen nach %2 exportiert</source>
-        <translation>%1 linhas exportadas para %2</translation>
-    </message>
-    <message>
         <source>Bericht schreiben</source>
         <translation>Escrever relatório</translation>
     </message>
@@ -2966,6 +3026,31 @@ Linha: %2
     <message>
         <source>Seite %1 von %2</source>
         <translation>Página %1 de %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Tabelle(n)</source>
+        <translation>
+            <numerusform>%Ln tabela</numerusform>
+            <numerusform>%Ln tabelas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 neu, %2 geändert, %3 unverändert, %4 nicht importiert</source>
+        <translation>%1 novas, %2 alteradas, %3 inalteradas, %4 não importadas</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Zeile(n) nach %1 exportiert</source>
+        <translation>
+            <numerusform>%Ln linha exportada para %1</numerusform>
+            <numerusform>%Ln linhas exportadas para %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 com %Ln linha</numerusform>
+            <numerusform>%1 com %Ln linhas</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3011,17 +3096,17 @@ Linha: %2
         <translation>As tabelas estão a ser lidas</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dafür</source>
+        <source>%Ln Zeile(n) dafür</source>
         <translation>
-            <numerusform>%n linha a favor</numerusform>
-            <numerusform>%n linhas a favor</numerusform>
+            <numerusform>%Ln linha a favor</numerusform>
+            <numerusform>%Ln linhas a favor</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dagegen</source>
+        <source>%Ln Zeile(n) dagegen</source>
         <translation>
-            <numerusform>%n linha contra</numerusform>
-            <numerusform>%n linhas contra</numerusform>
+            <numerusform>%Ln linha contra</numerusform>
+            <numerusform>%Ln linhas contra</numerusform>
         </translation>
     </message>
 </context>
@@ -3038,10 +3123,6 @@ Linha: %2
     <message>
         <source>Erstellt am %1</source>
         <translation>Criado em %1</translation>
-    </message>
-    <message>
-        <source>Erledigt: %1 von %2 Zeilen; offen: %3.</source>
-        <translation>Resolvidas: %1 de %2 linhas; em aberto: %3.</translation>
     </message>
     <message>
         <source>Stand der Zeilen</source>
@@ -3267,6 +3348,10 @@ Linha: %2
         <source>Beurteilte Zeilen</source>
         <translation>Linhas avaliadas</translation>
     </message>
+    <message>
+        <source>Erledigte Zeilen: %1 von %2; offen: %3.</source>
+        <translation>Linhas resolvidas: %1 de %2; em aberto: %3.</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3345,10 +3430,10 @@ Linha: %2
         <translation>As tabelas ainda não foram comparadas</translation>
     </message>
     <message numerus="yes">
-        <source>Von vorn: %n Zeile(n) offen</source>
+        <source>Von vorn: %Ln Zeile(n) offen</source>
         <translation>
-            <numerusform>Desde o início: %n linha em aberto</numerusform>
-            <numerusform>Desde o início: %n linhas em aberto</numerusform>
+            <numerusform>Desde o início: %Ln linha em aberto</numerusform>
+            <numerusform>Desde o início: %Ln linhas em aberto</numerusform>
         </translation>
     </message>
     <message>
@@ -3372,17 +3457,17 @@ Linha: %2
         <translation>Nenhum padrão está escolhido, ou todas as suas linhas estão decididas</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n linha</numerusform>
-            <numerusform>%n linhas</numerusform>
+            <numerusform>%Ln linha</numerusform>
+            <numerusform>%Ln linhas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en) bestätigen?</source>
+        <source>in %Ln Projekt(en) bestätigen?</source>
         <translation>
-            <numerusform>confirmar em %n projeto?</numerusform>
-            <numerusform>confirmar em %n projetos?</numerusform>
+            <numerusform>confirmar em %Ln projeto?</numerusform>
+            <numerusform>confirmar em %Ln projetos?</numerusform>
         </translation>
     </message>
     <message>
@@ -3394,10 +3479,10 @@ Linha: %2
         <translation>&amp;Confirmar</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n linha confirmada</numerusform>
-            <numerusform>%n linhas confirmadas</numerusform>
+            <numerusform>%Ln linha confirmada</numerusform>
+            <numerusform>%Ln linhas confirmadas</numerusform>
         </translation>
     </message>
     <message>
@@ -3419,10 +3504,6 @@ Linha: %2
     <message>
         <source>Stichprobe</source>
         <translation>Amostra</translation>
-    </message>
-    <message>
-        <source>So viele von %1 Zeilen werden gezogen und einzeln beurteilt. %2 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %3 richtige weniger als 1 %.</source>
-        <translation>Tantas de %1 linhas são sorteadas e avaliadas uma a uma. %2 certas dizem com 95 % de certeza que menos de 5 % estão erradas, %3 certas, menos de 1 %.</translation>
     </message>
     <message>
         <source>&amp;Ziehen</source>
@@ -3481,10 +3562,10 @@ Linha: %2
         <translation>&amp;Ver a linha errada</translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind unsicher.</source>
+        <source>%Ln davon ist/sind unsicher.</source>
         <translation>
-            <numerusform>%n delas é incerta.</numerusform>
-            <numerusform>%n delas são incertas.</numerusform>
+            <numerusform>%Ln delas é incerta.</numerusform>
+            <numerusform>%Ln delas são incertas.</numerusform>
         </translation>
     </message>
     <message>
@@ -3492,22 +3573,29 @@ Linha: %2
         <translation>Todos os padrões estão resolvidos</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>em %n projeto</numerusform>
-            <numerusform>em %n projetos</numerusform>
+            <numerusform>em %Ln projeto</numerusform>
+            <numerusform>em %Ln projetos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n linha confirmada como descontinuada</numerusform>
-            <numerusform>%n linhas confirmadas como descontinuadas</numerusform>
+            <numerusform>%Ln linha confirmada como descontinuada</numerusform>
+            <numerusform>%Ln linhas confirmadas como descontinuadas</numerusform>
         </translation>
     </message>
     <message>
         <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
         <translation>A linha %1 em %2 está errada. O conjunto foi dividido; com que parte se continua?</translation>
+    </message>
+    <message numerus="yes">
+        <source>So viele von %Ln Zeile(n) werden gezogen und einzeln beurteilt. %1 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %2 richtige weniger als 1 %.</source>
+        <translation>
+            <numerusform>Tantas de %Ln linha são sorteadas e avaliadas uma a uma. %1 certas dizem com 95 % de certeza que menos de 5 % estão erradas, %2 certas, menos de 1 %.</numerusform>
+            <numerusform>Tantas de %Ln linhas são sorteadas e avaliadas uma a uma. %1 certas dizem com 95 % de certeza que menos de 5 % estão erradas, %2 certas, menos de 1 %.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3665,16 +3753,22 @@ Linha: %2
         <translation>Depois da última sessão concluída, o diário %1 não é legível. Não se sabe o que lá estava; o diário é conservado.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passen noch %2 Änderungen, %3 passen nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
-        <translation>O diário %1 está danificado. Depois do dano, %2 alterações ainda se ajustam, %3 já não; podem faltar outras. O diário é conservado.</translation>
-    </message>
-    <message>
         <source>Das Ende des Journals %1 ist nicht lesbar. Die letzte Änderung kann fehlen.</source>
         <translation>O fim do diário %1 não é legível. A última alteração pode faltar.</translation>
     </message>
-    <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
-        <translation>O diário %1 está danificado ou não corresponde ao ficheiro de mapeamento. Faltam pelo menos %2 alterações posteriores; o diário é conservado.</translation>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passt/passen noch %Ln Änderung(en), %2 nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>O diário %1 está danificado. Depois do dano, %Ln alteração ainda se ajusta, %2 já não; podem faltar outras. O diário é conservado.</numerusform>
+            <numerusform>O diário %1 está danificado. Depois do dano, %Ln alterações ainda se ajustam, %2 já não; podem faltar outras. O diário é conservado.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %Ln spätere Änderung(en) fehlt/fehlen; das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>O diário %1 está danificado ou não corresponde ao ficheiro de mapeamento. Falta pelo menos %Ln alteração posterior; o diário é conservado.</numerusform>
+            <numerusform>O diário %1 está danificado ou não corresponde ao ficheiro de mapeamento. Faltam pelo menos %Ln alterações posteriores; o diário é conservado.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3926,11 +4020,6 @@ Linha: %2
         <translation>Tudo decidido</translation>
     </message>
     <message>
-        <source>Offen: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Em aberto: &lt;a href=&quot;next&quot;&gt;%1 linhas&lt;/a&gt; em %2 projetos</translation>
-    </message>
-    <message>
         <source>Zeilen, die noch eine Entscheidung brauchen</source>
         <translation>Linhas que ainda precisam de uma decisão</translation>
     </message>
@@ -3943,13 +4032,31 @@ Linha: %2
         <translation>Filtro: nenhuma linha</translation>
     </message>
     <message>
-        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Filtro: &lt;a href=&quot;next&quot;&gt;%1 linhas&lt;/a&gt; em %2 projetos</translation>
-    </message>
-    <message>
         <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
         <translation>Linhas que o filtro sobre todas as linhas mostra</translation>
+    </message>
+    <message numerus="yes">
+        <source>&lt;a href=&quot;next&quot;&gt;%Ln Zeile(n)&lt;/a&gt;</source>
+        <translation>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln linha&lt;/a&gt;</numerusform>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln linhas&lt;/a&gt;</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Offen: %1</source>
+        <translation>Em aberto: %1</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>Filtro: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <extracomment>&quot;12 lines in 3 projects&quot;</extracomment>
+        <translation>
+            <numerusform>%1 em %Ln projeto</numerusform>
+            <numerusform>%1 em %Ln projetos</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3998,10 +4105,10 @@ Linha: %2
         <translation>&amp;Fechar</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <source>Mit %Ln abhängigen &amp;zurücknehmen</source>
         <translation>
-            <numerusform>&amp;Anular com os dependentes (%n)</numerusform>
-            <numerusform>&amp;Anular com os dependentes (%n)</numerusform>
+            <numerusform>&amp;Anular com os dependentes (%Ln)</numerusform>
+            <numerusform>&amp;Anular com os dependentes (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -4009,10 +4116,10 @@ Linha: %2
         <translation>&amp;Anular só este</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <source>Mit %Ln früheren &amp;wieder ausführen</source>
         <translation>
-            <numerusform>&amp;Refazer com os anteriores (%n)</numerusform>
-            <numerusform>&amp;Refazer com os anteriores (%n)</numerusform>
+            <numerusform>&amp;Refazer com os anteriores (%Ln)</numerusform>
+            <numerusform>&amp;Refazer com os anteriores (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -4048,20 +4155,20 @@ Linha: %2
         <translation>Agora está lá outra coisa que nenhum passo desta lista decidiu, por exemplo de outro programa. O passo já não pode ser movido.</translation>
     </message>
     <message numerus="yes">
-        <source>und %n weitere</source>
+        <source>und %Ln weitere</source>
         <translation>
-            <numerusform>e mais %n</numerusform>
-            <numerusform>e mais %n</numerusform>
+            <numerusform>e mais %Ln</numerusform>
+            <numerusform>e mais %Ln</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepListModel</name>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1 em %n projeto</numerusform>
-            <numerusform>%1 em %n projetos</numerusform>
+            <numerusform>%1 em %Ln projeto</numerusform>
+            <numerusform>%1 em %Ln projetos</numerusform>
         </translation>
     </message>
     <message>
@@ -4104,10 +4211,10 @@ Linha: %2
         <translation>A alteração em %1 só tem efeito quando as linhas forem atribuídas de novo. Aí só se mantém o que está confirmado.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
+        <source>%Ln Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
         <translation>
-            <numerusform>%n linha em %1 estava confirmada como descontinuada e já não está: %2</numerusform>
-            <numerusform>%n linhas em %1 estavam confirmadas como descontinuadas e já não estão: %2</numerusform>
+            <numerusform>%Ln linha em %1 estava confirmada como descontinuada e já não está: %2</numerusform>
+            <numerusform>%Ln linhas em %1 estavam confirmadas como descontinuadas e já não estão: %2</numerusform>
         </translation>
     </message>
     <message>
@@ -4123,76 +4230,76 @@ Linha: %2
         <translation>Uma correspondência de variáveis do projeto de destino %1 em %2 desapareceu.</translation>
     </message>
     <message numerus="yes">
-        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %n andere Zeile(n): %4</source>
+        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %Ln andere Zeile(n): %4</source>
         <translation>
-            <numerusform>Linha %1 → %2 em %3: a linha de destino é também de mais %n linha: %4</numerusform>
-            <numerusform>Linha %1 → %2 em %3: a linha de destino é também de mais %n linhas: %4</numerusform>
+            <numerusform>Linha %1 → %2 em %3: a linha de destino é também de mais %Ln linha: %4</numerusform>
+            <numerusform>Linha %1 → %2 em %3: a linha de destino é também de mais %Ln linhas: %4</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
+        <source>%Ln Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
         <translation>
-            <numerusform>%n linha em %1 partilha a sua linha de destino com linhas recém-atribuídas: %2</numerusform>
-            <numerusform>%n linhas em %1 partilham a sua linha de destino com linhas recém-atribuídas: %2</numerusform>
+            <numerusform>%Ln linha em %1 partilha a sua linha de destino com linhas recém-atribuídas: %2</numerusform>
+            <numerusform>%Ln linhas em %1 partilham a sua linha de destino com linhas recém-atribuídas: %2</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepSummary</name>
     <message numerus="yes">
-        <source>%n Konflikt(e) angenommen</source>
+        <source>%Ln Konflikt(e) angenommen</source>
         <translation>
-            <numerusform>%n conflito aceite</numerusform>
-            <numerusform>%n conflitos aceites</numerusform>
+            <numerusform>%Ln conflito aceite</numerusform>
+            <numerusform>%Ln conflitos aceites</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n linha confirmada</numerusform>
-            <numerusform>%n linhas confirmadas</numerusform>
+            <numerusform>%Ln linha confirmada</numerusform>
+            <numerusform>%Ln linhas confirmadas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n linha confirmada como descontinuada</numerusform>
-            <numerusform>%n linhas confirmadas como descontinuadas</numerusform>
+            <numerusform>%Ln linha confirmada como descontinuada</numerusform>
+            <numerusform>%Ln linhas confirmadas como descontinuadas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) zugeordnet</source>
+        <source>%Ln Zeile(n) zugeordnet</source>
         <translation>
-            <numerusform>%n linha atribuída</numerusform>
-            <numerusform>%n linhas atribuídas</numerusform>
+            <numerusform>%Ln linha atribuída</numerusform>
+            <numerusform>%Ln linhas atribuídas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben</source>
         <translation>
-            <numerusform>atribuição de %n linha removida</numerusform>
-            <numerusform>atribuição de %n linhas removida</numerusform>
+            <numerusform>atribuição de %Ln linha removida</numerusform>
+            <numerusform>atribuição de %Ln linhas removida</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Wertebereichszuordnung von %n Zeile(n) geändert</source>
+        <source>Wertebereichszuordnung von %Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>atribuição de intervalos de valores de %n linha alterada</numerusform>
-            <numerusform>atribuição de intervalos de valores de %n linhas alterada</numerusform>
+            <numerusform>atribuição de intervalos de valores de %Ln linha alterada</numerusform>
+            <numerusform>atribuição de intervalos de valores de %Ln linhas alterada</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Konflikt von %n Zeile(n) gelöst</source>
+        <source>Konflikt von %Ln Zeile(n) gelöst</source>
         <translation>
-            <numerusform>conflito de %n linha resolvido</numerusform>
-            <numerusform>conflito de %n linhas resolvido</numerusform>
+            <numerusform>conflito de %Ln linha resolvido</numerusform>
+            <numerusform>conflito de %Ln linhas resolvido</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) geändert</source>
+        <source>%Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>%n linha alterada</numerusform>
-            <numerusform>%n linhas alteradas</numerusform>
+            <numerusform>%Ln linha alterada</numerusform>
+            <numerusform>%Ln linhas alteradas</numerusform>
         </translation>
     </message>
     <message>
@@ -4260,10 +4367,10 @@ Linha: %2
         <translation>%1 em %2</translation>
     </message>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1 em %n projeto</numerusform>
-            <numerusform>%1 em %n projetos</numerusform>
+            <numerusform>%1 em %Ln projeto</numerusform>
+            <numerusform>%1 em %Ln projetos</numerusform>
         </translation>
     </message>
 </context>
@@ -4309,10 +4416,10 @@ Linha: %2
         <translation>A verificar as atribuições de intervalos de valores</translation>
     </message>
     <message numerus="yes">
-        <source>%n Wertebereichszuordnung(en) geprüft</source>
+        <source>%Ln Wertebereichszuordnung(en) geprüft</source>
         <translation>
-            <numerusform>%n atribuição de intervalos de valores verificada</numerusform>
-            <numerusform>%n atribuições de intervalos de valores verificadas</numerusform>
+            <numerusform>%Ln atribuição de intervalos de valores verificada</numerusform>
+            <numerusform>%Ln atribuições de intervalos de valores verificadas</numerusform>
         </translation>
     </message>
     <message>
@@ -4320,10 +4427,10 @@ Linha: %2
         <translation>sem reparos</translation>
     </message>
     <message numerus="yes">
-        <source>%n Beanstandung(en)</source>
+        <source>%Ln Beanstandung(en)</source>
         <translation>
-            <numerusform>%n reparo</numerusform>
-            <numerusform>%n reparos</numerusform>
+            <numerusform>%Ln reparo</numerusform>
+            <numerusform>%Ln reparos</numerusform>
         </translation>
     </message>
     <message>

@@ -8,115 +8,115 @@
         <translation>Изменять нечего.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigen?</source>
+        <source>%Ln Zeile(n) bestätigen?</source>
         <translation>
-            <numerusform>Подтвердить %n строку?</numerusform>
-            <numerusform>Подтвердить %n строки?</numerusform>
-            <numerusform>Подтвердить %n строк?</numerusform>
+            <numerusform>Подтвердить %Ln строку?</numerusform>
+            <numerusform>Подтвердить %Ln строки?</numerusform>
+            <numerusform>Подтвердить %Ln строк?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigen?</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Подтвердить %n строку как снятую с производства?</numerusform>
-            <numerusform>Подтвердить %n строки как снятые с производства?</numerusform>
-            <numerusform>Подтвердить %n строк как снятые с производства?</numerusform>
+            <numerusform>Подтвердить %Ln строку как снятую с производства?</numerusform>
+            <numerusform>Подтвердить %Ln строки как снятые с производства?</numerusform>
+            <numerusform>Подтвердить %Ln строк как снятые с производства?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben?</source>
         <translation>
-            <numerusform>Снять назначение %n строки?</numerusform>
-            <numerusform>Снять назначение %n строк?</numerusform>
-            <numerusform>Снять назначение %n строк?</numerusform>
+            <numerusform>Снять назначение %Ln строки?</numerusform>
+            <numerusform>Снять назначение %Ln строк?</numerusform>
+            <numerusform>Снять назначение %Ln строк?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Снять назначение %n строки и подтвердить её как снятую с производства?</numerusform>
-            <numerusform>Снять назначение %n строк и подтвердить их как снятые с производства?</numerusform>
-            <numerusform>Снять назначение %n строк и подтвердить их как снятые с производства?</numerusform>
+            <numerusform>Снять назначение %Ln строки и подтвердить её как снятую с производства?</numerusform>
+            <numerusform>Снять назначение %Ln строк и подтвердить их как снятые с производства?</numerusform>
+            <numerusform>Снять назначение %Ln строк и подтвердить их как снятые с производства?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind schon bestätigt.</source>
+        <source>%Ln davon ist/sind schon bestätigt.</source>
         <translation>
-            <numerusform>%n из них уже подтверждена.</numerusform>
-            <numerusform>%n из них уже подтверждены.</numerusform>
-            <numerusform>%n из них уже подтверждены.</numerusform>
+            <numerusform>%Ln из них уже подтверждена.</numerusform>
+            <numerusform>%Ln из них уже подтверждены.</numerusform>
+            <numerusform>%Ln из них уже подтверждены.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon verliert/verlieren ihre Wertebereichszuordnung.</source>
+        <source>%Ln davon verliert/verlieren ihre Wertebereichszuordnung.</source>
         <translation>
-            <numerusform>%n из них потеряет своё назначение диапазонов значений.</numerusform>
-            <numerusform>%n из них потеряют свои назначения диапазонов значений.</numerusform>
-            <numerusform>%n из них потеряют свои назначения диапазонов значений.</numerusform>
+            <numerusform>%Ln из них потеряет своё назначение диапазонов значений.</numerusform>
+            <numerusform>%Ln из них потеряют свои назначения диапазонов значений.</numerusform>
+            <numerusform>%Ln из них потеряют свои назначения диапазонов значений.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
+        <source>%Ln Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
         <translation>
-            <numerusform>%n строка без цели останется неподтверждённой.</numerusform>
-            <numerusform>%n строки без цели останутся неподтверждёнными.</numerusform>
-            <numerusform>%n строк без цели останутся неподтверждёнными.</numerusform>
+            <numerusform>%Ln строка без цели останется неподтверждённой.</numerusform>
+            <numerusform>%Ln строки без цели останутся неподтверждёнными.</numerusform>
+            <numerusform>%Ln строк без цели останутся неподтверждёнными.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
+        <source>%Ln Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
         <translation>
-            <numerusform>%n строка останется как есть.</numerusform>
-            <numerusform>%n строки останутся как есть.</numerusform>
-            <numerusform>%n строк останутся как есть.</numerusform>
+            <numerusform>%Ln строка останется как есть.</numerusform>
+            <numerusform>%Ln строки останутся как есть.</numerusform>
+            <numerusform>%Ln строк останутся как есть.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
+        <source>%Ln Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
         <translation>
-            <numerusform>%n строка с конфликтом не изменится.</numerusform>
-            <numerusform>%n строки с конфликтом не изменятся.</numerusform>
-            <numerusform>%n строк с конфликтом не изменятся.</numerusform>
+            <numerusform>%Ln строка с конфликтом не изменится.</numerusform>
+            <numerusform>%Ln строки с конфликтом не изменятся.</numerusform>
+            <numerusform>%Ln строк с конфликтом не изменятся.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
+        <source>%Ln Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
         <translation>
-            <numerusform>%n строка не внесена ни в один целевой проект.</numerusform>
-            <numerusform>%n строки не внесены ни в один целевой проект.</numerusform>
-            <numerusform>%n строк не внесены ни в один целевой проект.</numerusform>
+            <numerusform>%Ln строка не внесена ни в один целевой проект.</numerusform>
+            <numerusform>%Ln строки не внесены ни в один целевой проект.</numerusform>
+            <numerusform>%Ln строк не внесены ни в один целевой проект.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt.</source>
+        <source>%Ln Zeile(n) bestätigt.</source>
         <translation>
-            <numerusform>Подтверждена %n строка.</numerusform>
-            <numerusform>Подтверждены %n строки.</numerusform>
-            <numerusform>Подтверждено %n строк.</numerusform>
+            <numerusform>Подтверждена %Ln строка.</numerusform>
+            <numerusform>Подтверждены %Ln строки.</numerusform>
+            <numerusform>Подтверждено %Ln строк.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt.</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>%n строка подтверждена как снятая с производства.</numerusform>
-            <numerusform>%n строки подтверждены как снятые с производства.</numerusform>
-            <numerusform>%n строк подтверждено как снятые с производства.</numerusform>
+            <numerusform>%Ln строка подтверждена как снятая с производства.</numerusform>
+            <numerusform>%Ln строки подтверждены как снятые с производства.</numerusform>
+            <numerusform>%Ln строк подтверждено как снятые с производства.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben.</source>
         <translation>
-            <numerusform>Назначение %n строки снято.</numerusform>
-            <numerusform>Назначение %n строк снято.</numerusform>
-            <numerusform>Назначение %n строк снято.</numerusform>
+            <numerusform>Назначение %Ln строки снято.</numerusform>
+            <numerusform>Назначение %Ln строк снято.</numerusform>
+            <numerusform>Назначение %Ln строк снято.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>Назначение %n строки снято, она подтверждена как снятая с производства.</numerusform>
-            <numerusform>Назначение %n строк снято, они подтверждены как снятые с производства.</numerusform>
-            <numerusform>Назначение %n строк снято, они подтверждены как снятые с производства.</numerusform>
+            <numerusform>Назначение %Ln строки снято, она подтверждена как снятая с производства.</numerusform>
+            <numerusform>Назначение %Ln строк снято, они подтверждены как снятые с производства.</numerusform>
+            <numerusform>Назначение %Ln строк снято, они подтверждены как снятые с производства.</numerusform>
         </translation>
     </message>
 </context>
@@ -174,10 +174,6 @@
         <translation>Из %1 нечего перенимать.</translation>
     </message>
     <message>
-        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
-        <translation>Перенято из %1: %2 из %3 подтверждённых строк, %4 назначено надёжно, %5 предложено.</translation>
-    </message>
-    <message>
         <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
         <translation>В файле нет сопоставления с выпуска каталога %1.</translation>
     </message>
@@ -220,6 +216,14 @@
     <message>
         <source>Entscheidungen aus %1 übernommen: %2</source>
         <translation>Решения, перенятые из %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Aus %1 übernommen: %2 von %Ln bestätigten Zeile(n), %3 sicher zugeordnet, %4 vorgeschlagen.</source>
+        <translation>
+            <numerusform>Перенято из %1: %2 из %Ln подтверждённой строки, %3 назначено надёжно, %4 предложено.</numerusform>
+            <numerusform>Перенято из %1: %2 из %Ln подтверждённых строк, %3 назначено надёжно, %4 предложено.</numerusform>
+            <numerusform>Перенято из %1: %2 из %Ln подтверждённых строк, %3 назначено надёжно, %4 предложено.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -284,11 +288,11 @@
         <translation>Конфликт %1 из %2, ещё не решено: %3</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
+        <source>%Ln Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
         <translation>
-            <numerusform>%n строка из %1 противоречит так же. Действует ли решение для всех?</numerusform>
-            <numerusform>%n строки из %1 противоречат так же. Действует ли решение для всех?</numerusform>
-            <numerusform>%n строк из %1 противоречат так же. Действует ли решение для всех?</numerusform>
+            <numerusform>%Ln строка из %1 противоречит так же. Действует ли решение для всех?</numerusform>
+            <numerusform>%Ln строки из %1 противоречат так же. Действует ли решение для всех?</numerusform>
+            <numerusform>%Ln строк из %1 противоречат так же. Действует ли решение для всех?</numerusform>
         </translation>
     </message>
     <message>
@@ -324,16 +328,12 @@ Andere: %2</source>
         <source>Alle Konflikte sind entschieden.</source>
         <translation>Все конфликты разрешены.</translation>
     </message>
-    <message>
-        <source>%1 von %2 Konflikten sind noch offen.</source>
-        <translation>Нерешённых конфликтов: %1 из %2.</translation>
-    </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) widersprechen sich wie diese.</source>
+        <source>%Ln weitere Zeile(n) widersprechen sich wie diese.</source>
         <translation>
-            <numerusform>Ещё %n строка противоречит так же, как эта.</numerusform>
-            <numerusform>Ещё %n строки противоречат так же, как эта.</numerusform>
-            <numerusform>Ещё %n строк противоречат так же, как эта.</numerusform>
+            <numerusform>Ещё %Ln строка противоречит так же, как эта.</numerusform>
+            <numerusform>Ещё %Ln строки противоречат так же, как эта.</numerusform>
+            <numerusform>Ещё %Ln строк противоречат так же, как эта.</numerusform>
         </translation>
     </message>
     <message>
@@ -355,6 +355,14 @@ Andere: %2</source>
     <message>
         <source>Neu entscheiden</source>
         <translation>Решить заново</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Konflikt(en) noch offen.</source>
+        <translation>
+            <numerusform>Нерешённых конфликтов: %1 из %Ln.</numerusform>
+            <numerusform>Нерешённых конфликтов: %1 из %Ln.</numerusform>
+            <numerusform>Нерешённых конфликтов: %1 из %Ln.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -473,11 +481,11 @@ Andere: %2</source>
         <translation>равно</translation>
     </message>
     <message numerus="yes">
-        <source>ersetzt wie in %n weiteren Zeile(n)</source>
+        <source>ersetzt wie in %Ln weiteren Zeile(n)</source>
         <translation>
-            <numerusform>заменено, как ещё в %n строке</numerusform>
-            <numerusform>заменено, как ещё в %n строках</numerusform>
-            <numerusform>заменено, как ещё в %n строках</numerusform>
+            <numerusform>заменено, как ещё в %Ln строке</numerusform>
+            <numerusform>заменено, как ещё в %Ln строках</numerusform>
+            <numerusform>заменено, как ещё в %Ln строках</numerusform>
         </translation>
     </message>
     <message>
@@ -540,11 +548,11 @@ Andere: %2</source>
         <translation>Надёжно назначена.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n строка</numerusform>
-            <numerusform>%n строки</numerusform>
-            <numerusform>%n строк</numerusform>
+            <numerusform>%Ln строка</numerusform>
+            <numerusform>%Ln строки</numerusform>
+            <numerusform>%Ln строк</numerusform>
         </translation>
     </message>
     <message>
@@ -627,23 +635,19 @@ Andere: %2</source>
         <translation>&amp;Отменить изменения</translation>
     </message>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n строка</numerusform>
-            <numerusform>%1: %n строки</numerusform>
-            <numerusform>%1: %n строк</numerusform>
+            <numerusform>%1: %Ln строка</numerusform>
+            <numerusform>%1: %Ln строки</numerusform>
+            <numerusform>%1: %Ln строк</numerusform>
         </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>и ещё %1</translation>
-    </message>
     <message numerus="yes">
-        <source>Noch %n Zeile(n) in Konflikt, in diesen Projekten:</source>
+        <source>Noch %Ln Zeile(n) in Konflikt, in diesen Projekten:</source>
         <translation>
-            <numerusform>Ещё %n строка в конфликте, в этих проектах:</numerusform>
-            <numerusform>Ещё %n строки в конфликте, в этих проектах:</numerusform>
-            <numerusform>Ещё %n строк в конфликте, в этих проектах:</numerusform>
+            <numerusform>Ещё %Ln строка в конфликте, в этих проектах:</numerusform>
+            <numerusform>Ещё %Ln строки в конфликте, в этих проектах:</numerusform>
+            <numerusform>Ещё %Ln строк в конфликте, в этих проектах:</numerusform>
         </translation>
     </message>
     <message>
@@ -685,6 +689,14 @@ Andere: %2</source>
     <message>
         <source>Die Mapping-Datei kann nicht angelegt werden.</source>
         <translation>Файл сопоставления не удаётся создать.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>и ещё %Ln</numerusform>
+            <numerusform>и ещё %Ln</numerusform>
+            <numerusform>и ещё %Ln</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -748,6 +760,15 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte einen anderen Ordner wählen.</source>
         <translation>В папке файла %1 ничего нельзя создать (%2). Ничего не записано. Выберите другую папку.</translation>
+    </message>
+</context>
+<context>
+    <name>EditorArea</name>
+    <message>
+        <source>Keine Zeile dieses Projekts ist im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Zeilen zu sehen.</source>
+        <translation>Ни одной строки этого проекта нет в фильтре.
+Откройте «%1» и выберите «%2», чтобы снова увидеть все строки.</translation>
     </message>
 </context>
 <context>
@@ -875,19 +896,19 @@ Bitte eine andere Datei wählen.</source>
         <translation>Чтение таблиц...</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n строка</numerusform>
-            <numerusform>%n строки</numerusform>
-            <numerusform>%n строк</numerusform>
+            <numerusform>%Ln строка</numerusform>
+            <numerusform>%Ln строки</numerusform>
+            <numerusform>%Ln строк</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>в %n проекте</numerusform>
-            <numerusform>в %n проектах</numerusform>
-            <numerusform>в %n проектах</numerusform>
+            <numerusform>в %Ln проекте</numerusform>
+            <numerusform>в %Ln проектах</numerusform>
+            <numerusform>в %Ln проектах</numerusform>
         </translation>
     </message>
     <message>
@@ -895,11 +916,11 @@ Bitte eine andere Datei wählen.</source>
         <translation>Без фильтра: все строки</translation>
     </message>
     <message numerus="yes">
-        <source>%n Tabelle(n) nicht lesbar</source>
+        <source>%Ln Tabelle(n) nicht lesbar</source>
         <translation>
-            <numerusform>Нечитаемых таблиц: %n</numerusform>
-            <numerusform>Нечитаемых таблиц: %n</numerusform>
-            <numerusform>Нечитаемых таблиц: %n</numerusform>
+            <numerusform>Нечитаемых таблиц: %Ln</numerusform>
+            <numerusform>Нечитаемых таблиц: %Ln</numerusform>
+            <numerusform>Нечитаемых таблиц: %Ln</numerusform>
         </translation>
     </message>
     <message>
@@ -1048,11 +1069,11 @@ Bitte eine andere Datei wählen.</source>
         <translation>Строка %1 в %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1</source>
+        <source>%Ln Zeile(n) in %1</source>
         <translation>
-            <numerusform>%n строка в %1</numerusform>
-            <numerusform>%n строки в %1</numerusform>
-            <numerusform>%n строк в %1</numerusform>
+            <numerusform>%Ln строка в %1</numerusform>
+            <numerusform>%Ln строки в %1</numerusform>
+            <numerusform>%Ln строк в %1</numerusform>
         </translation>
     </message>
     <message>
@@ -1381,11 +1402,11 @@ Bitte eine andere Datei wählen.</source>
         <translation>Скопированное условие пока нельзя использовать: значение отсутствует, является диапазоном или содержит кавычку: %1</translation>
     </message>
     <message numerus="yes">
-        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.</source>
+        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %Ln Zeile(n) offen.</source>
         <translation>
-            <numerusform>Здесь, в фильтре, всё готово; вне его открыта ещё %n строка.</numerusform>
-            <numerusform>Здесь, в фильтре, всё готово; вне его открыты ещё %n строки.</numerusform>
-            <numerusform>Здесь, в фильтре, всё готово; вне его открыто ещё %n строк.</numerusform>
+            <numerusform>Здесь, в фильтре, всё готово; вне его открыта ещё %Ln строка.</numerusform>
+            <numerusform>Здесь, в фильтре, всё готово; вне его открыты ещё %Ln строки.</numerusform>
+            <numerusform>Здесь, в фильтре, всё готово; вне его открыто ещё %Ln строк.</numerusform>
         </translation>
     </message>
     <message>
@@ -1453,16 +1474,16 @@ Bitte eine andere Datei wählen.</source>
         <translation>Имеются в виду все строки проекта.</translation>
     </message>
     <message>
-        <source>Gemeint sind die %1 gezeigten von %2 Zeilen des Projekts.</source>
-        <translation>Имеются в виду показанные строки проекта: %1 из %2.</translation>
-    </message>
-    <message>
         <source>Filter: %1.</source>
         <translation>Фильтр: %1.</translation>
     </message>
     <message>
         <source>Kein anderes Projekt hat solche Zeilen</source>
         <translation>В других проектах таких строк нет</translation>
+    </message>
+    <message>
+        <source>Gemeint sind nur die gezeigten Zeilen des Projekts: %1 von %2.</source>
+        <translation>Имеются в виду только показанные строки проекта: %1 из %2.</translation>
     </message>
 </context>
 <context>
@@ -1695,10 +1716,6 @@ Bitte eine andere Datei wählen.</source>
         <translation>&amp;Закрыть</translation>
     </message>
     <message>
-        <source>Die ersten %1 Links; die Suche zeigt andere.</source>
-        <translation>Первые связи: %1; поиск покажет другие.</translation>
-    </message>
-    <message>
         <source>Links: %1</source>
         <translation>Связи: %1</translation>
     </message>
@@ -1717,6 +1734,14 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>&amp;Wiederherstellen</source>
         <translation>&amp;Восстановить</translation>
+    </message>
+    <message numerus="yes">
+        <source>Die ersten %Ln Link(s); die Suche zeigt andere.</source>
+        <translation>
+            <numerusform>Первая %Ln связь; поиск покажет другие.</numerusform>
+            <numerusform>Первые %Ln связи; поиск покажет другие.</numerusform>
+            <numerusform>Первые %Ln связей; поиск покажет другие.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1839,16 +1864,20 @@ Bitte eine andere Datei wählen.</source>
         <source>Nichts gefunden</source>
         <translation>Ничего не найдено</translation>
     </message>
-    <message>
-        <source>Die ersten %1 von %2 Treffern</source>
-        <translation>Первые совпадения: %1 из %2</translation>
+    <message numerus="yes">
+        <source>%Ln Treffer</source>
+        <translation>
+            <numerusform>%Ln совпадение</numerusform>
+            <numerusform>%Ln совпадения</numerusform>
+            <numerusform>%Ln совпадений</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
-        <source>%n Treffer</source>
+        <source>Die ersten %1 von %Ln Treffer(n)</source>
         <translation>
-            <numerusform>%n совпадение</numerusform>
-            <numerusform>%n совпадения</numerusform>
-            <numerusform>%n совпадений</numerusform>
+            <numerusform>Первые совпадения: %1 из %Ln</numerusform>
+            <numerusform>Первые совпадения: %1 из %Ln</numerusform>
+            <numerusform>Первые совпадения: %1 из %Ln</numerusform>
         </translation>
     </message>
 </context>
@@ -2071,27 +2100,27 @@ Bitte eine andere Datei wählen.</source>
         <translation>Свои изменения поверх версии файла</translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): eigene Entscheidung</source>
+        <source>%Ln Konflikt(e): eigene Entscheidung</source>
         <translation>
-            <numerusform>%n конфликт: своё решение</numerusform>
-            <numerusform>%n конфликта: своё решение</numerusform>
-            <numerusform>%n конфликтов: своё решение</numerusform>
+            <numerusform>%Ln конфликт: своё решение</numerusform>
+            <numerusform>%Ln конфликта: своё решение</numerusform>
+            <numerusform>%Ln конфликтов: своё решение</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): Entscheidung der anderen Seite</source>
+        <source>%Ln Konflikt(e): Entscheidung der anderen Seite</source>
         <translation>
-            <numerusform>%n конфликт: решение другой стороны</numerusform>
-            <numerusform>%n конфликта: решение другой стороны</numerusform>
-            <numerusform>%n конфликтов: решение другой стороны</numerusform>
+            <numerusform>%Ln конфликт: решение другой стороны</numerusform>
+            <numerusform>%Ln конфликта: решение другой стороны</numerusform>
+            <numerusform>%Ln конфликтов: решение другой стороны</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): neu zu entscheiden</source>
+        <source>%Ln Konflikt(e): neu zu entscheiden</source>
         <translation>
-            <numerusform>%n конфликт: решить заново</numerusform>
-            <numerusform>%n конфликта: решить заново</numerusform>
-            <numerusform>%n конфликтов: решить заново</numerusform>
+            <numerusform>%Ln конфликт: решить заново</numerusform>
+            <numerusform>%Ln конфликта: решить заново</numerusform>
+            <numerusform>%Ln конфликтов: решить заново</numerusform>
         </translation>
     </message>
     <message>
@@ -2162,54 +2191,74 @@ Bitte eine andere Datei wählen.</source>
         <translation>Прервано, ничего не создано</translation>
     </message>
     <message>
-        <source>%1 Projekte: %2 am selben Ort, %3 an anderem, %4 aufgeteilt, %5 ohne Ziel, %6 unlesbar</source>
-        <translation>Проектов: %1, из них на том же месте %2, на другом %3, разделено %4, без цели %5, нечитаемых %6</translation>
-    </message>
-    <message>
         <source>Zeilen werden zugeordnet</source>
         <translation>Назначение строк</translation>
     </message>
-    <message>
-        <source>Abgebrochen: %1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>Прервано: проектов: %1 из %2, строк: %3, из них назначено %4, требуют проверки %5, без цели %6</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e): %1 am selben Ort, %2 an anderem, %3 aufgeteilt, %4 ohne Ziel, %5 unlesbar</source>
+        <translation>
+            <numerusform>%Ln проект: на том же месте %1, на другом %2, разделено %3, без цели %4, нечитаемых %5</numerusform>
+            <numerusform>%Ln проекта: на том же месте %1, на другом %2, разделено %3, без цели %4, нечитаемых %5</numerusform>
+            <numerusform>%Ln проектов: на том же месте %1, на другом %2, разделено %3, без цели %4, нечитаемых %5</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 из %Ln проекта</numerusform>
+            <numerusform>%1 из %Ln проектов</numerusform>
+            <numerusform>%1 из %Ln проектов</numerusform>
+        </translation>
     </message>
     <message>
-        <source>%1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>Проектов: %1 из %2, строк: %3, из них назначено %4, требуют проверки %5, без цели %6</translation>
+        <source>davon %1 zugeordnet, %2 zu prüfen, %3 ohne Ziel</source>
+        <translation>из них назначено %1, требуют проверки %2, без цели %3</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>Прервано: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 с %Ln строкой</numerusform>
+            <numerusform>%1 с %Ln строками</numerusform>
+            <numerusform>%1 с %Ln строками</numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>MergeState</name>
     <message numerus="yes">
-        <source>%n Änderung(en) übernommen.</source>
+        <source>%Ln Änderung(en) übernommen.</source>
         <translation>
-            <numerusform>Принято %n изменение.</numerusform>
-            <numerusform>Принято %n изменения.</numerusform>
-            <numerusform>Принято %n изменений.</numerusform>
+            <numerusform>Принято %Ln изменение.</numerusform>
+            <numerusform>Принято %Ln изменения.</numerusform>
+            <numerusform>Принято %Ln изменений.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) haben beide gleich entschieden.</source>
+        <source>%Ln Zeile(n) haben beide gleich entschieden.</source>
         <translation>
-            <numerusform>%n строку обе стороны решили одинаково.</numerusform>
-            <numerusform>%n строки обе стороны решили одинаково.</numerusform>
-            <numerusform>%n строк обе стороны решили одинаково.</numerusform>
+            <numerusform>%Ln строку обе стороны решили одинаково.</numerusform>
+            <numerusform>%Ln строки обе стороны решили одинаково.</numerusform>
+            <numerusform>%Ln строк обе стороны решили одинаково.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
+        <source>%Ln Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
         <translation>
-            <numerusform>%n строка решена по-разному и отмечена как конфликт.</numerusform>
-            <numerusform>%n строки решены по-разному и отмечены как конфликт.</numerusform>
-            <numerusform>%n строк решены по-разному и отмечены как конфликт.</numerusform>
+            <numerusform>%Ln строка решена по-разному и отмечена как конфликт.</numerusform>
+            <numerusform>%Ln строки решены по-разному и отмечены как конфликт.</numerusform>
+            <numerusform>%Ln строк решены по-разному и отмечены как конфликт.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
+        <source>%Ln andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
         <translation>
-            <numerusform>%n другое противоречие: действует версия файла.</numerusform>
-            <numerusform>%n других противоречия: действует версия файла.</numerusform>
-            <numerusform>%n других противоречий: действует версия файла.</numerusform>
+            <numerusform>%Ln другое противоречие: действует версия файла.</numerusform>
+            <numerusform>%Ln других противоречия: действует версия файла.</numerusform>
+            <numerusform>%Ln других противоречий: действует версия файла.</numerusform>
         </translation>
     </message>
 </context>
@@ -2235,19 +2284,19 @@ Bitte eine andere Datei wählen.</source>
         <translation>Таблицы сравниваются</translation>
     </message>
     <message numerus="yes">
-        <source>%n zugeordnete Zeile(n) angesehen</source>
+        <source>%Ln zugeordnete Zeile(n) angesehen</source>
         <translation>
-            <numerusform>Просмотрена %n назначенная строка</numerusform>
-            <numerusform>Просмотрены %n назначенные строки</numerusform>
-            <numerusform>Просмотрено %n назначенных строк</numerusform>
+            <numerusform>Просмотрена %Ln назначенная строка</numerusform>
+            <numerusform>Просмотрены %Ln назначенные строки</numerusform>
+            <numerusform>Просмотрено %Ln назначенных строк</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Fundstelle(n)</source>
+        <source>%Ln Fundstelle(n)</source>
         <translation>
-            <numerusform>%n находка</numerusform>
-            <numerusform>%n находки</numerusform>
-            <numerusform>%n находок</numerusform>
+            <numerusform>%Ln находка</numerusform>
+            <numerusform>%Ln находки</numerusform>
+            <numerusform>%Ln находок</numerusform>
         </translation>
     </message>
     <message>
@@ -2472,48 +2521,44 @@ Bitte eine andere Datei wählen.</source>
 </context>
 <context>
     <name>PatternDock</name>
-    <message>
-        <source>Die Tabellen werden verglichen: %1 Projekte gelesen</source>
-        <translation>Таблицы сравниваются: прочитано проектов: %1</translation>
-    </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) mit Vorschlag</source>
+        <source>%Ln offene Zeile(n) mit Vorschlag</source>
         <translation>
-            <numerusform>%n открытая строка с предложением</numerusform>
-            <numerusform>%n открытые строки с предложением</numerusform>
-            <numerusform>%n открытых строк с предложением</numerusform>
+            <numerusform>%Ln открытая строка с предложением</numerusform>
+            <numerusform>%Ln открытые строки с предложением</numerusform>
+            <numerusform>%Ln открытых строк с предложением</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Muster(n)</source>
+        <source>in %Ln Muster(n)</source>
         <translation>
-            <numerusform>в %n шаблоне</numerusform>
-            <numerusform>в %n шаблонах</numerusform>
-            <numerusform>в %n шаблонах</numerusform>
+            <numerusform>в %Ln шаблоне</numerusform>
+            <numerusform>в %Ln шаблонах</numerusform>
+            <numerusform>в %Ln шаблонах</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon wird/werden noch verglichen</source>
+        <source>%Ln davon wird/werden noch verglichen</source>
         <translation>
-            <numerusform>%n из них ещё сравнивается</numerusform>
-            <numerusform>%n из них ещё сравниваются</numerusform>
-            <numerusform>%n из них ещё сравниваются</numerusform>
+            <numerusform>%Ln из них ещё сравнивается</numerusform>
+            <numerusform>%Ln из них ещё сравниваются</numerusform>
+            <numerusform>%Ln из них ещё сравниваются</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Gewählt: %n Zeile(n)</source>
+        <source>Gewählt: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>Выбрана %n строка</numerusform>
-            <numerusform>Выбраны %n строки</numerusform>
-            <numerusform>Выбрано %n строк</numerusform>
+            <numerusform>Выбрана %Ln строка</numerusform>
+            <numerusform>Выбраны %Ln строки</numerusform>
+            <numerusform>Выбрано %Ln строк</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon herausgenommen</source>
+        <source>%Ln davon herausgenommen</source>
         <translation>
-            <numerusform>%n из них исключена</numerusform>
-            <numerusform>%n из них исключены</numerusform>
-            <numerusform>%n из них исключено</numerusform>
+            <numerusform>%Ln из них исключена</numerusform>
+            <numerusform>%Ln из них исключены</numerusform>
+            <numerusform>%Ln из них исключено</numerusform>
         </translation>
     </message>
     <message>
@@ -2521,46 +2566,54 @@ Bitte eine andere Datei wählen.</source>
         <translation>Различия открытых строк</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>в %n проекте</numerusform>
-            <numerusform>в %n проектах</numerusform>
-            <numerusform>в %n проектах</numerusform>
+            <numerusform>в %Ln проекте</numerusform>
+            <numerusform>в %Ln проектах</numerusform>
+            <numerusform>в %Ln проектах</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <source>%Ln offene Zeile(n) ohne Nachfolger</source>
         <translation>
-            <numerusform>%n открытая строка без преемника</numerusform>
-            <numerusform>%n открытые строки без преемника</numerusform>
-            <numerusform>%n открытых строк без преемника</numerusform>
+            <numerusform>%Ln открытая строка без преемника</numerusform>
+            <numerusform>%Ln открытые строки без преемника</numerusform>
+            <numerusform>%Ln открытых строк без преемника</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Die Tabellen werden verglichen: %Ln Projekt(e) gelesen</source>
+        <translation>
+            <numerusform>Таблицы сравниваются: прочитан %Ln проект</numerusform>
+            <numerusform>Таблицы сравниваются: прочитано %Ln проекта</numerusform>
+            <numerusform>Таблицы сравниваются: прочитано %Ln проектов</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>PatternModel</name>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n строка</numerusform>
-            <numerusform>%n строки</numerusform>
-            <numerusform>%n строк</numerusform>
+            <numerusform>%Ln строка</numerusform>
+            <numerusform>%Ln строки</numerusform>
+            <numerusform>%Ln строк</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Projekt(e)</source>
+        <source>%Ln Projekt(e)</source>
         <translation>
-            <numerusform>%n проект</numerusform>
-            <numerusform>%n проекта</numerusform>
-            <numerusform>%n проектов</numerusform>
+            <numerusform>%Ln проект</numerusform>
+            <numerusform>%Ln проекта</numerusform>
+            <numerusform>%Ln проектов</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) haben diese und andere Unterschiede</source>
+        <source>%Ln weitere Zeile(n) haben diese und andere Unterschiede</source>
         <translation>
-            <numerusform>Ещё у %n строки есть эти и другие различия</numerusform>
-            <numerusform>Ещё у %n строк есть эти и другие различия</numerusform>
-            <numerusform>Ещё у %n строк есть эти и другие различия</numerusform>
+            <numerusform>Ещё у %Ln строки есть эти и другие различия</numerusform>
+            <numerusform>Ещё у %Ln строк есть эти и другие различия</numerusform>
+            <numerusform>Ещё у %Ln строк есть эти и другие различия</numerusform>
         </translation>
     </message>
     <message>
@@ -2787,11 +2840,11 @@ Zeile: %2
         <translation>Строка %1: %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
+        <source>%Ln Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
         <translation>
-            <numerusform>%n строка подтверждена, хотя у значений её диапазона нет новой строки.</numerusform>
-            <numerusform>%n строки подтверждены, хотя у значений их диапазонов нет новой строки.</numerusform>
-            <numerusform>%n строк подтверждены, хотя у значений их диапазонов нет новой строки.</numerusform>
+            <numerusform>%Ln строка подтверждена, хотя у значений её диапазона нет новой строки.</numerusform>
+            <numerusform>%Ln строки подтверждены, хотя у значений их диапазонов нет новой строки.</numerusform>
+            <numerusform>%Ln строк подтверждены, хотя у значений их диапазонов нет новой строки.</numerusform>
         </translation>
     </message>
     <message>
@@ -2806,20 +2859,16 @@ Zeile: %2
 <context>
     <name>RangeDock</name>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n строка</numerusform>
-            <numerusform>%1: %n строки</numerusform>
-            <numerusform>%1: %n строк</numerusform>
+            <numerusform>%1: %Ln строка</numerusform>
+            <numerusform>%1: %Ln строки</numerusform>
+            <numerusform>%1: %Ln строк</numerusform>
         </translation>
     </message>
     <message>
         <source>Die Zeile hat keine Wertebereichszuordnung.</source>
         <translation>У строки нет назначения диапазонов значений.</translation>
-    </message>
-    <message>
-        <source>%1: %2 von %3 Werten zugeordnet</source>
-        <translation>%1: назначено значений: %2 из %3</translation>
     </message>
     <message>
         <source>fehlend: %1</source>
@@ -2836,6 +2885,14 @@ Zeile: %2
     <message>
         <source>Wertebereich der Zeile</source>
         <translation>Диапазон значений строки</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 von %Ln Wert(en) zugeordnet</source>
+        <translation>
+            <numerusform>%1: назначено значений: %2 из %Ln</numerusform>
+            <numerusform>%1: назначено значений: %2 из %Ln</numerusform>
+            <numerusform>%1: назначено значений: %2 из %Ln</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2878,10 +2935,6 @@ Zeile: %2
     <message>
         <source>Wiederherstellung</source>
         <translation>Восстановление</translation>
-    </message>
-    <message>
-        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2 Schritte mit %3 Zeilen in %4 Projekten, zuletzt „%5“. Sie stammt von %6.</source>
-        <translation>Для %1 есть несохранённая работа: шагов: %2, строк: %3, проектов: %4, последний — «%5». Автор: %6.</translation>
     </message>
     <message>
         <source>Gespeichert</source>
@@ -2931,16 +2984,40 @@ Zeile: %2
         <source>&amp;Gespeicherten Stand öffnen</source>
         <translation>&amp;Открыть сохранённую версию</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln Schritt(e)</source>
+        <translation>
+            <numerusform>%Ln шаг</numerusform>
+            <numerusform>%Ln шага</numerusform>
+            <numerusform>%Ln шагов</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2, zuletzt „%3“. Sie stammt von %4.</source>
+        <translation>Для %1 есть несохранённая работа: %2, последний — «%3». Автор: %4.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 с %Ln строкой</numerusform>
+            <numerusform>%1 с %Ln строками</numerusform>
+            <numerusform>%1 с %Ln строками</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 в %Ln проекте</numerusform>
+            <numerusform>%1 в %Ln проектах</numerusform>
+            <numerusform>%1 в %Ln проектах</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ReleaseCommands</name>
     <message>
         <source>Tabellen werden importiert</source>
         <translation>Импорт таблиц</translation>
-    </message>
-    <message>
-        <source>%1 Tabellen mit %2 Zeilen: %3 neu, %4 geändert, %5 unverändert, %6 nicht importiert</source>
-        <translation>Таблиц: %1, строк: %2; новых %3, изменённых %4, неизменённых %5, не импортировано %6</translation>
     </message>
     <message>
         <source>%1 hat keine CSV-Datei mehr und bleibt, wie es ist</source>
@@ -2979,10 +3056,6 @@ Zeile: %2
         <translation>Прервано, ничего не экспортировано</translation>
     </message>
     <message>
-        <source>%1 Zeilen nach %2 exportiert</source>
-        <translation>Строки (%1) экспортированы в %2</translation>
-    </message>
-    <message>
         <source>Bericht schreiben</source>
         <translation>Записать отчёт</translation>
     </message>
@@ -3013,6 +3086,34 @@ Zeile: %2
     <message>
         <source>Seite %1 von %2</source>
         <translation>Страница %1 из %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Tabelle(n)</source>
+        <translation>
+            <numerusform>%Ln таблица</numerusform>
+            <numerusform>%Ln таблицы</numerusform>
+            <numerusform>%Ln таблиц</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 neu, %2 geändert, %3 unverändert, %4 nicht importiert</source>
+        <translation>новых %1, изменённых %2, неизменённых %3, не импортировано %4</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Zeile(n) nach %1 exportiert</source>
+        <translation>
+            <numerusform>%Ln строка экспортирована в %1</numerusform>
+            <numerusform>%Ln строки экспортированы в %1</numerusform>
+            <numerusform>%Ln строк экспортировано в %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 с %Ln строкой</numerusform>
+            <numerusform>%1 с %Ln строками</numerusform>
+            <numerusform>%1 с %Ln строками</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3058,19 +3159,19 @@ Zeile: %2
         <translation>Таблицы читаются</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dafür</source>
+        <source>%Ln Zeile(n) dafür</source>
         <translation>
-            <numerusform>%n строка за</numerusform>
-            <numerusform>%n строки за</numerusform>
-            <numerusform>%n строк за</numerusform>
+            <numerusform>%Ln строка за</numerusform>
+            <numerusform>%Ln строки за</numerusform>
+            <numerusform>%Ln строк за</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dagegen</source>
+        <source>%Ln Zeile(n) dagegen</source>
         <translation>
-            <numerusform>%n строка против</numerusform>
-            <numerusform>%n строки против</numerusform>
-            <numerusform>%n строк против</numerusform>
+            <numerusform>%Ln строка против</numerusform>
+            <numerusform>%Ln строки против</numerusform>
+            <numerusform>%Ln строк против</numerusform>
         </translation>
     </message>
 </context>
@@ -3087,10 +3188,6 @@ Zeile: %2
     <message>
         <source>Erstellt am %1</source>
         <translation>Создано %1</translation>
-    </message>
-    <message>
-        <source>Erledigt: %1 von %2 Zeilen; offen: %3.</source>
-        <translation>Готово: %1 из %2 строк; открыто: %3.</translation>
     </message>
     <message>
         <source>Stand der Zeilen</source>
@@ -3316,6 +3413,10 @@ Zeile: %2
         <source>Beurteilte Zeilen</source>
         <translation>Оценённые строки</translation>
     </message>
+    <message>
+        <source>Erledigte Zeilen: %1 von %2; offen: %3.</source>
+        <translation>Готовые строки: %1 из %2; открыто: %3.</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3394,11 +3495,11 @@ Zeile: %2
         <translation>Таблицы ещё не сравнены</translation>
     </message>
     <message numerus="yes">
-        <source>Von vorn: %n Zeile(n) offen</source>
+        <source>Von vorn: %Ln Zeile(n) offen</source>
         <translation>
-            <numerusform>С начала: открыта %n строка</numerusform>
-            <numerusform>С начала: открыты %n строки</numerusform>
-            <numerusform>С начала: открыто %n строк</numerusform>
+            <numerusform>С начала: открыта %Ln строка</numerusform>
+            <numerusform>С начала: открыты %Ln строки</numerusform>
+            <numerusform>С начала: открыто %Ln строк</numerusform>
         </translation>
     </message>
     <message>
@@ -3422,19 +3523,19 @@ Zeile: %2
         <translation>Шаблон не выбран, или все его строки решены</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n строка</numerusform>
-            <numerusform>%n строки</numerusform>
-            <numerusform>%n строк</numerusform>
+            <numerusform>%Ln строка</numerusform>
+            <numerusform>%Ln строки</numerusform>
+            <numerusform>%Ln строк</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en) bestätigen?</source>
+        <source>in %Ln Projekt(en) bestätigen?</source>
         <translation>
-            <numerusform>подтвердить в %n проекте?</numerusform>
-            <numerusform>подтвердить в %n проектах?</numerusform>
-            <numerusform>подтвердить в %n проектах?</numerusform>
+            <numerusform>подтвердить в %Ln проекте?</numerusform>
+            <numerusform>подтвердить в %Ln проектах?</numerusform>
+            <numerusform>подтвердить в %Ln проектах?</numerusform>
         </translation>
     </message>
     <message>
@@ -3446,11 +3547,11 @@ Zeile: %2
         <translation>&amp;Подтвердить</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>Подтверждена %n строка</numerusform>
-            <numerusform>Подтверждены %n строки</numerusform>
-            <numerusform>Подтверждено %n строк</numerusform>
+            <numerusform>Подтверждена %Ln строка</numerusform>
+            <numerusform>Подтверждены %Ln строки</numerusform>
+            <numerusform>Подтверждено %Ln строк</numerusform>
         </translation>
     </message>
     <message>
@@ -3472,10 +3573,6 @@ Zeile: %2
     <message>
         <source>Stichprobe</source>
         <translation>Выборка</translation>
-    </message>
-    <message>
-        <source>So viele von %1 Zeilen werden gezogen und einzeln beurteilt. %2 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %3 richtige weniger als 1 %.</source>
-        <translation>Столько строк из %1 отбирается случайно и оценивается по одной. %2 верных говорят с уверенностью 95 %, что неверных меньше 5 %, %3 верных — меньше 1 %.</translation>
     </message>
     <message>
         <source>&amp;Ziehen</source>
@@ -3534,11 +3631,11 @@ Zeile: %2
         <translation>Посмотреть &amp;неверную строку</translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind unsicher.</source>
+        <source>%Ln davon ist/sind unsicher.</source>
         <translation>
-            <numerusform>%n из них сомнительна.</numerusform>
-            <numerusform>%n из них сомнительны.</numerusform>
-            <numerusform>%n из них сомнительны.</numerusform>
+            <numerusform>%Ln из них сомнительна.</numerusform>
+            <numerusform>%Ln из них сомнительны.</numerusform>
+            <numerusform>%Ln из них сомнительны.</numerusform>
         </translation>
     </message>
     <message>
@@ -3546,24 +3643,32 @@ Zeile: %2
         <translation>Все шаблоны обработаны</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>в %n проекте</numerusform>
-            <numerusform>в %n проектах</numerusform>
-            <numerusform>в %n проектах</numerusform>
+            <numerusform>в %Ln проекте</numerusform>
+            <numerusform>в %Ln проектах</numerusform>
+            <numerusform>в %Ln проектах</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n строка подтверждена как снятая с производства</numerusform>
-            <numerusform>%n строки подтверждены как снятые с производства</numerusform>
-            <numerusform>%n строк подтверждено как снятые с производства</numerusform>
+            <numerusform>%Ln строка подтверждена как снятая с производства</numerusform>
+            <numerusform>%Ln строки подтверждены как снятые с производства</numerusform>
+            <numerusform>%Ln строк подтверждено как снятые с производства</numerusform>
         </translation>
     </message>
     <message>
         <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
         <translation>Строка %1 в %2 неверна. Набор разделён; с какой частью продолжить?</translation>
+    </message>
+    <message numerus="yes">
+        <source>So viele von %Ln Zeile(n) werden gezogen und einzeln beurteilt. %1 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %2 richtige weniger als 1 %.</source>
+        <translation>
+            <numerusform>Столько из %Ln строки отбирается случайно и оценивается по одной. %1 верных говорят с уверенностью 95 %, что неверных меньше 5 %, %2 верных — меньше 1 %.</numerusform>
+            <numerusform>Столько из %Ln строк отбирается случайно и оценивается по одной. %1 верных говорят с уверенностью 95 %, что неверных меньше 5 %, %2 верных — меньше 1 %.</numerusform>
+            <numerusform>Столько из %Ln строк отбирается случайно и оценивается по одной. %1 верных говорят с уверенностью 95 %, что неверных меньше 5 %, %2 верных — меньше 1 %.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3721,16 +3826,24 @@ Zeile: %2
         <translation>После последнего завершённого сеанса журнал %1 нечитаем. Что там было, неизвестно; журнал сохраняется.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passen noch %2 Änderungen, %3 passen nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
-        <translation>Журнал %1 повреждён. После повреждения ещё подходят изменения: %2, больше не подходят: %3; других может не хватать. Журнал сохраняется.</translation>
-    </message>
-    <message>
         <source>Das Ende des Journals %1 ist nicht lesbar. Die letzte Änderung kann fehlen.</source>
         <translation>Конец журнала %1 нечитаем. Последнего изменения может не быть.</translation>
     </message>
-    <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
-        <translation>Журнал %1 повреждён или не подходит к файлу сопоставления. Не хватает более поздних изменений: не менее %2; журнал сохраняется.</translation>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passt/passen noch %Ln Änderung(en), %2 nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>Журнал %1 повреждён. После повреждения ещё подходит %Ln изменение, больше не подходят: %2; других может не хватать. Журнал сохраняется.</numerusform>
+            <numerusform>Журнал %1 повреждён. После повреждения ещё подходят %Ln изменения, больше не подходят: %2; других может не хватать. Журнал сохраняется.</numerusform>
+            <numerusform>Журнал %1 повреждён. После повреждения ещё подходят %Ln изменений, больше не подходят: %2; других может не хватать. Журнал сохраняется.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %Ln spätere Änderung(en) fehlt/fehlen; das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>Журнал %1 повреждён или не подходит к файлу сопоставления. Не хватает не менее %Ln более позднего изменения; журнал сохраняется.</numerusform>
+            <numerusform>Журнал %1 повреждён или не подходит к файлу сопоставления. Не хватает не менее %Ln более поздних изменений; журнал сохраняется.</numerusform>
+            <numerusform>Журнал %1 повреждён или не подходит к файлу сопоставления. Не хватает не менее %Ln более поздних изменений; журнал сохраняется.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3982,11 +4095,6 @@ Zeile: %2
         <translation>Всё решено</translation>
     </message>
     <message>
-        <source>Offen: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Открыто: &lt;a href=&quot;next&quot;&gt;строк: %1&lt;/a&gt;, проектов: %2</translation>
-    </message>
-    <message>
         <source>Zeilen, die noch eine Entscheidung brauchen</source>
         <translation>Строки, которые ещё требуют решения</translation>
     </message>
@@ -3999,13 +4107,33 @@ Zeile: %2
         <translation>Фильтр: нет строк</translation>
     </message>
     <message>
-        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Фильтр: &lt;a href=&quot;next&quot;&gt;строк: %1&lt;/a&gt;, проектов: %2</translation>
-    </message>
-    <message>
         <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
         <translation>Строки, которые показывает фильтр по всем строкам</translation>
+    </message>
+    <message numerus="yes">
+        <source>&lt;a href=&quot;next&quot;&gt;%Ln Zeile(n)&lt;/a&gt;</source>
+        <translation>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln строка&lt;/a&gt;</numerusform>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln строки&lt;/a&gt;</numerusform>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln строк&lt;/a&gt;</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Offen: %1</source>
+        <translation>Открыто: %1</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>Фильтр: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <extracomment>&quot;12 lines in 3 projects&quot;</extracomment>
+        <translation>
+            <numerusform>%1 в %Ln проекте</numerusform>
+            <numerusform>%1 в %Ln проектах</numerusform>
+            <numerusform>%1 в %Ln проектах</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -4054,11 +4182,11 @@ Zeile: %2
         <translation>&amp;Закрыть</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <source>Mit %Ln abhängigen &amp;zurücknehmen</source>
         <translation>
-            <numerusform>&amp;Отменить с зависимыми (%n)</numerusform>
-            <numerusform>&amp;Отменить с зависимыми (%n)</numerusform>
-            <numerusform>&amp;Отменить с зависимыми (%n)</numerusform>
+            <numerusform>&amp;Отменить с зависимыми (%Ln)</numerusform>
+            <numerusform>&amp;Отменить с зависимыми (%Ln)</numerusform>
+            <numerusform>&amp;Отменить с зависимыми (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -4066,11 +4194,11 @@ Zeile: %2
         <translation>&amp;Отменить только этот</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <source>Mit %Ln früheren &amp;wieder ausführen</source>
         <translation>
-            <numerusform>&amp;Повторить с более ранними (%n)</numerusform>
-            <numerusform>&amp;Повторить с более ранними (%n)</numerusform>
-            <numerusform>&amp;Повторить с более ранними (%n)</numerusform>
+            <numerusform>&amp;Повторить с более ранними (%Ln)</numerusform>
+            <numerusform>&amp;Повторить с более ранними (%Ln)</numerusform>
+            <numerusform>&amp;Повторить с более ранними (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -4106,22 +4234,22 @@ Zeile: %2
         <translation>Теперь там стоит другое, чего не решал ни один шаг этого списка, например другая программа. Шаг больше нельзя переместить.</translation>
     </message>
     <message numerus="yes">
-        <source>und %n weitere</source>
+        <source>und %Ln weitere</source>
         <translation>
-            <numerusform>и ещё %n</numerusform>
-            <numerusform>и ещё %n</numerusform>
-            <numerusform>и ещё %n</numerusform>
+            <numerusform>и ещё %Ln</numerusform>
+            <numerusform>и ещё %Ln</numerusform>
+            <numerusform>и ещё %Ln</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepListModel</name>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1 в %n проекте</numerusform>
-            <numerusform>%1 в %n проектах</numerusform>
-            <numerusform>%1 в %n проектах</numerusform>
+            <numerusform>%1 в %Ln проекте</numerusform>
+            <numerusform>%1 в %Ln проектах</numerusform>
+            <numerusform>%1 в %Ln проектах</numerusform>
         </translation>
     </message>
     <message>
@@ -4164,11 +4292,11 @@ Zeile: %2
         <translation>Изменение в %1 подействует, только когда строки будут назначены заново. При этом сохранится только подтверждённое.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
+        <source>%Ln Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
         <translation>
-            <numerusform>%n строка в %1 была подтверждена как снятая с производства и больше не подтверждена: %2</numerusform>
-            <numerusform>%n строки в %1 были подтверждены как снятые с производства и больше не подтверждены: %2</numerusform>
-            <numerusform>%n строк в %1 были подтверждены как снятые с производства и больше не подтверждены: %2</numerusform>
+            <numerusform>%Ln строка в %1 была подтверждена как снятая с производства и больше не подтверждена: %2</numerusform>
+            <numerusform>%Ln строки в %1 были подтверждены как снятые с производства и больше не подтверждены: %2</numerusform>
+            <numerusform>%Ln строк в %1 были подтверждены как снятые с производства и больше не подтверждены: %2</numerusform>
         </translation>
     </message>
     <message>
@@ -4184,86 +4312,86 @@ Zeile: %2
         <translation>Сопоставление переменных целевого проекта %1 в %2 отпало.</translation>
     </message>
     <message numerus="yes">
-        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %n andere Zeile(n): %4</source>
+        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %Ln andere Zeile(n): %4</source>
         <translation>
-            <numerusform>Строка %1 → %2 в %3: эта же целевая строка ещё у %n строки: %4</numerusform>
-            <numerusform>Строка %1 → %2 в %3: эта же целевая строка ещё у %n строк: %4</numerusform>
-            <numerusform>Строка %1 → %2 в %3: эта же целевая строка ещё у %n строк: %4</numerusform>
+            <numerusform>Строка %1 → %2 в %3: эта же целевая строка ещё у %Ln строки: %4</numerusform>
+            <numerusform>Строка %1 → %2 в %3: эта же целевая строка ещё у %Ln строк: %4</numerusform>
+            <numerusform>Строка %1 → %2 в %3: эта же целевая строка ещё у %Ln строк: %4</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
+        <source>%Ln Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
         <translation>
-            <numerusform>%n строка в %1 делит целевую строку с вновь назначенными: %2</numerusform>
-            <numerusform>%n строки в %1 делят целевую строку с вновь назначенными: %2</numerusform>
-            <numerusform>%n строк в %1 делят целевую строку с вновь назначенными: %2</numerusform>
+            <numerusform>%Ln строка в %1 делит целевую строку с вновь назначенными: %2</numerusform>
+            <numerusform>%Ln строки в %1 делят целевую строку с вновь назначенными: %2</numerusform>
+            <numerusform>%Ln строк в %1 делят целевую строку с вновь назначенными: %2</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepSummary</name>
     <message numerus="yes">
-        <source>%n Konflikt(e) angenommen</source>
+        <source>%Ln Konflikt(e) angenommen</source>
         <translation>
-            <numerusform>принят %n конфликт</numerusform>
-            <numerusform>приняты %n конфликта</numerusform>
-            <numerusform>принято %n конфликтов</numerusform>
+            <numerusform>принят %Ln конфликт</numerusform>
+            <numerusform>приняты %Ln конфликта</numerusform>
+            <numerusform>принято %Ln конфликтов</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>Подтверждена %n строка</numerusform>
-            <numerusform>Подтверждены %n строки</numerusform>
-            <numerusform>Подтверждено %n строк</numerusform>
+            <numerusform>Подтверждена %Ln строка</numerusform>
+            <numerusform>Подтверждены %Ln строки</numerusform>
+            <numerusform>Подтверждено %Ln строк</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n строка подтверждена как снятая с производства</numerusform>
-            <numerusform>%n строки подтверждены как снятые с производства</numerusform>
-            <numerusform>%n строк подтверждено как снятые с производства</numerusform>
+            <numerusform>%Ln строка подтверждена как снятая с производства</numerusform>
+            <numerusform>%Ln строки подтверждены как снятые с производства</numerusform>
+            <numerusform>%Ln строк подтверждено как снятые с производства</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) zugeordnet</source>
+        <source>%Ln Zeile(n) zugeordnet</source>
         <translation>
-            <numerusform>назначена %n строка</numerusform>
-            <numerusform>назначены %n строки</numerusform>
-            <numerusform>назначено %n строк</numerusform>
+            <numerusform>назначена %Ln строка</numerusform>
+            <numerusform>назначены %Ln строки</numerusform>
+            <numerusform>назначено %Ln строк</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben</source>
         <translation>
-            <numerusform>снято назначение %n строки</numerusform>
-            <numerusform>снято назначение %n строк</numerusform>
-            <numerusform>снято назначение %n строк</numerusform>
+            <numerusform>снято назначение %Ln строки</numerusform>
+            <numerusform>снято назначение %Ln строк</numerusform>
+            <numerusform>снято назначение %Ln строк</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Wertebereichszuordnung von %n Zeile(n) geändert</source>
+        <source>Wertebereichszuordnung von %Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>изменено назначение диапазонов значений %n строки</numerusform>
-            <numerusform>изменено назначение диапазонов значений %n строк</numerusform>
-            <numerusform>изменено назначение диапазонов значений %n строк</numerusform>
+            <numerusform>изменено назначение диапазонов значений %Ln строки</numerusform>
+            <numerusform>изменено назначение диапазонов значений %Ln строк</numerusform>
+            <numerusform>изменено назначение диапазонов значений %Ln строк</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Konflikt von %n Zeile(n) gelöst</source>
+        <source>Konflikt von %Ln Zeile(n) gelöst</source>
         <translation>
-            <numerusform>разрешён конфликт %n строки</numerusform>
-            <numerusform>разрешён конфликт %n строк</numerusform>
-            <numerusform>разрешён конфликт %n строк</numerusform>
+            <numerusform>разрешён конфликт %Ln строки</numerusform>
+            <numerusform>разрешён конфликт %Ln строк</numerusform>
+            <numerusform>разрешён конфликт %Ln строк</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) geändert</source>
+        <source>%Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>изменена %n строка</numerusform>
-            <numerusform>изменены %n строки</numerusform>
-            <numerusform>изменено %n строк</numerusform>
+            <numerusform>изменена %Ln строка</numerusform>
+            <numerusform>изменены %Ln строки</numerusform>
+            <numerusform>изменено %Ln строк</numerusform>
         </translation>
     </message>
     <message>
@@ -4331,11 +4459,11 @@ Zeile: %2
         <translation>%1 в %2</translation>
     </message>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1 в %n проекте</numerusform>
-            <numerusform>%1 в %n проектах</numerusform>
-            <numerusform>%1 в %n проектах</numerusform>
+            <numerusform>%1 в %Ln проекте</numerusform>
+            <numerusform>%1 в %Ln проектах</numerusform>
+            <numerusform>%1 в %Ln проектах</numerusform>
         </translation>
     </message>
 </context>
@@ -4381,11 +4509,11 @@ Zeile: %2
         <translation>Проверка назначений диапазонов значений</translation>
     </message>
     <message numerus="yes">
-        <source>%n Wertebereichszuordnung(en) geprüft</source>
+        <source>%Ln Wertebereichszuordnung(en) geprüft</source>
         <translation>
-            <numerusform>Проверено %n назначение диапазонов значений</numerusform>
-            <numerusform>Проверено %n назначения диапазонов значений</numerusform>
-            <numerusform>Проверено %n назначений диапазонов значений</numerusform>
+            <numerusform>Проверено %Ln назначение диапазонов значений</numerusform>
+            <numerusform>Проверено %Ln назначения диапазонов значений</numerusform>
+            <numerusform>Проверено %Ln назначений диапазонов значений</numerusform>
         </translation>
     </message>
     <message>
@@ -4393,11 +4521,11 @@ Zeile: %2
         <translation>без замечаний</translation>
     </message>
     <message numerus="yes">
-        <source>%n Beanstandung(en)</source>
+        <source>%Ln Beanstandung(en)</source>
         <translation>
-            <numerusform>%n замечание</numerusform>
-            <numerusform>%n замечания</numerusform>
-            <numerusform>%n замечаний</numerusform>
+            <numerusform>%Ln замечание</numerusform>
+            <numerusform>%Ln замечания</numerusform>
+            <numerusform>%Ln замечаний</numerusform>
         </translation>
     </message>
     <message>

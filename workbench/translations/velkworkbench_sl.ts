@@ -8,129 +8,129 @@
         <translation>Ničesar ni treba spremeniti.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigen?</source>
+        <source>%Ln Zeile(n) bestätigen?</source>
         <translation>
-            <numerusform>Potrdim %n vrstico?</numerusform>
-            <numerusform>Potrdim %n vrstici?</numerusform>
-            <numerusform>Potrdim %n vrstice?</numerusform>
-            <numerusform>Potrdim %n vrstic?</numerusform>
+            <numerusform>Potrdim %Ln vrstico?</numerusform>
+            <numerusform>Potrdim %Ln vrstici?</numerusform>
+            <numerusform>Potrdim %Ln vrstice?</numerusform>
+            <numerusform>Potrdim %Ln vrstic?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigen?</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Potrdim %n vrstico kot opuščeno?</numerusform>
-            <numerusform>Potrdim %n vrstici kot opuščeni?</numerusform>
-            <numerusform>Potrdim %n vrstice kot opuščene?</numerusform>
-            <numerusform>Potrdim %n vrstic kot opuščenih?</numerusform>
+            <numerusform>Potrdim %Ln vrstico kot opuščeno?</numerusform>
+            <numerusform>Potrdim %Ln vrstici kot opuščeni?</numerusform>
+            <numerusform>Potrdim %Ln vrstice kot opuščene?</numerusform>
+            <numerusform>Potrdim %Ln vrstic kot opuščenih?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben?</source>
         <translation>
-            <numerusform>Razveljavim dodelitev %n vrstice?</numerusform>
-            <numerusform>Razveljavim dodelitev %n vrstic?</numerusform>
-            <numerusform>Razveljavim dodelitev %n vrstic?</numerusform>
-            <numerusform>Razveljavim dodelitev %n vrstic?</numerusform>
+            <numerusform>Razveljavim dodelitev %Ln vrstice?</numerusform>
+            <numerusform>Razveljavim dodelitev %Ln vrstic?</numerusform>
+            <numerusform>Razveljavim dodelitev %Ln vrstic?</numerusform>
+            <numerusform>Razveljavim dodelitev %Ln vrstic?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Razveljavim dodelitev %n vrstice in jo potrdim kot opuščeno?</numerusform>
-            <numerusform>Razveljavim dodelitev %n vrstic in ju potrdim kot opuščeni?</numerusform>
-            <numerusform>Razveljavim dodelitev %n vrstic in jih potrdim kot opuščene?</numerusform>
-            <numerusform>Razveljavim dodelitev %n vrstic in jih potrdim kot opuščene?</numerusform>
+            <numerusform>Razveljavim dodelitev %Ln vrstice in jo potrdim kot opuščeno?</numerusform>
+            <numerusform>Razveljavim dodelitev %Ln vrstic in ju potrdim kot opuščeni?</numerusform>
+            <numerusform>Razveljavim dodelitev %Ln vrstic in jih potrdim kot opuščene?</numerusform>
+            <numerusform>Razveljavim dodelitev %Ln vrstic in jih potrdim kot opuščene?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind schon bestätigt.</source>
+        <source>%Ln davon ist/sind schon bestätigt.</source>
         <translation>
-            <numerusform>%n od njih je že potrjena.</numerusform>
-            <numerusform>%n od njih sta že potrjeni.</numerusform>
-            <numerusform>%n od njih so že potrjene.</numerusform>
-            <numerusform>%n od njih je že potrjenih.</numerusform>
+            <numerusform>%Ln od njih je že potrjena.</numerusform>
+            <numerusform>%Ln od njih sta že potrjeni.</numerusform>
+            <numerusform>%Ln od njih so že potrjene.</numerusform>
+            <numerusform>%Ln od njih je že potrjenih.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon verliert/verlieren ihre Wertebereichszuordnung.</source>
+        <source>%Ln davon verliert/verlieren ihre Wertebereichszuordnung.</source>
         <translation>
-            <numerusform>%n od njih izgubi svojo dodelitev območij vrednosti.</numerusform>
-            <numerusform>%n od njih izgubita svoji dodelitvi območij vrednosti.</numerusform>
-            <numerusform>%n od njih izgubijo svoje dodelitve območij vrednosti.</numerusform>
-            <numerusform>%n od njih izgubi svoje dodelitve območij vrednosti.</numerusform>
+            <numerusform>%Ln od njih izgubi svojo dodelitev območij vrednosti.</numerusform>
+            <numerusform>%Ln od njih izgubita svoji dodelitvi območij vrednosti.</numerusform>
+            <numerusform>%Ln od njih izgubijo svoje dodelitve območij vrednosti.</numerusform>
+            <numerusform>%Ln od njih izgubi svoje dodelitve območij vrednosti.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
+        <source>%Ln Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
         <translation>
-            <numerusform>%n vrstica brez cilja ostane nepotrjena.</numerusform>
-            <numerusform>%n vrstici brez cilja ostaneta nepotrjeni.</numerusform>
-            <numerusform>%n vrstice brez cilja ostanejo nepotrjene.</numerusform>
-            <numerusform>%n vrstic brez cilja ostane nepotrjenih.</numerusform>
+            <numerusform>%Ln vrstica brez cilja ostane nepotrjena.</numerusform>
+            <numerusform>%Ln vrstici brez cilja ostaneta nepotrjeni.</numerusform>
+            <numerusform>%Ln vrstice brez cilja ostanejo nepotrjene.</numerusform>
+            <numerusform>%Ln vrstic brez cilja ostane nepotrjenih.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
+        <source>%Ln Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
         <translation>
-            <numerusform>%n vrstica ostane, kot je.</numerusform>
-            <numerusform>%n vrstici ostaneta, kot sta.</numerusform>
-            <numerusform>%n vrstice ostanejo, kot so.</numerusform>
-            <numerusform>%n vrstic ostane, kot so.</numerusform>
+            <numerusform>%Ln vrstica ostane, kot je.</numerusform>
+            <numerusform>%Ln vrstici ostaneta, kot sta.</numerusform>
+            <numerusform>%Ln vrstice ostanejo, kot so.</numerusform>
+            <numerusform>%Ln vrstic ostane, kot so.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
+        <source>%Ln Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
         <translation>
-            <numerusform>%n vrstica v sporu se ne spremeni.</numerusform>
-            <numerusform>%n vrstici v sporu se ne spremenita.</numerusform>
-            <numerusform>%n vrstice v sporu se ne spremenijo.</numerusform>
-            <numerusform>%n vrstic v sporu se ne spremeni.</numerusform>
+            <numerusform>%Ln vrstica v sporu se ne spremeni.</numerusform>
+            <numerusform>%Ln vrstici v sporu se ne spremenita.</numerusform>
+            <numerusform>%Ln vrstice v sporu se ne spremenijo.</numerusform>
+            <numerusform>%Ln vrstic v sporu se ne spremeni.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
+        <source>%Ln Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
         <translation>
-            <numerusform>%n vrstica ni vpisana v noben ciljni projekt.</numerusform>
-            <numerusform>%n vrstici nista vpisani v noben ciljni projekt.</numerusform>
-            <numerusform>%n vrstice niso vpisane v noben ciljni projekt.</numerusform>
-            <numerusform>%n vrstic ni vpisanih v noben ciljni projekt.</numerusform>
+            <numerusform>%Ln vrstica ni vpisana v noben ciljni projekt.</numerusform>
+            <numerusform>%Ln vrstici nista vpisani v noben ciljni projekt.</numerusform>
+            <numerusform>%Ln vrstice niso vpisane v noben ciljni projekt.</numerusform>
+            <numerusform>%Ln vrstic ni vpisanih v noben ciljni projekt.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt.</source>
+        <source>%Ln Zeile(n) bestätigt.</source>
         <translation>
-            <numerusform>%n vrstica potrjena.</numerusform>
-            <numerusform>%n vrstici potrjeni.</numerusform>
-            <numerusform>%n vrstice potrjene.</numerusform>
-            <numerusform>%n vrstic potrjenih.</numerusform>
+            <numerusform>%Ln vrstica potrjena.</numerusform>
+            <numerusform>%Ln vrstici potrjeni.</numerusform>
+            <numerusform>%Ln vrstice potrjene.</numerusform>
+            <numerusform>%Ln vrstic potrjenih.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt.</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>%n vrstica potrjena kot opuščena.</numerusform>
-            <numerusform>%n vrstici potrjeni kot opuščeni.</numerusform>
-            <numerusform>%n vrstice potrjene kot opuščene.</numerusform>
-            <numerusform>%n vrstic potrjenih kot opuščenih.</numerusform>
+            <numerusform>%Ln vrstica potrjena kot opuščena.</numerusform>
+            <numerusform>%Ln vrstici potrjeni kot opuščeni.</numerusform>
+            <numerusform>%Ln vrstice potrjene kot opuščene.</numerusform>
+            <numerusform>%Ln vrstic potrjenih kot opuščenih.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben.</source>
         <translation>
-            <numerusform>Dodelitev %n vrstice razveljavljena.</numerusform>
-            <numerusform>Dodelitev %n vrstic razveljavljena.</numerusform>
-            <numerusform>Dodelitev %n vrstic razveljavljena.</numerusform>
-            <numerusform>Dodelitev %n vrstic razveljavljena.</numerusform>
+            <numerusform>Dodelitev %Ln vrstice razveljavljena.</numerusform>
+            <numerusform>Dodelitev %Ln vrstic razveljavljena.</numerusform>
+            <numerusform>Dodelitev %Ln vrstic razveljavljena.</numerusform>
+            <numerusform>Dodelitev %Ln vrstic razveljavljena.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>Dodelitev %n vrstice razveljavljena, vrstica potrjena kot opuščena.</numerusform>
-            <numerusform>Dodelitev %n vrstic razveljavljena, vrstici potrjeni kot opuščeni.</numerusform>
-            <numerusform>Dodelitev %n vrstic razveljavljena, vrstice potrjene kot opuščene.</numerusform>
-            <numerusform>Dodelitev %n vrstic razveljavljena, vrstice potrjene kot opuščene.</numerusform>
+            <numerusform>Dodelitev %Ln vrstice razveljavljena, vrstica potrjena kot opuščena.</numerusform>
+            <numerusform>Dodelitev %Ln vrstic razveljavljena, vrstici potrjeni kot opuščeni.</numerusform>
+            <numerusform>Dodelitev %Ln vrstic razveljavljena, vrstice potrjene kot opuščene.</numerusform>
+            <numerusform>Dodelitev %Ln vrstic razveljavljena, vrstice potrjene kot opuščene.</numerusform>
         </translation>
     </message>
 </context>
@@ -188,10 +188,6 @@
         <translation>Iz %1 ni ničesar za prevzeti.</translation>
     </message>
     <message>
-        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
-        <translation>Prevzeto iz %1: %2 od %3 potrjenih vrstic, %4 zanesljivo dodeljenih, %5 predlaganih.</translation>
-    </message>
-    <message>
         <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
         <translation>Datoteka ne vsebuje preslikave iz izdaje kataloga %1.</translation>
     </message>
@@ -234,6 +230,15 @@
     <message>
         <source>Entscheidungen aus %1 übernommen: %2</source>
         <translation>Odločitve, prevzete iz %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Aus %1 übernommen: %2 von %Ln bestätigten Zeile(n), %3 sicher zugeordnet, %4 vorgeschlagen.</source>
+        <translation>
+            <numerusform>Prevzeto iz %1: %2 od %Ln potrjene vrstice, %3 zanesljivo dodeljenih, %4 predlaganih.</numerusform>
+            <numerusform>Prevzeto iz %1: %2 od %Ln potrjenih vrstic, %3 zanesljivo dodeljenih, %4 predlaganih.</numerusform>
+            <numerusform>Prevzeto iz %1: %2 od %Ln potrjenih vrstic, %3 zanesljivo dodeljenih, %4 predlaganih.</numerusform>
+            <numerusform>Prevzeto iz %1: %2 od %Ln potrjenih vrstic, %3 zanesljivo dodeljenih, %4 predlaganih.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -298,12 +303,12 @@
         <translation>Spor %1 od %2, odprtih še %3</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
+        <source>%Ln Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
         <translation>
-            <numerusform>%n vrstica iz %1 si nasprotuje na enak način. Velja odločitev za vse?</numerusform>
-            <numerusform>%n vrstici iz %1 si nasprotujeta na enak način. Velja odločitev za vse?</numerusform>
-            <numerusform>%n vrstice iz %1 si nasprotujejo na enak način. Velja odločitev za vse?</numerusform>
-            <numerusform>%n vrstic iz %1 si nasprotuje na enak način. Velja odločitev za vse?</numerusform>
+            <numerusform>%Ln vrstica iz %1 si nasprotuje na enak način. Velja odločitev za vse?</numerusform>
+            <numerusform>%Ln vrstici iz %1 si nasprotujeta na enak način. Velja odločitev za vse?</numerusform>
+            <numerusform>%Ln vrstice iz %1 si nasprotujejo na enak način. Velja odločitev za vse?</numerusform>
+            <numerusform>%Ln vrstic iz %1 si nasprotuje na enak način. Velja odločitev za vse?</numerusform>
         </translation>
     </message>
     <message>
@@ -339,17 +344,13 @@ Druga: %2</translation>
         <source>Alle Konflikte sind entschieden.</source>
         <translation>Vsi spori so odločeni.</translation>
     </message>
-    <message>
-        <source>%1 von %2 Konflikten sind noch offen.</source>
-        <translation>Odprti spori: %1 od %2.</translation>
-    </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) widersprechen sich wie diese.</source>
+        <source>%Ln weitere Zeile(n) widersprechen sich wie diese.</source>
         <translation>
-            <numerusform>Še %n vrstica si nasprotuje kot ta.</numerusform>
-            <numerusform>Še %n vrstici si nasprotujeta kot ta.</numerusform>
-            <numerusform>Še %n vrstice si nasprotujejo kot ta.</numerusform>
-            <numerusform>Še %n vrstic si nasprotuje kot ta.</numerusform>
+            <numerusform>Še %Ln vrstica si nasprotuje kot ta.</numerusform>
+            <numerusform>Še %Ln vrstici si nasprotujeta kot ta.</numerusform>
+            <numerusform>Še %Ln vrstice si nasprotujejo kot ta.</numerusform>
+            <numerusform>Še %Ln vrstic si nasprotuje kot ta.</numerusform>
         </translation>
     </message>
     <message>
@@ -371,6 +372,15 @@ Druga: %2</translation>
     <message>
         <source>Neu entscheiden</source>
         <translation>Odloči na novo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Konflikt(en) noch offen.</source>
+        <translation>
+            <numerusform>Odprti spori: %1 od %Ln.</numerusform>
+            <numerusform>Odprti spori: %1 od %Ln.</numerusform>
+            <numerusform>Odprti spori: %1 od %Ln.</numerusform>
+            <numerusform>Odprti spori: %1 od %Ln.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -489,12 +499,12 @@ Druga: %2</translation>
         <translation>enako</translation>
     </message>
     <message numerus="yes">
-        <source>ersetzt wie in %n weiteren Zeile(n)</source>
+        <source>ersetzt wie in %Ln weiteren Zeile(n)</source>
         <translation>
-            <numerusform>nadomeščeno kot v še %n vrstici</numerusform>
-            <numerusform>nadomeščeno kot v še %n vrsticah</numerusform>
-            <numerusform>nadomeščeno kot v še %n vrsticah</numerusform>
-            <numerusform>nadomeščeno kot v še %n vrsticah</numerusform>
+            <numerusform>nadomeščeno kot v še %Ln vrstici</numerusform>
+            <numerusform>nadomeščeno kot v še %Ln vrsticah</numerusform>
+            <numerusform>nadomeščeno kot v še %Ln vrsticah</numerusform>
+            <numerusform>nadomeščeno kot v še %Ln vrsticah</numerusform>
         </translation>
     </message>
     <message>
@@ -557,12 +567,12 @@ Druga: %2</translation>
         <translation>Zanesljivo dodeljena.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n vrstica</numerusform>
-            <numerusform>%n vrstici</numerusform>
-            <numerusform>%n vrstice</numerusform>
-            <numerusform>%n vrstic</numerusform>
+            <numerusform>%Ln vrstica</numerusform>
+            <numerusform>%Ln vrstici</numerusform>
+            <numerusform>%Ln vrstice</numerusform>
+            <numerusform>%Ln vrstic</numerusform>
         </translation>
     </message>
     <message>
@@ -645,25 +655,21 @@ Druga: %2</translation>
         <translation>Zav&amp;rzi</translation>
     </message>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n vrstica</numerusform>
-            <numerusform>%1: %n vrstici</numerusform>
-            <numerusform>%1: %n vrstice</numerusform>
-            <numerusform>%1: %n vrstic</numerusform>
+            <numerusform>%1: %Ln vrstica</numerusform>
+            <numerusform>%1: %Ln vrstici</numerusform>
+            <numerusform>%1: %Ln vrstice</numerusform>
+            <numerusform>%1: %Ln vrstic</numerusform>
         </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>in še %1</translation>
-    </message>
     <message numerus="yes">
-        <source>Noch %n Zeile(n) in Konflikt, in diesen Projekten:</source>
+        <source>Noch %Ln Zeile(n) in Konflikt, in diesen Projekten:</source>
         <translation>
-            <numerusform>Še %n vrstica v sporu, v teh projektih:</numerusform>
-            <numerusform>Še %n vrstici v sporu, v teh projektih:</numerusform>
-            <numerusform>Še %n vrstice v sporu, v teh projektih:</numerusform>
-            <numerusform>Še %n vrstic v sporu, v teh projektih:</numerusform>
+            <numerusform>Še %Ln vrstica v sporu, v teh projektih:</numerusform>
+            <numerusform>Še %Ln vrstici v sporu, v teh projektih:</numerusform>
+            <numerusform>Še %Ln vrstice v sporu, v teh projektih:</numerusform>
+            <numerusform>Še %Ln vrstic v sporu, v teh projektih:</numerusform>
         </translation>
     </message>
     <message>
@@ -705,6 +711,15 @@ Druga: %2</translation>
     <message>
         <source>Die Mapping-Datei kann nicht angelegt werden.</source>
         <translation>Datoteke preslikav ni mogoče ustvariti.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>in še %Ln</numerusform>
+            <numerusform>in še %Ln</numerusform>
+            <numerusform>in še %Ln</numerusform>
+            <numerusform>in še %Ln</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -768,6 +783,15 @@ Izberite drugo datoteko.</translation>
     <message>
         <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte einen anderen Ordner wählen.</source>
         <translation>V mapi datoteke %1 ni mogoče ničesar ustvariti (%2). Nič ni bilo zapisano. Izberite drugo mapo.</translation>
+    </message>
+</context>
+<context>
+    <name>EditorArea</name>
+    <message>
+        <source>Keine Zeile dieses Projekts ist im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Zeilen zu sehen.</source>
+        <translation>Nobena vrstica tega projekta ni v filtru.
+Odprite »%1« in izberite »%2«, da bodo spet vidne vse vrstice.</translation>
     </message>
 </context>
 <context>
@@ -895,21 +919,21 @@ Izberite drugo datoteko.</translation>
         <translation>Branje tabel...</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n vrstica</numerusform>
-            <numerusform>%n vrstici</numerusform>
-            <numerusform>%n vrstice</numerusform>
-            <numerusform>%n vrstic</numerusform>
+            <numerusform>%Ln vrstica</numerusform>
+            <numerusform>%Ln vrstici</numerusform>
+            <numerusform>%Ln vrstice</numerusform>
+            <numerusform>%Ln vrstic</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>v %n projektu</numerusform>
-            <numerusform>v %n projektih</numerusform>
-            <numerusform>v %n projektih</numerusform>
-            <numerusform>v %n projektih</numerusform>
+            <numerusform>v %Ln projektu</numerusform>
+            <numerusform>v %Ln projektih</numerusform>
+            <numerusform>v %Ln projektih</numerusform>
+            <numerusform>v %Ln projektih</numerusform>
         </translation>
     </message>
     <message>
@@ -917,12 +941,12 @@ Izberite drugo datoteko.</translation>
         <translation>Brez filtra: vse vrstice</translation>
     </message>
     <message numerus="yes">
-        <source>%n Tabelle(n) nicht lesbar</source>
+        <source>%Ln Tabelle(n) nicht lesbar</source>
         <translation>
-            <numerusform>Neberljive tabele: %n</numerusform>
-            <numerusform>Neberljive tabele: %n</numerusform>
-            <numerusform>Neberljive tabele: %n</numerusform>
-            <numerusform>Neberljive tabele: %n</numerusform>
+            <numerusform>Neberljive tabele: %Ln</numerusform>
+            <numerusform>Neberljive tabele: %Ln</numerusform>
+            <numerusform>Neberljive tabele: %Ln</numerusform>
+            <numerusform>Neberljive tabele: %Ln</numerusform>
         </translation>
     </message>
     <message>
@@ -1071,12 +1095,12 @@ Izberite drugo datoteko.</translation>
         <translation>Vrstica %1 v %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1</source>
+        <source>%Ln Zeile(n) in %1</source>
         <translation>
-            <numerusform>%n vrstica v %1</numerusform>
-            <numerusform>%n vrstici v %1</numerusform>
-            <numerusform>%n vrstice v %1</numerusform>
-            <numerusform>%n vrstic v %1</numerusform>
+            <numerusform>%Ln vrstica v %1</numerusform>
+            <numerusform>%Ln vrstici v %1</numerusform>
+            <numerusform>%Ln vrstice v %1</numerusform>
+            <numerusform>%Ln vrstic v %1</numerusform>
         </translation>
     </message>
     <message>
@@ -1405,12 +1429,12 @@ Izberite drugo datoteko.</translation>
         <translation>Kopiranega pogoja tako še ni mogoče uporabiti: vrednost manjka, je območje ali vsebuje narekovaj: %1</translation>
     </message>
     <message numerus="yes">
-        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.</source>
+        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %Ln Zeile(n) offen.</source>
         <translation>
-            <numerusform>Tu v filtru je vse opravljeno, zunaj je odprta še %n vrstica.</numerusform>
-            <numerusform>Tu v filtru je vse opravljeno, zunaj sta odprti še %n vrstici.</numerusform>
-            <numerusform>Tu v filtru je vse opravljeno, zunaj so odprte še %n vrstice.</numerusform>
-            <numerusform>Tu v filtru je vse opravljeno, zunaj je odprtih še %n vrstic.</numerusform>
+            <numerusform>Tu v filtru je vse opravljeno, zunaj je odprta še %Ln vrstica.</numerusform>
+            <numerusform>Tu v filtru je vse opravljeno, zunaj sta odprti še %Ln vrstici.</numerusform>
+            <numerusform>Tu v filtru je vse opravljeno, zunaj so odprte še %Ln vrstice.</numerusform>
+            <numerusform>Tu v filtru je vse opravljeno, zunaj je odprtih še %Ln vrstic.</numerusform>
         </translation>
     </message>
     <message>
@@ -1478,16 +1502,16 @@ Izberite drugo datoteko.</translation>
         <translation>Gre za vse vrstice projekta.</translation>
     </message>
     <message>
-        <source>Gemeint sind die %1 gezeigten von %2 Zeilen des Projekts.</source>
-        <translation>Gre za prikazane vrstice projekta: %1 od %2.</translation>
-    </message>
-    <message>
         <source>Filter: %1.</source>
         <translation>Filter: %1.</translation>
     </message>
     <message>
         <source>Kein anderes Projekt hat solche Zeilen</source>
         <translation>Noben drug projekt nima takih vrstic</translation>
+    </message>
+    <message>
+        <source>Gemeint sind nur die gezeigten Zeilen des Projekts: %1 von %2.</source>
+        <translation>Gre samo za prikazane vrstice projekta: %1 od %2.</translation>
     </message>
 </context>
 <context>
@@ -1720,10 +1744,6 @@ Izberite drugo datoteko.</translation>
         <translation>&amp;Zapri</translation>
     </message>
     <message>
-        <source>Die ersten %1 Links; die Suche zeigt andere.</source>
-        <translation>Prvih %1 povezav; iskanje pokaže druge.</translation>
-    </message>
-    <message>
         <source>Links: %1</source>
         <translation>Povezave: %1</translation>
     </message>
@@ -1742,6 +1762,15 @@ Izberite drugo datoteko.</translation>
     <message>
         <source>&amp;Wiederherstellen</source>
         <translation>&amp;Obnovi</translation>
+    </message>
+    <message numerus="yes">
+        <source>Die ersten %Ln Link(s); die Suche zeigt andere.</source>
+        <translation>
+            <numerusform>Prva %Ln povezava; iskanje pokaže druge.</numerusform>
+            <numerusform>Prvi %Ln povezavi; iskanje pokaže druge.</numerusform>
+            <numerusform>Prve %Ln povezave; iskanje pokaže druge.</numerusform>
+            <numerusform>Prvih %Ln povezav; iskanje pokaže druge.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1864,17 +1893,22 @@ Izberite drugo datoteko.</translation>
         <source>Nichts gefunden</source>
         <translation>Nič ni najdeno</translation>
     </message>
-    <message>
-        <source>Die ersten %1 von %2 Treffern</source>
-        <translation>Prvi zadetki: %1 od %2</translation>
+    <message numerus="yes">
+        <source>%Ln Treffer</source>
+        <translation>
+            <numerusform>%Ln zadetek</numerusform>
+            <numerusform>%Ln zadetka</numerusform>
+            <numerusform>%Ln zadetki</numerusform>
+            <numerusform>%Ln zadetkov</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
-        <source>%n Treffer</source>
+        <source>Die ersten %1 von %Ln Treffer(n)</source>
         <translation>
-            <numerusform>%n zadetek</numerusform>
-            <numerusform>%n zadetka</numerusform>
-            <numerusform>%n zadetki</numerusform>
-            <numerusform>%n zadetkov</numerusform>
+            <numerusform>Prvi zadetki: %1 od %Ln</numerusform>
+            <numerusform>Prvi zadetki: %1 od %Ln</numerusform>
+            <numerusform>Prvi zadetki: %1 od %Ln</numerusform>
+            <numerusform>Prvi zadetki: %1 od %Ln</numerusform>
         </translation>
     </message>
 </context>
@@ -2097,30 +2131,30 @@ Izberite drugo datoteko.</translation>
         <translation>Lastne spremembe na različici iz datoteke</translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): eigene Entscheidung</source>
+        <source>%Ln Konflikt(e): eigene Entscheidung</source>
         <translation>
-            <numerusform>%n spor: lastna odločitev</numerusform>
-            <numerusform>%n spora: lastna odločitev</numerusform>
-            <numerusform>%n spori: lastna odločitev</numerusform>
-            <numerusform>%n sporov: lastna odločitev</numerusform>
+            <numerusform>%Ln spor: lastna odločitev</numerusform>
+            <numerusform>%Ln spora: lastna odločitev</numerusform>
+            <numerusform>%Ln spori: lastna odločitev</numerusform>
+            <numerusform>%Ln sporov: lastna odločitev</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): Entscheidung der anderen Seite</source>
+        <source>%Ln Konflikt(e): Entscheidung der anderen Seite</source>
         <translation>
-            <numerusform>%n spor: odločitev druge strani</numerusform>
-            <numerusform>%n spora: odločitev druge strani</numerusform>
-            <numerusform>%n spori: odločitev druge strani</numerusform>
-            <numerusform>%n sporov: odločitev druge strani</numerusform>
+            <numerusform>%Ln spor: odločitev druge strani</numerusform>
+            <numerusform>%Ln spora: odločitev druge strani</numerusform>
+            <numerusform>%Ln spori: odločitev druge strani</numerusform>
+            <numerusform>%Ln sporov: odločitev druge strani</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): neu zu entscheiden</source>
+        <source>%Ln Konflikt(e): neu zu entscheiden</source>
         <translation>
-            <numerusform>%n spor: odločiti na novo</numerusform>
-            <numerusform>%n spora: odločiti na novo</numerusform>
-            <numerusform>%n spori: odločiti na novo</numerusform>
-            <numerusform>%n sporov: odločiti na novo</numerusform>
+            <numerusform>%Ln spor: odločiti na novo</numerusform>
+            <numerusform>%Ln spora: odločiti na novo</numerusform>
+            <numerusform>%Ln spori: odločiti na novo</numerusform>
+            <numerusform>%Ln sporov: odločiti na novo</numerusform>
         </translation>
     </message>
     <message>
@@ -2191,58 +2225,81 @@ Izberite drugo datoteko.</translation>
         <translation>Prekinjeno, nič ni bilo ustvarjeno</translation>
     </message>
     <message>
-        <source>%1 Projekte: %2 am selben Ort, %3 an anderem, %4 aufgeteilt, %5 ohne Ziel, %6 unlesbar</source>
-        <translation>Projekti: %1, od tega na istem mestu %2, drugje %3, razdeljeni %4, brez cilja %5, neberljivi %6</translation>
-    </message>
-    <message>
         <source>Zeilen werden zugeordnet</source>
         <translation>Dodeljevanje vrstic</translation>
     </message>
-    <message>
-        <source>Abgebrochen: %1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>Prekinjeno: projekti: %1 od %2, vrstice: %3, od tega dodeljene %4, za pregled %5, brez cilja %6</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e): %1 am selben Ort, %2 an anderem, %3 aufgeteilt, %4 ohne Ziel, %5 unlesbar</source>
+        <translation>
+            <numerusform>%Ln projekt: na istem mestu %1, drugje %2, razdeljeni %3, brez cilja %4, neberljivi %5</numerusform>
+            <numerusform>%Ln projekta: na istem mestu %1, drugje %2, razdeljeni %3, brez cilja %4, neberljivi %5</numerusform>
+            <numerusform>%Ln projekti: na istem mestu %1, drugje %2, razdeljeni %3, brez cilja %4, neberljivi %5</numerusform>
+            <numerusform>%Ln projektov: na istem mestu %1, drugje %2, razdeljeni %3, brez cilja %4, neberljivi %5</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 od %Ln projekta</numerusform>
+            <numerusform>%1 od %Ln projektov</numerusform>
+            <numerusform>%1 od %Ln projektov</numerusform>
+            <numerusform>%1 od %Ln projektov</numerusform>
+        </translation>
     </message>
     <message>
-        <source>%1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>Projekti: %1 od %2, vrstice: %3, od tega dodeljene %4, za pregled %5, brez cilja %6</translation>
+        <source>davon %1 zugeordnet, %2 zu prüfen, %3 ohne Ziel</source>
+        <translation>od tega dodeljene %1, za pregled %2, brez cilja %3</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>Prekinjeno: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 z %Ln vrstico</numerusform>
+            <numerusform>%1 z %Ln vrsticama</numerusform>
+            <numerusform>%1 s %Ln vrsticami</numerusform>
+            <numerusform>%1 s %Ln vrsticami</numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>MergeState</name>
     <message numerus="yes">
-        <source>%n Änderung(en) übernommen.</source>
+        <source>%Ln Änderung(en) übernommen.</source>
         <translation>
-            <numerusform>Prevzeta %n sprememba.</numerusform>
-            <numerusform>Prevzeti %n spremembi.</numerusform>
-            <numerusform>Prevzete %n spremembe.</numerusform>
-            <numerusform>Prevzetih %n sprememb.</numerusform>
+            <numerusform>Prevzeta %Ln sprememba.</numerusform>
+            <numerusform>Prevzeti %Ln spremembi.</numerusform>
+            <numerusform>Prevzete %Ln spremembe.</numerusform>
+            <numerusform>Prevzetih %Ln sprememb.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) haben beide gleich entschieden.</source>
+        <source>%Ln Zeile(n) haben beide gleich entschieden.</source>
         <translation>
-            <numerusform>%n vrstico sta obe strani odločili enako.</numerusform>
-            <numerusform>%n vrstici sta obe strani odločili enako.</numerusform>
-            <numerusform>%n vrstice sta obe strani odločili enako.</numerusform>
-            <numerusform>%n vrstic sta obe strani odločili enako.</numerusform>
+            <numerusform>%Ln vrstico sta obe strani odločili enako.</numerusform>
+            <numerusform>%Ln vrstici sta obe strani odločili enako.</numerusform>
+            <numerusform>%Ln vrstice sta obe strani odločili enako.</numerusform>
+            <numerusform>%Ln vrstic sta obe strani odločili enako.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
+        <source>%Ln Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
         <translation>
-            <numerusform>%n vrstica je odločena različno in označena kot spor.</numerusform>
-            <numerusform>%n vrstici sta odločeni različno in označeni kot spor.</numerusform>
-            <numerusform>%n vrstice so odločene različno in označene kot spor.</numerusform>
-            <numerusform>%n vrstic je odločenih različno in označenih kot spor.</numerusform>
+            <numerusform>%Ln vrstica je odločena različno in označena kot spor.</numerusform>
+            <numerusform>%Ln vrstici sta odločeni različno in označeni kot spor.</numerusform>
+            <numerusform>%Ln vrstice so odločene različno in označene kot spor.</numerusform>
+            <numerusform>%Ln vrstic je odločenih različno in označenih kot spor.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
+        <source>%Ln andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
         <translation>
-            <numerusform>%n drugo nasprotje: velja različica iz datoteke.</numerusform>
-            <numerusform>%n drugi nasprotji: velja različica iz datoteke.</numerusform>
-            <numerusform>%n druga nasprotja: velja različica iz datoteke.</numerusform>
-            <numerusform>%n drugih nasprotij: velja različica iz datoteke.</numerusform>
+            <numerusform>%Ln drugo nasprotje: velja različica iz datoteke.</numerusform>
+            <numerusform>%Ln drugi nasprotji: velja različica iz datoteke.</numerusform>
+            <numerusform>%Ln druga nasprotja: velja različica iz datoteke.</numerusform>
+            <numerusform>%Ln drugih nasprotij: velja različica iz datoteke.</numerusform>
         </translation>
     </message>
 </context>
@@ -2268,21 +2325,21 @@ Izberite drugo datoteko.</translation>
         <translation>Tabele se primerjajo</translation>
     </message>
     <message numerus="yes">
-        <source>%n zugeordnete Zeile(n) angesehen</source>
+        <source>%Ln zugeordnete Zeile(n) angesehen</source>
         <translation>
-            <numerusform>Pregledana %n dodeljena vrstica</numerusform>
-            <numerusform>Pregledani %n dodeljeni vrstici</numerusform>
-            <numerusform>Pregledane %n dodeljene vrstice</numerusform>
-            <numerusform>Pregledanih %n dodeljenih vrstic</numerusform>
+            <numerusform>Pregledana %Ln dodeljena vrstica</numerusform>
+            <numerusform>Pregledani %Ln dodeljeni vrstici</numerusform>
+            <numerusform>Pregledane %Ln dodeljene vrstice</numerusform>
+            <numerusform>Pregledanih %Ln dodeljenih vrstic</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Fundstelle(n)</source>
+        <source>%Ln Fundstelle(n)</source>
         <translation>
-            <numerusform>%n najdba</numerusform>
-            <numerusform>%n najdbi</numerusform>
-            <numerusform>%n najdbe</numerusform>
-            <numerusform>%n najdb</numerusform>
+            <numerusform>%Ln najdba</numerusform>
+            <numerusform>%Ln najdbi</numerusform>
+            <numerusform>%Ln najdbe</numerusform>
+            <numerusform>%Ln najdb</numerusform>
         </translation>
     </message>
     <message>
@@ -2507,53 +2564,49 @@ Izberite drugo datoteko.</translation>
 </context>
 <context>
     <name>PatternDock</name>
-    <message>
-        <source>Die Tabellen werden verglichen: %1 Projekte gelesen</source>
-        <translation>Tabele se primerjajo: prebrani projekti: %1</translation>
-    </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) mit Vorschlag</source>
+        <source>%Ln offene Zeile(n) mit Vorschlag</source>
         <translation>
-            <numerusform>%n odprta vrstica s predlogom</numerusform>
-            <numerusform>%n odprti vrstici s predlogom</numerusform>
-            <numerusform>%n odprte vrstice s predlogom</numerusform>
-            <numerusform>%n odprtih vrstic s predlogom</numerusform>
+            <numerusform>%Ln odprta vrstica s predlogom</numerusform>
+            <numerusform>%Ln odprti vrstici s predlogom</numerusform>
+            <numerusform>%Ln odprte vrstice s predlogom</numerusform>
+            <numerusform>%Ln odprtih vrstic s predlogom</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Muster(n)</source>
+        <source>in %Ln Muster(n)</source>
         <translation>
-            <numerusform>v %n vzorcu</numerusform>
-            <numerusform>v %n vzorcih</numerusform>
-            <numerusform>v %n vzorcih</numerusform>
-            <numerusform>v %n vzorcih</numerusform>
+            <numerusform>v %Ln vzorcu</numerusform>
+            <numerusform>v %Ln vzorcih</numerusform>
+            <numerusform>v %Ln vzorcih</numerusform>
+            <numerusform>v %Ln vzorcih</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon wird/werden noch verglichen</source>
+        <source>%Ln davon wird/werden noch verglichen</source>
         <translation>
-            <numerusform>%n od njih se še primerja</numerusform>
-            <numerusform>%n od njih se še primerjata</numerusform>
-            <numerusform>%n od njih se še primerjajo</numerusform>
-            <numerusform>%n od njih se še primerja</numerusform>
+            <numerusform>%Ln od njih se še primerja</numerusform>
+            <numerusform>%Ln od njih se še primerjata</numerusform>
+            <numerusform>%Ln od njih se še primerjajo</numerusform>
+            <numerusform>%Ln od njih se še primerja</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Gewählt: %n Zeile(n)</source>
+        <source>Gewählt: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>Izbrana: %n vrstica</numerusform>
-            <numerusform>Izbrani: %n vrstici</numerusform>
-            <numerusform>Izbrane: %n vrstice</numerusform>
-            <numerusform>Izbranih: %n vrstic</numerusform>
+            <numerusform>Izbrana: %Ln vrstica</numerusform>
+            <numerusform>Izbrani: %Ln vrstici</numerusform>
+            <numerusform>Izbrane: %Ln vrstice</numerusform>
+            <numerusform>Izbranih: %Ln vrstic</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon herausgenommen</source>
+        <source>%Ln davon herausgenommen</source>
         <translation>
-            <numerusform>%n od njih izvzeta</numerusform>
-            <numerusform>%n od njih izvzeti</numerusform>
-            <numerusform>%n od njih izvzete</numerusform>
-            <numerusform>%n od njih izvzetih</numerusform>
+            <numerusform>%Ln od njih izvzeta</numerusform>
+            <numerusform>%Ln od njih izvzeti</numerusform>
+            <numerusform>%Ln od njih izvzete</numerusform>
+            <numerusform>%Ln od njih izvzetih</numerusform>
         </translation>
     </message>
     <message>
@@ -2561,51 +2614,60 @@ Izberite drugo datoteko.</translation>
         <translation>Razlike odprtih vrstic</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>v %n projektu</numerusform>
-            <numerusform>v %n projektih</numerusform>
-            <numerusform>v %n projektih</numerusform>
-            <numerusform>v %n projektih</numerusform>
+            <numerusform>v %Ln projektu</numerusform>
+            <numerusform>v %Ln projektih</numerusform>
+            <numerusform>v %Ln projektih</numerusform>
+            <numerusform>v %Ln projektih</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <source>%Ln offene Zeile(n) ohne Nachfolger</source>
         <translation>
-            <numerusform>%n odprta vrstica brez naslednika</numerusform>
-            <numerusform>%n odprti vrstici brez naslednika</numerusform>
-            <numerusform>%n odprte vrstice brez naslednika</numerusform>
-            <numerusform>%n odprtih vrstic brez naslednika</numerusform>
+            <numerusform>%Ln odprta vrstica brez naslednika</numerusform>
+            <numerusform>%Ln odprti vrstici brez naslednika</numerusform>
+            <numerusform>%Ln odprte vrstice brez naslednika</numerusform>
+            <numerusform>%Ln odprtih vrstic brez naslednika</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Die Tabellen werden verglichen: %Ln Projekt(e) gelesen</source>
+        <translation>
+            <numerusform>Tabele se primerjajo: prebran %Ln projekt</numerusform>
+            <numerusform>Tabele se primerjajo: prebrana %Ln projekta</numerusform>
+            <numerusform>Tabele se primerjajo: prebrani %Ln projekti</numerusform>
+            <numerusform>Tabele se primerjajo: prebranih %Ln projektov</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>PatternModel</name>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n vrstica</numerusform>
-            <numerusform>%n vrstici</numerusform>
-            <numerusform>%n vrstice</numerusform>
-            <numerusform>%n vrstic</numerusform>
+            <numerusform>%Ln vrstica</numerusform>
+            <numerusform>%Ln vrstici</numerusform>
+            <numerusform>%Ln vrstice</numerusform>
+            <numerusform>%Ln vrstic</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Projekt(e)</source>
+        <source>%Ln Projekt(e)</source>
         <translation>
-            <numerusform>%n projekt</numerusform>
-            <numerusform>%n projekta</numerusform>
-            <numerusform>%n projekti</numerusform>
-            <numerusform>%n projektov</numerusform>
+            <numerusform>%Ln projekt</numerusform>
+            <numerusform>%Ln projekta</numerusform>
+            <numerusform>%Ln projekti</numerusform>
+            <numerusform>%Ln projektov</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) haben diese und andere Unterschiede</source>
+        <source>%Ln weitere Zeile(n) haben diese und andere Unterschiede</source>
         <translation>
-            <numerusform>Še %n vrstica ima te in druge razlike</numerusform>
-            <numerusform>Še %n vrstici imata te in druge razlike</numerusform>
-            <numerusform>Še %n vrstice imajo te in druge razlike</numerusform>
-            <numerusform>Še %n vrstic ima te in druge razlike</numerusform>
+            <numerusform>Še %Ln vrstica ima te in druge razlike</numerusform>
+            <numerusform>Še %Ln vrstici imata te in druge razlike</numerusform>
+            <numerusform>Še %Ln vrstice imajo te in druge razlike</numerusform>
+            <numerusform>Še %Ln vrstic ima te in druge razlike</numerusform>
         </translation>
     </message>
     <message>
@@ -2832,12 +2894,12 @@ Vrstica: %2
         <translation>Vrstica %1: %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
+        <source>%Ln Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
         <translation>
-            <numerusform>%n vrstica je potrjena, čeprav vrednosti njenega območja nimajo nove vrstice.</numerusform>
-            <numerusform>%n vrstici sta potrjeni, čeprav vrednosti njunih območij nimajo nove vrstice.</numerusform>
-            <numerusform>%n vrstice so potrjene, čeprav vrednosti njihovih območij nimajo nove vrstice.</numerusform>
-            <numerusform>%n vrstic je potrjenih, čeprav vrednosti njihovih območij nimajo nove vrstice.</numerusform>
+            <numerusform>%Ln vrstica je potrjena, čeprav vrednosti njenega območja nimajo nove vrstice.</numerusform>
+            <numerusform>%Ln vrstici sta potrjeni, čeprav vrednosti njunih območij nimajo nove vrstice.</numerusform>
+            <numerusform>%Ln vrstice so potrjene, čeprav vrednosti njihovih območij nimajo nove vrstice.</numerusform>
+            <numerusform>%Ln vrstic je potrjenih, čeprav vrednosti njihovih območij nimajo nove vrstice.</numerusform>
         </translation>
     </message>
     <message>
@@ -2852,21 +2914,17 @@ Vrstica: %2
 <context>
     <name>RangeDock</name>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n vrstica</numerusform>
-            <numerusform>%1: %n vrstici</numerusform>
-            <numerusform>%1: %n vrstice</numerusform>
-            <numerusform>%1: %n vrstic</numerusform>
+            <numerusform>%1: %Ln vrstica</numerusform>
+            <numerusform>%1: %Ln vrstici</numerusform>
+            <numerusform>%1: %Ln vrstice</numerusform>
+            <numerusform>%1: %Ln vrstic</numerusform>
         </translation>
     </message>
     <message>
         <source>Die Zeile hat keine Wertebereichszuordnung.</source>
         <translation>Vrstica nima dodelitve območij vrednosti.</translation>
-    </message>
-    <message>
-        <source>%1: %2 von %3 Werten zugeordnet</source>
-        <translation>%1: dodeljene vrednosti: %2 od %3</translation>
     </message>
     <message>
         <source>fehlend: %1</source>
@@ -2883,6 +2941,15 @@ Vrstica: %2
     <message>
         <source>Wertebereich der Zeile</source>
         <translation>Območje vrednosti vrstice</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 von %Ln Wert(en) zugeordnet</source>
+        <translation>
+            <numerusform>%1: dodeljene vrednosti: %2 od %Ln</numerusform>
+            <numerusform>%1: dodeljene vrednosti: %2 od %Ln</numerusform>
+            <numerusform>%1: dodeljene vrednosti: %2 od %Ln</numerusform>
+            <numerusform>%1: dodeljene vrednosti: %2 od %Ln</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2925,10 +2992,6 @@ Vrstica: %2
     <message>
         <source>Wiederherstellung</source>
         <translation>Obnovitev</translation>
-    </message>
-    <message>
-        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2 Schritte mit %3 Zeilen in %4 Projekten, zuletzt „%5“. Sie stammt von %6.</source>
-        <translation>Za %1 obstaja delo, ki ni bilo shranjeno: koraki: %2, vrstice: %3, projekti: %4, nazadnje »%5«. Avtor: %6.</translation>
     </message>
     <message>
         <source>Gespeichert</source>
@@ -2978,16 +3041,43 @@ Vrstica: %2
         <source>&amp;Gespeicherten Stand öffnen</source>
         <translation>&amp;Odpri shranjeno različico</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln Schritt(e)</source>
+        <translation>
+            <numerusform>%Ln korak</numerusform>
+            <numerusform>%Ln koraka</numerusform>
+            <numerusform>%Ln koraki</numerusform>
+            <numerusform>%Ln korakov</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2, zuletzt „%3“. Sie stammt von %4.</source>
+        <translation>Za %1 obstaja delo, ki ni bilo shranjeno: %2, nazadnje »%3«. Avtor: %4.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 z %Ln vrstico</numerusform>
+            <numerusform>%1 z %Ln vrsticama</numerusform>
+            <numerusform>%1 s %Ln vrsticami</numerusform>
+            <numerusform>%1 s %Ln vrsticami</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 v %Ln projektu</numerusform>
+            <numerusform>%1 v %Ln projektih</numerusform>
+            <numerusform>%1 v %Ln projektih</numerusform>
+            <numerusform>%1 v %Ln projektih</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ReleaseCommands</name>
     <message>
         <source>Tabellen werden importiert</source>
         <translation>Uvažanje tabel</translation>
-    </message>
-    <message>
-        <source>%1 Tabellen mit %2 Zeilen: %3 neu, %4 geändert, %5 unverändert, %6 nicht importiert</source>
-        <translation>Tabele: %1, vrstice: %2; nove %3, spremenjene %4, nespremenjene %5, neuvožene %6</translation>
     </message>
     <message>
         <source>%1 hat keine CSV-Datei mehr und bleibt, wie es ist</source>
@@ -3026,10 +3116,6 @@ Vrstica: %2
         <translation>Prekinjeno, nič ni bilo izvoženo</translation>
     </message>
     <message>
-        <source>%1 Zeilen nach %2 exportiert</source>
-        <translation>Izvožene vrstice (%1) v %2</translation>
-    </message>
-    <message>
         <source>Bericht schreiben</source>
         <translation>Zapiši poročilo</translation>
     </message>
@@ -3060,6 +3146,37 @@ Vrstica: %2
     <message>
         <source>Seite %1 von %2</source>
         <translation>Stran %1 od %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Tabelle(n)</source>
+        <translation>
+            <numerusform>%Ln tabela</numerusform>
+            <numerusform>%Ln tabeli</numerusform>
+            <numerusform>%Ln tabele</numerusform>
+            <numerusform>%Ln tabel</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 neu, %2 geändert, %3 unverändert, %4 nicht importiert</source>
+        <translation>nove %1, spremenjene %2, nespremenjene %3, neuvožene %4</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Zeile(n) nach %1 exportiert</source>
+        <translation>
+            <numerusform>%Ln vrstica izvožena v %1</numerusform>
+            <numerusform>%Ln vrstici izvoženi v %1</numerusform>
+            <numerusform>%Ln vrstice izvožene v %1</numerusform>
+            <numerusform>%Ln vrstic izvoženih v %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 z %Ln vrstico</numerusform>
+            <numerusform>%1 z %Ln vrsticama</numerusform>
+            <numerusform>%1 s %Ln vrsticami</numerusform>
+            <numerusform>%1 s %Ln vrsticami</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3105,21 +3222,21 @@ Vrstica: %2
         <translation>Tabele se berejo</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dafür</source>
+        <source>%Ln Zeile(n) dafür</source>
         <translation>
-            <numerusform>%n vrstica za</numerusform>
-            <numerusform>%n vrstici za</numerusform>
-            <numerusform>%n vrstice za</numerusform>
-            <numerusform>%n vrstic za</numerusform>
+            <numerusform>%Ln vrstica za</numerusform>
+            <numerusform>%Ln vrstici za</numerusform>
+            <numerusform>%Ln vrstice za</numerusform>
+            <numerusform>%Ln vrstic za</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dagegen</source>
+        <source>%Ln Zeile(n) dagegen</source>
         <translation>
-            <numerusform>%n vrstica proti</numerusform>
-            <numerusform>%n vrstici proti</numerusform>
-            <numerusform>%n vrstice proti</numerusform>
-            <numerusform>%n vrstic proti</numerusform>
+            <numerusform>%Ln vrstica proti</numerusform>
+            <numerusform>%Ln vrstici proti</numerusform>
+            <numerusform>%Ln vrstice proti</numerusform>
+            <numerusform>%Ln vrstic proti</numerusform>
         </translation>
     </message>
 </context>
@@ -3136,10 +3253,6 @@ Vrstica: %2
     <message>
         <source>Erstellt am %1</source>
         <translation>Ustvarjeno %1</translation>
-    </message>
-    <message>
-        <source>Erledigt: %1 von %2 Zeilen; offen: %3.</source>
-        <translation>Opravljeno: %1 od %2 vrstic; odprte: %3.</translation>
     </message>
     <message>
         <source>Stand der Zeilen</source>
@@ -3365,6 +3478,10 @@ Vrstica: %2
         <source>Beurteilte Zeilen</source>
         <translation>Ocenjene vrstice</translation>
     </message>
+    <message>
+        <source>Erledigte Zeilen: %1 von %2; offen: %3.</source>
+        <translation>Opravljene vrstice: %1 od %2; odprte: %3.</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3443,12 +3560,12 @@ Vrstica: %2
         <translation>Tabele še niso primerjane</translation>
     </message>
     <message numerus="yes">
-        <source>Von vorn: %n Zeile(n) offen</source>
+        <source>Von vorn: %Ln Zeile(n) offen</source>
         <translation>
-            <numerusform>Od začetka: %n odprta vrstica</numerusform>
-            <numerusform>Od začetka: %n odprti vrstici</numerusform>
-            <numerusform>Od začetka: %n odprte vrstice</numerusform>
-            <numerusform>Od začetka: %n odprtih vrstic</numerusform>
+            <numerusform>Od začetka: %Ln odprta vrstica</numerusform>
+            <numerusform>Od začetka: %Ln odprti vrstici</numerusform>
+            <numerusform>Od začetka: %Ln odprte vrstice</numerusform>
+            <numerusform>Od začetka: %Ln odprtih vrstic</numerusform>
         </translation>
     </message>
     <message>
@@ -3472,21 +3589,21 @@ Vrstica: %2
         <translation>Noben vzorec ni izbran ali pa so vse njegove vrstice odločene</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n vrstica</numerusform>
-            <numerusform>%n vrstici</numerusform>
-            <numerusform>%n vrstice</numerusform>
-            <numerusform>%n vrstic</numerusform>
+            <numerusform>%Ln vrstica</numerusform>
+            <numerusform>%Ln vrstici</numerusform>
+            <numerusform>%Ln vrstice</numerusform>
+            <numerusform>%Ln vrstic</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en) bestätigen?</source>
+        <source>in %Ln Projekt(en) bestätigen?</source>
         <translation>
-            <numerusform>potrdim v %n projektu?</numerusform>
-            <numerusform>potrdim v %n projektih?</numerusform>
-            <numerusform>potrdim v %n projektih?</numerusform>
-            <numerusform>potrdim v %n projektih?</numerusform>
+            <numerusform>potrdim v %Ln projektu?</numerusform>
+            <numerusform>potrdim v %Ln projektih?</numerusform>
+            <numerusform>potrdim v %Ln projektih?</numerusform>
+            <numerusform>potrdim v %Ln projektih?</numerusform>
         </translation>
     </message>
     <message>
@@ -3498,12 +3615,12 @@ Vrstica: %2
         <translation>&amp;Potrdi</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n vrstica potrjena</numerusform>
-            <numerusform>%n vrstici potrjeni</numerusform>
-            <numerusform>%n vrstice potrjene</numerusform>
-            <numerusform>%n vrstic potrjenih</numerusform>
+            <numerusform>%Ln vrstica potrjena</numerusform>
+            <numerusform>%Ln vrstici potrjeni</numerusform>
+            <numerusform>%Ln vrstice potrjene</numerusform>
+            <numerusform>%Ln vrstic potrjenih</numerusform>
         </translation>
     </message>
     <message>
@@ -3525,10 +3642,6 @@ Vrstica: %2
     <message>
         <source>Stichprobe</source>
         <translation>Naključni vzorec</translation>
-    </message>
-    <message>
-        <source>So viele von %1 Zeilen werden gezogen und einzeln beurteilt. %2 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %3 richtige weniger als 1 %.</source>
-        <translation>Toliko od %1 vrstic se izžreba in oceni posamično. %2 pravilnih pove s 95 % zanesljivostjo, da je napačnih manj kot 5 %, %3 pravilnih manj kot 1 %.</translation>
     </message>
     <message>
         <source>&amp;Ziehen</source>
@@ -3587,12 +3700,12 @@ Vrstica: %2
         <translation>&amp;Oglej si napačno vrstico</translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind unsicher.</source>
+        <source>%Ln davon ist/sind unsicher.</source>
         <translation>
-            <numerusform>%n od njih je negotova.</numerusform>
-            <numerusform>%n od njih sta negotovi.</numerusform>
-            <numerusform>%n od njih so negotove.</numerusform>
-            <numerusform>%n od njih je negotovih.</numerusform>
+            <numerusform>%Ln od njih je negotova.</numerusform>
+            <numerusform>%Ln od njih sta negotovi.</numerusform>
+            <numerusform>%Ln od njih so negotove.</numerusform>
+            <numerusform>%Ln od njih je negotovih.</numerusform>
         </translation>
     </message>
     <message>
@@ -3600,26 +3713,35 @@ Vrstica: %2
         <translation>Vsi vzorci so opravljeni</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>v %n projektu</numerusform>
-            <numerusform>v %n projektih</numerusform>
-            <numerusform>v %n projektih</numerusform>
-            <numerusform>v %n projektih</numerusform>
+            <numerusform>v %Ln projektu</numerusform>
+            <numerusform>v %Ln projektih</numerusform>
+            <numerusform>v %Ln projektih</numerusform>
+            <numerusform>v %Ln projektih</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n vrstica potrjena kot opuščena</numerusform>
-            <numerusform>%n vrstici potrjeni kot opuščeni</numerusform>
-            <numerusform>%n vrstice potrjene kot opuščene</numerusform>
-            <numerusform>%n vrstic potrjenih kot opuščenih</numerusform>
+            <numerusform>%Ln vrstica potrjena kot opuščena</numerusform>
+            <numerusform>%Ln vrstici potrjeni kot opuščeni</numerusform>
+            <numerusform>%Ln vrstice potrjene kot opuščene</numerusform>
+            <numerusform>%Ln vrstic potrjenih kot opuščenih</numerusform>
         </translation>
     </message>
     <message>
         <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
         <translation>Vrstica %1 v %2 je napačna. Množica je razdeljena; s katerim delom naj se nadaljuje?</translation>
+    </message>
+    <message numerus="yes">
+        <source>So viele von %Ln Zeile(n) werden gezogen und einzeln beurteilt. %1 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %2 richtige weniger als 1 %.</source>
+        <translation>
+            <numerusform>Toliko od %Ln vrstice se izžreba in oceni posamično. %1 pravilnih pove s 95 % zanesljivostjo, da je napačnih manj kot 5 %, %2 pravilnih manj kot 1 %.</numerusform>
+            <numerusform>Toliko od %Ln vrstic se izžreba in oceni posamično. %1 pravilnih pove s 95 % zanesljivostjo, da je napačnih manj kot 5 %, %2 pravilnih manj kot 1 %.</numerusform>
+            <numerusform>Toliko od %Ln vrstic se izžreba in oceni posamično. %1 pravilnih pove s 95 % zanesljivostjo, da je napačnih manj kot 5 %, %2 pravilnih manj kot 1 %.</numerusform>
+            <numerusform>Toliko od %Ln vrstic se izžreba in oceni posamično. %1 pravilnih pove s 95 % zanesljivostjo, da je napačnih manj kot 5 %, %2 pravilnih manj kot 1 %.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3777,16 +3899,26 @@ Vrstica: %2
         <translation>Za zadnjo zaključeno sejo dnevnik %1 ni berljiv. Kaj je bilo tam, ni znano; dnevnik se ohrani.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passen noch %2 Änderungen, %3 passen nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
-        <translation>Dnevnik %1 je poškodovan. Za poškodbo še ustrezajo spremembe: %2, ne ustrezajo več: %3; morda manjkajo še druge. Dnevnik se ohrani.</translation>
-    </message>
-    <message>
         <source>Das Ende des Journals %1 ist nicht lesbar. Die letzte Änderung kann fehlen.</source>
         <translation>Konec dnevnika %1 ni berljiv. Zadnja sprememba morda manjka.</translation>
     </message>
-    <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
-        <translation>Dnevnik %1 je poškodovan ali ne ustreza datoteki preslikav. Manjka vsaj %2 poznejših sprememb; dnevnik se ohrani.</translation>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passt/passen noch %Ln Änderung(en), %2 nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>Dnevnik %1 je poškodovan. Za poškodbo še ustreza %Ln sprememba, ne ustreza več: %2; morda manjkajo še druge. Dnevnik se ohrani.</numerusform>
+            <numerusform>Dnevnik %1 je poškodovan. Za poškodbo še ustrezata %Ln spremembi, ne ustreza več: %2; morda manjkajo še druge. Dnevnik se ohrani.</numerusform>
+            <numerusform>Dnevnik %1 je poškodovan. Za poškodbo še ustrezajo %Ln spremembe, ne ustreza več: %2; morda manjkajo še druge. Dnevnik se ohrani.</numerusform>
+            <numerusform>Dnevnik %1 je poškodovan. Za poškodbo še ustreza %Ln sprememb, ne ustreza več: %2; morda manjkajo še druge. Dnevnik se ohrani.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %Ln spätere Änderung(en) fehlt/fehlen; das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>Dnevnik %1 je poškodovan ali ne ustreza datoteki preslikav. Manjka vsaj %Ln poznejša sprememba; dnevnik se ohrani.</numerusform>
+            <numerusform>Dnevnik %1 je poškodovan ali ne ustreza datoteki preslikav. Manjkata vsaj %Ln poznejši spremembi; dnevnik se ohrani.</numerusform>
+            <numerusform>Dnevnik %1 je poškodovan ali ne ustreza datoteki preslikav. Manjkajo vsaj %Ln poznejše spremembe; dnevnik se ohrani.</numerusform>
+            <numerusform>Dnevnik %1 je poškodovan ali ne ustreza datoteki preslikav. Manjka vsaj %Ln poznejših sprememb; dnevnik se ohrani.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -4038,11 +4170,6 @@ Vrstica: %2
         <translation>Vse odločeno</translation>
     </message>
     <message>
-        <source>Offen: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Odprte: &lt;a href=&quot;next&quot;&gt;vrstice: %1&lt;/a&gt;, projekti: %2</translation>
-    </message>
-    <message>
         <source>Zeilen, die noch eine Entscheidung brauchen</source>
         <translation>Vrstice, ki še potrebujejo odločitev</translation>
     </message>
@@ -4055,13 +4182,35 @@ Vrstica: %2
         <translation>Filter: nobena vrstica</translation>
     </message>
     <message>
-        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Filter: &lt;a href=&quot;next&quot;&gt;%1 vrstic&lt;/a&gt; v %2 projektih</translation>
-    </message>
-    <message>
         <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
         <translation>Vrstice, ki jih kaže filter prek vseh vrstic</translation>
+    </message>
+    <message numerus="yes">
+        <source>&lt;a href=&quot;next&quot;&gt;%Ln Zeile(n)&lt;/a&gt;</source>
+        <translation>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln vrstica&lt;/a&gt;</numerusform>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln vrstici&lt;/a&gt;</numerusform>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln vrstice&lt;/a&gt;</numerusform>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln vrstic&lt;/a&gt;</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Offen: %1</source>
+        <translation>Odprte: %1</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>Filter: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <extracomment>&quot;12 lines in 3 projects&quot;</extracomment>
+        <translation>
+            <numerusform>%1 v %Ln projektu</numerusform>
+            <numerusform>%1 v %Ln projektih</numerusform>
+            <numerusform>%1 v %Ln projektih</numerusform>
+            <numerusform>%1 v %Ln projektih</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -4110,12 +4259,12 @@ Vrstica: %2
         <translation>&amp;Zapri</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <source>Mit %Ln abhängigen &amp;zurücknehmen</source>
         <translation>
-            <numerusform>&amp;Razveljavi z odvisnimi (%n)</numerusform>
-            <numerusform>&amp;Razveljavi z odvisnimi (%n)</numerusform>
-            <numerusform>&amp;Razveljavi z odvisnimi (%n)</numerusform>
-            <numerusform>&amp;Razveljavi z odvisnimi (%n)</numerusform>
+            <numerusform>&amp;Razveljavi z odvisnimi (%Ln)</numerusform>
+            <numerusform>&amp;Razveljavi z odvisnimi (%Ln)</numerusform>
+            <numerusform>&amp;Razveljavi z odvisnimi (%Ln)</numerusform>
+            <numerusform>&amp;Razveljavi z odvisnimi (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -4123,12 +4272,12 @@ Vrstica: %2
         <translation>&amp;Razveljavi samo tega</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <source>Mit %Ln früheren &amp;wieder ausführen</source>
         <translation>
-            <numerusform>&amp;Ponovi s prejšnjimi (%n)</numerusform>
-            <numerusform>&amp;Ponovi s prejšnjimi (%n)</numerusform>
-            <numerusform>&amp;Ponovi s prejšnjimi (%n)</numerusform>
-            <numerusform>&amp;Ponovi s prejšnjimi (%n)</numerusform>
+            <numerusform>&amp;Ponovi s prejšnjimi (%Ln)</numerusform>
+            <numerusform>&amp;Ponovi s prejšnjimi (%Ln)</numerusform>
+            <numerusform>&amp;Ponovi s prejšnjimi (%Ln)</numerusform>
+            <numerusform>&amp;Ponovi s prejšnjimi (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -4164,24 +4313,24 @@ Vrstica: %2
         <translation>Tam je zdaj nekaj drugega, o čemer ni odločil noben korak tega seznama, na primer drug program. Koraka ni več mogoče premakniti.</translation>
     </message>
     <message numerus="yes">
-        <source>und %n weitere</source>
+        <source>und %Ln weitere</source>
         <translation>
-            <numerusform>in še %n</numerusform>
-            <numerusform>in še %n</numerusform>
-            <numerusform>in še %n</numerusform>
-            <numerusform>in še %n</numerusform>
+            <numerusform>in še %Ln</numerusform>
+            <numerusform>in še %Ln</numerusform>
+            <numerusform>in še %Ln</numerusform>
+            <numerusform>in še %Ln</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepListModel</name>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1 v %n projektu</numerusform>
-            <numerusform>%1 v %n projektih</numerusform>
-            <numerusform>%1 v %n projektih</numerusform>
-            <numerusform>%1 v %n projektih</numerusform>
+            <numerusform>%1 v %Ln projektu</numerusform>
+            <numerusform>%1 v %Ln projektih</numerusform>
+            <numerusform>%1 v %Ln projektih</numerusform>
+            <numerusform>%1 v %Ln projektih</numerusform>
         </translation>
     </message>
     <message>
@@ -4224,12 +4373,12 @@ Vrstica: %2
         <translation>Sprememba v %1 začne veljati šele, ko se vrstice znova dodelijo. Pri tem se ohrani samo, kar je potrjeno.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
+        <source>%Ln Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
         <translation>
-            <numerusform>%n vrstica v %1 je bila potrjena kot opuščena in ni več: %2</numerusform>
-            <numerusform>%n vrstici v %1 sta bili potrjeni kot opuščeni in nista več: %2</numerusform>
-            <numerusform>%n vrstice v %1 so bile potrjene kot opuščene in niso več: %2</numerusform>
-            <numerusform>%n vrstic v %1 je bilo potrjenih kot opuščenih in ni več: %2</numerusform>
+            <numerusform>%Ln vrstica v %1 je bila potrjena kot opuščena in ni več: %2</numerusform>
+            <numerusform>%Ln vrstici v %1 sta bili potrjeni kot opuščeni in nista več: %2</numerusform>
+            <numerusform>%Ln vrstice v %1 so bile potrjene kot opuščene in niso več: %2</numerusform>
+            <numerusform>%Ln vrstic v %1 je bilo potrjenih kot opuščenih in ni več: %2</numerusform>
         </translation>
     </message>
     <message>
@@ -4245,96 +4394,96 @@ Vrstica: %2
         <translation>Preslikava spremenljivk ciljnega projekta %1 v %2 je odpadla.</translation>
     </message>
     <message numerus="yes">
-        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %n andere Zeile(n): %4</source>
+        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %Ln andere Zeile(n): %4</source>
         <translation>
-            <numerusform>Vrstica %1 → %2 v %3: ciljno vrstico ima tudi %n druga vrstica: %4</numerusform>
-            <numerusform>Vrstica %1 → %2 v %3: ciljno vrstico imata tudi %n drugi vrstici: %4</numerusform>
-            <numerusform>Vrstica %1 → %2 v %3: ciljno vrstico imajo tudi %n druge vrstice: %4</numerusform>
-            <numerusform>Vrstica %1 → %2 v %3: ciljno vrstico ima tudi %n drugih vrstic: %4</numerusform>
+            <numerusform>Vrstica %1 → %2 v %3: ciljno vrstico ima tudi %Ln druga vrstica: %4</numerusform>
+            <numerusform>Vrstica %1 → %2 v %3: ciljno vrstico imata tudi %Ln drugi vrstici: %4</numerusform>
+            <numerusform>Vrstica %1 → %2 v %3: ciljno vrstico imajo tudi %Ln druge vrstice: %4</numerusform>
+            <numerusform>Vrstica %1 → %2 v %3: ciljno vrstico ima tudi %Ln drugih vrstic: %4</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
+        <source>%Ln Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
         <translation>
-            <numerusform>%n vrstica v %1 deli svojo ciljno vrstico z novo dodeljenimi: %2</numerusform>
-            <numerusform>%n vrstici v %1 delita svojo ciljno vrstico z novo dodeljenimi: %2</numerusform>
-            <numerusform>%n vrstice v %1 delijo svojo ciljno vrstico z novo dodeljenimi: %2</numerusform>
-            <numerusform>%n vrstic v %1 deli svojo ciljno vrstico z novo dodeljenimi: %2</numerusform>
+            <numerusform>%Ln vrstica v %1 deli svojo ciljno vrstico z novo dodeljenimi: %2</numerusform>
+            <numerusform>%Ln vrstici v %1 delita svojo ciljno vrstico z novo dodeljenimi: %2</numerusform>
+            <numerusform>%Ln vrstice v %1 delijo svojo ciljno vrstico z novo dodeljenimi: %2</numerusform>
+            <numerusform>%Ln vrstic v %1 deli svojo ciljno vrstico z novo dodeljenimi: %2</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepSummary</name>
     <message numerus="yes">
-        <source>%n Konflikt(e) angenommen</source>
+        <source>%Ln Konflikt(e) angenommen</source>
         <translation>
-            <numerusform>%n spor sprejet</numerusform>
-            <numerusform>%n spora sprejeta</numerusform>
-            <numerusform>%n spori sprejeti</numerusform>
-            <numerusform>%n sporov sprejetih</numerusform>
+            <numerusform>%Ln spor sprejet</numerusform>
+            <numerusform>%Ln spora sprejeta</numerusform>
+            <numerusform>%Ln spori sprejeti</numerusform>
+            <numerusform>%Ln sporov sprejetih</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n vrstica potrjena</numerusform>
-            <numerusform>%n vrstici potrjeni</numerusform>
-            <numerusform>%n vrstice potrjene</numerusform>
-            <numerusform>%n vrstic potrjenih</numerusform>
+            <numerusform>%Ln vrstica potrjena</numerusform>
+            <numerusform>%Ln vrstici potrjeni</numerusform>
+            <numerusform>%Ln vrstice potrjene</numerusform>
+            <numerusform>%Ln vrstic potrjenih</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n vrstica potrjena kot opuščena</numerusform>
-            <numerusform>%n vrstici potrjeni kot opuščeni</numerusform>
-            <numerusform>%n vrstice potrjene kot opuščene</numerusform>
-            <numerusform>%n vrstic potrjenih kot opuščenih</numerusform>
+            <numerusform>%Ln vrstica potrjena kot opuščena</numerusform>
+            <numerusform>%Ln vrstici potrjeni kot opuščeni</numerusform>
+            <numerusform>%Ln vrstice potrjene kot opuščene</numerusform>
+            <numerusform>%Ln vrstic potrjenih kot opuščenih</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) zugeordnet</source>
+        <source>%Ln Zeile(n) zugeordnet</source>
         <translation>
-            <numerusform>%n vrstica dodeljena</numerusform>
-            <numerusform>%n vrstici dodeljeni</numerusform>
-            <numerusform>%n vrstice dodeljene</numerusform>
-            <numerusform>%n vrstic dodeljenih</numerusform>
+            <numerusform>%Ln vrstica dodeljena</numerusform>
+            <numerusform>%Ln vrstici dodeljeni</numerusform>
+            <numerusform>%Ln vrstice dodeljene</numerusform>
+            <numerusform>%Ln vrstic dodeljenih</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben</source>
         <translation>
-            <numerusform>dodelitev %n vrstice razveljavljena</numerusform>
-            <numerusform>dodelitev %n vrstic razveljavljena</numerusform>
-            <numerusform>dodelitev %n vrstic razveljavljena</numerusform>
-            <numerusform>dodelitev %n vrstic razveljavljena</numerusform>
+            <numerusform>dodelitev %Ln vrstice razveljavljena</numerusform>
+            <numerusform>dodelitev %Ln vrstic razveljavljena</numerusform>
+            <numerusform>dodelitev %Ln vrstic razveljavljena</numerusform>
+            <numerusform>dodelitev %Ln vrstic razveljavljena</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Wertebereichszuordnung von %n Zeile(n) geändert</source>
+        <source>Wertebereichszuordnung von %Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>dodelitev območij vrednosti %n vrstice spremenjena</numerusform>
-            <numerusform>dodelitev območij vrednosti %n vrstic spremenjena</numerusform>
-            <numerusform>dodelitev območij vrednosti %n vrstic spremenjena</numerusform>
-            <numerusform>dodelitev območij vrednosti %n vrstic spremenjena</numerusform>
+            <numerusform>dodelitev območij vrednosti %Ln vrstice spremenjena</numerusform>
+            <numerusform>dodelitev območij vrednosti %Ln vrstic spremenjena</numerusform>
+            <numerusform>dodelitev območij vrednosti %Ln vrstic spremenjena</numerusform>
+            <numerusform>dodelitev območij vrednosti %Ln vrstic spremenjena</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Konflikt von %n Zeile(n) gelöst</source>
+        <source>Konflikt von %Ln Zeile(n) gelöst</source>
         <translation>
-            <numerusform>spor %n vrstice rešen</numerusform>
-            <numerusform>spor %n vrstic rešen</numerusform>
-            <numerusform>spor %n vrstic rešen</numerusform>
-            <numerusform>spor %n vrstic rešen</numerusform>
+            <numerusform>spor %Ln vrstice rešen</numerusform>
+            <numerusform>spor %Ln vrstic rešen</numerusform>
+            <numerusform>spor %Ln vrstic rešen</numerusform>
+            <numerusform>spor %Ln vrstic rešen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) geändert</source>
+        <source>%Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>%n vrstica spremenjena</numerusform>
-            <numerusform>%n vrstici spremenjeni</numerusform>
-            <numerusform>%n vrstice spremenjene</numerusform>
-            <numerusform>%n vrstic spremenjenih</numerusform>
+            <numerusform>%Ln vrstica spremenjena</numerusform>
+            <numerusform>%Ln vrstici spremenjeni</numerusform>
+            <numerusform>%Ln vrstice spremenjene</numerusform>
+            <numerusform>%Ln vrstic spremenjenih</numerusform>
         </translation>
     </message>
     <message>
@@ -4402,12 +4551,12 @@ Vrstica: %2
         <translation>%1 v %2</translation>
     </message>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1 v %n projektu</numerusform>
-            <numerusform>%1 v %n projektih</numerusform>
-            <numerusform>%1 v %n projektih</numerusform>
-            <numerusform>%1 v %n projektih</numerusform>
+            <numerusform>%1 v %Ln projektu</numerusform>
+            <numerusform>%1 v %Ln projektih</numerusform>
+            <numerusform>%1 v %Ln projektih</numerusform>
+            <numerusform>%1 v %Ln projektih</numerusform>
         </translation>
     </message>
 </context>
@@ -4453,12 +4602,12 @@ Vrstica: %2
         <translation>Preverjanje dodelitev območij vrednosti</translation>
     </message>
     <message numerus="yes">
-        <source>%n Wertebereichszuordnung(en) geprüft</source>
+        <source>%Ln Wertebereichszuordnung(en) geprüft</source>
         <translation>
-            <numerusform>%n dodelitev območij vrednosti preverjena</numerusform>
-            <numerusform>%n dodelitvi območij vrednosti preverjeni</numerusform>
-            <numerusform>%n dodelitve območij vrednosti preverjene</numerusform>
-            <numerusform>%n dodelitev območij vrednosti preverjenih</numerusform>
+            <numerusform>%Ln dodelitev območij vrednosti preverjena</numerusform>
+            <numerusform>%Ln dodelitvi območij vrednosti preverjeni</numerusform>
+            <numerusform>%Ln dodelitve območij vrednosti preverjene</numerusform>
+            <numerusform>%Ln dodelitev območij vrednosti preverjenih</numerusform>
         </translation>
     </message>
     <message>
@@ -4466,12 +4615,12 @@ Vrstica: %2
         <translation>brez pripomb</translation>
     </message>
     <message numerus="yes">
-        <source>%n Beanstandung(en)</source>
+        <source>%Ln Beanstandung(en)</source>
         <translation>
-            <numerusform>%n pripomba</numerusform>
-            <numerusform>%n pripombi</numerusform>
-            <numerusform>%n pripombe</numerusform>
-            <numerusform>%n pripomb</numerusform>
+            <numerusform>%Ln pripomba</numerusform>
+            <numerusform>%Ln pripombi</numerusform>
+            <numerusform>%Ln pripombe</numerusform>
+            <numerusform>%Ln pripomb</numerusform>
         </translation>
     </message>
     <message>

@@ -8,101 +8,101 @@
         <translation>Det finns inget att ändra.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigen?</source>
+        <source>%Ln Zeile(n) bestätigen?</source>
         <translation>
-            <numerusform>Bekräfta %n rad?</numerusform>
-            <numerusform>Bekräfta %n rader?</numerusform>
+            <numerusform>Bekräfta %Ln rad?</numerusform>
+            <numerusform>Bekräfta %Ln rader?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigen?</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Bekräfta %n rad som utgången?</numerusform>
-            <numerusform>Bekräfta %n rader som utgångna?</numerusform>
+            <numerusform>Bekräfta %Ln rad som utgången?</numerusform>
+            <numerusform>Bekräfta %Ln rader som utgångna?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben?</source>
         <translation>
-            <numerusform>Ta bort tilldelningen av %n rad?</numerusform>
-            <numerusform>Ta bort tilldelningen av %n rader?</numerusform>
+            <numerusform>Ta bort tilldelningen av %Ln rad?</numerusform>
+            <numerusform>Ta bort tilldelningen av %Ln rader?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>Ta bort tilldelningen av %n rad och bekräfta den som utgången?</numerusform>
-            <numerusform>Ta bort tilldelningen av %n rader och bekräfta dem som utgångna?</numerusform>
+            <numerusform>Ta bort tilldelningen av %Ln rad och bekräfta den som utgången?</numerusform>
+            <numerusform>Ta bort tilldelningen av %Ln rader och bekräfta dem som utgångna?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind schon bestätigt.</source>
+        <source>%Ln davon ist/sind schon bestätigt.</source>
         <translation>
-            <numerusform>%n av dem är redan bekräftad.</numerusform>
-            <numerusform>%n av dem är redan bekräftade.</numerusform>
+            <numerusform>%Ln av dem är redan bekräftad.</numerusform>
+            <numerusform>%Ln av dem är redan bekräftade.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon verliert/verlieren ihre Wertebereichszuordnung.</source>
+        <source>%Ln davon verliert/verlieren ihre Wertebereichszuordnung.</source>
         <translation>
-            <numerusform>%n av dem förlorar sin värdeområdestilldelning.</numerusform>
-            <numerusform>%n av dem förlorar sina värdeområdestilldelningar.</numerusform>
+            <numerusform>%Ln av dem förlorar sin värdeområdestilldelning.</numerusform>
+            <numerusform>%Ln av dem förlorar sina värdeområdestilldelningar.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
+        <source>%Ln Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
         <translation>
-            <numerusform>%n rad utan mål förblir obekräftad.</numerusform>
-            <numerusform>%n rader utan mål förblir obekräftade.</numerusform>
+            <numerusform>%Ln rad utan mål förblir obekräftad.</numerusform>
+            <numerusform>%Ln rader utan mål förblir obekräftade.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
+        <source>%Ln Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
         <translation>
-            <numerusform>%n rad förblir som den är.</numerusform>
-            <numerusform>%n rader förblir som de är.</numerusform>
+            <numerusform>%Ln rad förblir som den är.</numerusform>
+            <numerusform>%Ln rader förblir som de är.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
+        <source>%Ln Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
         <translation>
-            <numerusform>%n rad i konflikt ändras inte.</numerusform>
-            <numerusform>%n rader i konflikt ändras inte.</numerusform>
+            <numerusform>%Ln rad i konflikt ändras inte.</numerusform>
+            <numerusform>%Ln rader i konflikt ändras inte.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
+        <source>%Ln Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
         <translation>
-            <numerusform>%n rad finns inte i något målprojekt.</numerusform>
-            <numerusform>%n rader finns inte i något målprojekt.</numerusform>
+            <numerusform>%Ln rad finns inte i något målprojekt.</numerusform>
+            <numerusform>%Ln rader finns inte i något målprojekt.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt.</source>
+        <source>%Ln Zeile(n) bestätigt.</source>
         <translation>
-            <numerusform>%n rad bekräftad.</numerusform>
-            <numerusform>%n rader bekräftade.</numerusform>
+            <numerusform>%Ln rad bekräftad.</numerusform>
+            <numerusform>%Ln rader bekräftade.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt.</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>%n rad bekräftad som utgången.</numerusform>
-            <numerusform>%n rader bekräftade som utgångna.</numerusform>
+            <numerusform>%Ln rad bekräftad som utgången.</numerusform>
+            <numerusform>%Ln rader bekräftade som utgångna.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben.</source>
         <translation>
-            <numerusform>Tilldelningen av %n rad borttagen.</numerusform>
-            <numerusform>Tilldelningen av %n rader borttagen.</numerusform>
+            <numerusform>Tilldelningen av %Ln rad borttagen.</numerusform>
+            <numerusform>Tilldelningen av %Ln rader borttagen.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>Tilldelningen av %n rad borttagen och raden bekräftad som utgången.</numerusform>
-            <numerusform>Tilldelningen av %n rader borttagen och raderna bekräftade som utgångna.</numerusform>
+            <numerusform>Tilldelningen av %Ln rad borttagen och raden bekräftad som utgången.</numerusform>
+            <numerusform>Tilldelningen av %Ln rader borttagen och raderna bekräftade som utgångna.</numerusform>
         </translation>
     </message>
 </context>
@@ -160,10 +160,6 @@
         <translation>Det finns inget att ta över från %1.</translation>
     </message>
     <message>
-        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
-        <translation>Övertaget från %1: %2 av %3 bekräftade rader, %4 säkert tilldelade, %5 föreslagna.</translation>
-    </message>
-    <message>
         <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
         <translation>Filen innehåller ingen mappning från katalogutgåva %1.</translation>
     </message>
@@ -206,6 +202,13 @@
     <message>
         <source>Entscheidungen aus %1 übernommen: %2</source>
         <translation>Beslut övertagna från %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Aus %1 übernommen: %2 von %Ln bestätigten Zeile(n), %3 sicher zugeordnet, %4 vorgeschlagen.</source>
+        <translation>
+            <numerusform>Övertaget från %1: %2 av %Ln bekräftad rad, %3 säkert tilldelade, %4 föreslagna.</numerusform>
+            <numerusform>Övertaget från %1: %2 av %Ln bekräftade rader, %3 säkert tilldelade, %4 föreslagna.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -270,10 +273,10 @@
         <translation>Konflikt %1 av %2, ännu %3 öppna</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
+        <source>%Ln Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
         <translation>
-            <numerusform>%n rad i %1 motsäger sig på samma sätt. Gäller beslutet för alla?</numerusform>
-            <numerusform>%n rader i %1 motsäger sig på samma sätt. Gäller beslutet för alla?</numerusform>
+            <numerusform>%Ln rad i %1 motsäger sig på samma sätt. Gäller beslutet för alla?</numerusform>
+            <numerusform>%Ln rader i %1 motsäger sig på samma sätt. Gäller beslutet för alla?</numerusform>
         </translation>
     </message>
     <message>
@@ -309,15 +312,11 @@ Annat: %2</translation>
         <source>Alle Konflikte sind entschieden.</source>
         <translation>Alla konflikter är avgjorda.</translation>
     </message>
-    <message>
-        <source>%1 von %2 Konflikten sind noch offen.</source>
-        <translation>%1 av %2 konflikter är fortfarande öppna.</translation>
-    </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) widersprechen sich wie diese.</source>
+        <source>%Ln weitere Zeile(n) widersprechen sich wie diese.</source>
         <translation>
-            <numerusform>%n rad till motsäger sig som denna.</numerusform>
-            <numerusform>%n rader till motsäger sig som denna.</numerusform>
+            <numerusform>%Ln rad till motsäger sig som denna.</numerusform>
+            <numerusform>%Ln rader till motsäger sig som denna.</numerusform>
         </translation>
     </message>
     <message>
@@ -339,6 +338,13 @@ Annat: %2</translation>
     <message>
         <source>Neu entscheiden</source>
         <translation>Besluta på nytt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Konflikt(en) noch offen.</source>
+        <translation>
+            <numerusform>%1 av %Ln konflikt fortfarande öppen.</numerusform>
+            <numerusform>%1 av %Ln konflikter fortfarande öppna.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -457,10 +463,10 @@ Annat: %2</translation>
         <translation>lika</translation>
     </message>
     <message numerus="yes">
-        <source>ersetzt wie in %n weiteren Zeile(n)</source>
+        <source>ersetzt wie in %Ln weiteren Zeile(n)</source>
         <translation>
-            <numerusform>ersatt som i %n rad till</numerusform>
-            <numerusform>ersatt som i %n rader till</numerusform>
+            <numerusform>ersatt som i %Ln rad till</numerusform>
+            <numerusform>ersatt som i %Ln rader till</numerusform>
         </translation>
     </message>
     <message>
@@ -523,10 +529,10 @@ Annat: %2</translation>
         <translation>Säkert tilldelad.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n rad</numerusform>
-            <numerusform>%n rader</numerusform>
+            <numerusform>%Ln rad</numerusform>
+            <numerusform>%Ln rader</numerusform>
         </translation>
     </message>
     <message>
@@ -609,21 +615,17 @@ Annat: %2</translation>
         <translation>&amp;Kasta</translation>
     </message>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n rad</numerusform>
-            <numerusform>%1: %n rader</numerusform>
+            <numerusform>%1: %Ln rad</numerusform>
+            <numerusform>%1: %Ln rader</numerusform>
         </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>och %1 till</translation>
-    </message>
     <message numerus="yes">
-        <source>Noch %n Zeile(n) in Konflikt, in diesen Projekten:</source>
+        <source>Noch %Ln Zeile(n) in Konflikt, in diesen Projekten:</source>
         <translation>
-            <numerusform>Ännu %n rad i konflikt, i dessa projekt:</numerusform>
-            <numerusform>Ännu %n rader i konflikt, i dessa projekt:</numerusform>
+            <numerusform>Ännu %Ln rad i konflikt, i dessa projekt:</numerusform>
+            <numerusform>Ännu %Ln rader i konflikt, i dessa projekt:</numerusform>
         </translation>
     </message>
     <message>
@@ -665,6 +667,13 @@ Annat: %2</translation>
     <message>
         <source>Die Mapping-Datei kann nicht angelegt werden.</source>
         <translation>Mappningsfilen kan inte skapas.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>och %Ln till</numerusform>
+            <numerusform>och %Ln till</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -728,6 +737,15 @@ Välj en annan fil.</translation>
     <message>
         <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte einen anderen Ordner wählen.</source>
         <translation>Inget kan skapas i mappen för %1 (%2). Inget skrevs. Välj en annan mapp.</translation>
+    </message>
+</context>
+<context>
+    <name>EditorArea</name>
+    <message>
+        <source>Keine Zeile dieses Projekts ist im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Zeilen zu sehen.</source>
+        <translation>Ingen rad i det här projektet finns i filtret.
+Öppna ”%1” och välj ”%2” för att se alla rader igen.</translation>
     </message>
 </context>
 <context>
@@ -855,17 +873,17 @@ Välj en annan fil.</translation>
         <translation>Läser tabellerna...</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n rad</numerusform>
-            <numerusform>%n rader</numerusform>
+            <numerusform>%Ln rad</numerusform>
+            <numerusform>%Ln rader</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>i %n projekt</numerusform>
-            <numerusform>i %n projekt</numerusform>
+            <numerusform>i %Ln projekt</numerusform>
+            <numerusform>i %Ln projekt</numerusform>
         </translation>
     </message>
     <message>
@@ -873,10 +891,10 @@ Välj en annan fil.</translation>
         <translation>Inget filter: alla rader</translation>
     </message>
     <message numerus="yes">
-        <source>%n Tabelle(n) nicht lesbar</source>
+        <source>%Ln Tabelle(n) nicht lesbar</source>
         <translation>
-            <numerusform>Oläsliga tabeller: %n</numerusform>
-            <numerusform>Oläsliga tabeller: %n</numerusform>
+            <numerusform>Oläsliga tabeller: %Ln</numerusform>
+            <numerusform>Oläsliga tabeller: %Ln</numerusform>
         </translation>
     </message>
     <message>
@@ -1025,10 +1043,10 @@ Välj en annan fil.</translation>
         <translation>Rad %1 i %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1</source>
+        <source>%Ln Zeile(n) in %1</source>
         <translation>
-            <numerusform>%n rad i %1</numerusform>
-            <numerusform>%n rader i %1</numerusform>
+            <numerusform>%Ln rad i %1</numerusform>
+            <numerusform>%Ln rader i %1</numerusform>
         </translation>
     </message>
     <message>
@@ -1357,10 +1375,10 @@ Välj en annan fil.</translation>
         <translation>Det kopierade villkoret kan inte användas så här, ett värde saknas, är ett område eller innehåller ett citattecken: %1</translation>
     </message>
     <message numerus="yes">
-        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.</source>
+        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %Ln Zeile(n) offen.</source>
         <translation>
-            <numerusform>Här i filtret är allt klart, utanför är ännu %n rad öppen.</numerusform>
-            <numerusform>Här i filtret är allt klart, utanför är ännu %n rader öppna.</numerusform>
+            <numerusform>Här i filtret är allt klart, utanför är ännu %Ln rad öppen.</numerusform>
+            <numerusform>Här i filtret är allt klart, utanför är ännu %Ln rader öppna.</numerusform>
         </translation>
     </message>
     <message>
@@ -1428,16 +1446,16 @@ Välj en annan fil.</translation>
         <translation>Det gäller alla rader i projektet.</translation>
     </message>
     <message>
-        <source>Gemeint sind die %1 gezeigten von %2 Zeilen des Projekts.</source>
-        <translation>Det gäller de %1 visade av projektets %2 rader.</translation>
-    </message>
-    <message>
         <source>Filter: %1.</source>
         <translation>Filter: %1.</translation>
     </message>
     <message>
         <source>Kein anderes Projekt hat solche Zeilen</source>
         <translation>Inget annat projekt har sådana rader</translation>
+    </message>
+    <message>
+        <source>Gemeint sind nur die gezeigten Zeilen des Projekts: %1 von %2.</source>
+        <translation>Det gäller bara de visade raderna i projektet: %1 av %2.</translation>
     </message>
 </context>
 <context>
@@ -1670,10 +1688,6 @@ Välj en annan fil.</translation>
         <translation>S&amp;täng</translation>
     </message>
     <message>
-        <source>Die ersten %1 Links; die Suche zeigt andere.</source>
-        <translation>De första %1 länkarna; sökningen visar andra.</translation>
-    </message>
-    <message>
         <source>Links: %1</source>
         <translation>Länkar: %1</translation>
     </message>
@@ -1692,6 +1706,13 @@ Välj en annan fil.</translation>
     <message>
         <source>&amp;Wiederherstellen</source>
         <translation>Åte&amp;rställ</translation>
+    </message>
+    <message numerus="yes">
+        <source>Die ersten %Ln Link(s); die Suche zeigt andere.</source>
+        <translation>
+            <numerusform>Den första länken (%Ln); sökningen visar andra.</numerusform>
+            <numerusform>De första %Ln länkarna; sökningen visar andra.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1814,15 +1835,18 @@ Välj en annan fil.</translation>
         <source>Nichts gefunden</source>
         <translation>Inget hittades</translation>
     </message>
-    <message>
-        <source>Die ersten %1 von %2 Treffern</source>
-        <translation>De första %1 av %2 träffar</translation>
+    <message numerus="yes">
+        <source>%Ln Treffer</source>
+        <translation>
+            <numerusform>%Ln träff</numerusform>
+            <numerusform>%Ln träffar</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
-        <source>%n Treffer</source>
+        <source>Die ersten %1 von %Ln Treffer(n)</source>
         <translation>
-            <numerusform>%n träff</numerusform>
-            <numerusform>%n träffar</numerusform>
+            <numerusform>De första %1 av %Ln träff</numerusform>
+            <numerusform>De första %1 av %Ln träffar</numerusform>
         </translation>
     </message>
 </context>
@@ -2045,24 +2069,24 @@ Välj en annan fil.</translation>
         <translation>Egna ändringar ovanpå filens version</translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): eigene Entscheidung</source>
+        <source>%Ln Konflikt(e): eigene Entscheidung</source>
         <translation>
-            <numerusform>%n konflikt: eget beslut</numerusform>
-            <numerusform>%n konflikter: eget beslut</numerusform>
+            <numerusform>%Ln konflikt: eget beslut</numerusform>
+            <numerusform>%Ln konflikter: eget beslut</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): Entscheidung der anderen Seite</source>
+        <source>%Ln Konflikt(e): Entscheidung der anderen Seite</source>
         <translation>
-            <numerusform>%n konflikt: den andra sidans beslut</numerusform>
-            <numerusform>%n konflikter: den andra sidans beslut</numerusform>
+            <numerusform>%Ln konflikt: den andra sidans beslut</numerusform>
+            <numerusform>%Ln konflikter: den andra sidans beslut</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): neu zu entscheiden</source>
+        <source>%Ln Konflikt(e): neu zu entscheiden</source>
         <translation>
-            <numerusform>%n konflikt: ska beslutas på nytt</numerusform>
-            <numerusform>%n konflikter: ska beslutas på nytt</numerusform>
+            <numerusform>%Ln konflikt: ska beslutas på nytt</numerusform>
+            <numerusform>%Ln konflikter: ska beslutas på nytt</numerusform>
         </translation>
     </message>
     <message>
@@ -2133,50 +2157,67 @@ Välj en annan fil.</translation>
         <translation>Avbrutet, inget skapades</translation>
     </message>
     <message>
-        <source>%1 Projekte: %2 am selben Ort, %3 an anderem, %4 aufgeteilt, %5 ohne Ziel, %6 unlesbar</source>
-        <translation>%1 projekt: %2 på samma plats, %3 på en annan, %4 uppdelade, %5 utan mål, %6 oläsliga</translation>
-    </message>
-    <message>
         <source>Zeilen werden zugeordnet</source>
         <translation>Rader tilldelas</translation>
     </message>
-    <message>
-        <source>Abgebrochen: %1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>Avbrutet: %1 av %2 projekt med %3 rader, varav %4 tilldelade, %5 att kontrollera, %6 utan mål</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e): %1 am selben Ort, %2 an anderem, %3 aufgeteilt, %4 ohne Ziel, %5 unlesbar</source>
+        <translation>
+            <numerusform>%Ln projekt: %1 på samma plats, %2 på en annan, %3 uppdelat, %4 utan mål, %5 oläsligt</numerusform>
+            <numerusform>%Ln projekt: %1 på samma plats, %2 på en annan, %3 uppdelade, %4 utan mål, %5 oläsliga</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 av %Ln projekt</numerusform>
+            <numerusform>%1 av %Ln projekt</numerusform>
+        </translation>
     </message>
     <message>
-        <source>%1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>%1 av %2 projekt med %3 rader, varav %4 tilldelade, %5 att kontrollera, %6 utan mål</translation>
+        <source>davon %1 zugeordnet, %2 zu prüfen, %3 ohne Ziel</source>
+        <translation>varav %1 tilldelade, %2 att kontrollera, %3 utan mål</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>Avbrutet: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 med %Ln rad</numerusform>
+            <numerusform>%1 med %Ln rader</numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>MergeState</name>
     <message numerus="yes">
-        <source>%n Änderung(en) übernommen.</source>
+        <source>%Ln Änderung(en) übernommen.</source>
         <translation>
-            <numerusform>%n ändring togs över.</numerusform>
-            <numerusform>%n ändringar togs över.</numerusform>
+            <numerusform>%Ln ändring togs över.</numerusform>
+            <numerusform>%Ln ändringar togs över.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) haben beide gleich entschieden.</source>
+        <source>%Ln Zeile(n) haben beide gleich entschieden.</source>
         <translation>
-            <numerusform>%n rad har båda beslutat lika.</numerusform>
-            <numerusform>%n rader har båda beslutat lika.</numerusform>
+            <numerusform>%Ln rad har båda beslutat lika.</numerusform>
+            <numerusform>%Ln rader har båda beslutat lika.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
+        <source>%Ln Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
         <translation>
-            <numerusform>%n rad är beslutad olika och markerad som konflikt.</numerusform>
-            <numerusform>%n rader är beslutade olika och markerade som konflikt.</numerusform>
+            <numerusform>%Ln rad är beslutad olika och markerad som konflikt.</numerusform>
+            <numerusform>%Ln rader är beslutade olika och markerade som konflikt.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
+        <source>%Ln andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
         <translation>
-            <numerusform>%n annan motsägelse: filens version gäller.</numerusform>
-            <numerusform>%n andra motsägelser: filens version gäller.</numerusform>
+            <numerusform>%Ln annan motsägelse: filens version gäller.</numerusform>
+            <numerusform>%Ln andra motsägelser: filens version gäller.</numerusform>
         </translation>
     </message>
 </context>
@@ -2202,17 +2243,17 @@ Välj en annan fil.</translation>
         <translation>Tabellerna jämförs</translation>
     </message>
     <message numerus="yes">
-        <source>%n zugeordnete Zeile(n) angesehen</source>
+        <source>%Ln zugeordnete Zeile(n) angesehen</source>
         <translation>
-            <numerusform>%n tilldelad rad granskad</numerusform>
-            <numerusform>%n tilldelade rader granskade</numerusform>
+            <numerusform>%Ln tilldelad rad granskad</numerusform>
+            <numerusform>%Ln tilldelade rader granskade</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Fundstelle(n)</source>
+        <source>%Ln Fundstelle(n)</source>
         <translation>
-            <numerusform>%n fynd</numerusform>
-            <numerusform>%n fynd</numerusform>
+            <numerusform>%Ln fynd</numerusform>
+            <numerusform>%Ln fynd</numerusform>
         </translation>
     </message>
     <message>
@@ -2437,43 +2478,39 @@ Välj en annan fil.</translation>
 </context>
 <context>
     <name>PatternDock</name>
-    <message>
-        <source>Die Tabellen werden verglichen: %1 Projekte gelesen</source>
-        <translation>Tabellerna jämförs: %1 projekt lästa</translation>
-    </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) mit Vorschlag</source>
+        <source>%Ln offene Zeile(n) mit Vorschlag</source>
         <translation>
-            <numerusform>%n öppen rad med förslag</numerusform>
-            <numerusform>%n öppna rader med förslag</numerusform>
+            <numerusform>%Ln öppen rad med förslag</numerusform>
+            <numerusform>%Ln öppna rader med förslag</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Muster(n)</source>
+        <source>in %Ln Muster(n)</source>
         <translation>
-            <numerusform>i %n mönster</numerusform>
-            <numerusform>i %n mönster</numerusform>
+            <numerusform>i %Ln mönster</numerusform>
+            <numerusform>i %Ln mönster</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon wird/werden noch verglichen</source>
+        <source>%Ln davon wird/werden noch verglichen</source>
         <translation>
-            <numerusform>%n av dem jämförs fortfarande</numerusform>
-            <numerusform>%n av dem jämförs fortfarande</numerusform>
+            <numerusform>%Ln av dem jämförs fortfarande</numerusform>
+            <numerusform>%Ln av dem jämförs fortfarande</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Gewählt: %n Zeile(n)</source>
+        <source>Gewählt: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>Vald: %n rad</numerusform>
-            <numerusform>Valda: %n rader</numerusform>
+            <numerusform>Vald: %Ln rad</numerusform>
+            <numerusform>Valda: %Ln rader</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon herausgenommen</source>
+        <source>%Ln davon herausgenommen</source>
         <translation>
-            <numerusform>%n av dem uttagen</numerusform>
-            <numerusform>%n av dem uttagna</numerusform>
+            <numerusform>%Ln av dem uttagen</numerusform>
+            <numerusform>%Ln av dem uttagna</numerusform>
         </translation>
     </message>
     <message>
@@ -2481,41 +2518,48 @@ Välj en annan fil.</translation>
         <translation>De öppna radernas skillnader</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>i %n projekt</numerusform>
-            <numerusform>i %n projekt</numerusform>
+            <numerusform>i %Ln projekt</numerusform>
+            <numerusform>i %Ln projekt</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <source>%Ln offene Zeile(n) ohne Nachfolger</source>
         <translation>
-            <numerusform>%n öppen rad utan efterföljare</numerusform>
-            <numerusform>%n öppna rader utan efterföljare</numerusform>
+            <numerusform>%Ln öppen rad utan efterföljare</numerusform>
+            <numerusform>%Ln öppna rader utan efterföljare</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Die Tabellen werden verglichen: %Ln Projekt(e) gelesen</source>
+        <translation>
+            <numerusform>Tabellerna jämförs: %Ln projekt läst</numerusform>
+            <numerusform>Tabellerna jämförs: %Ln projekt lästa</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>PatternModel</name>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n rad</numerusform>
-            <numerusform>%n rader</numerusform>
+            <numerusform>%Ln rad</numerusform>
+            <numerusform>%Ln rader</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Projekt(e)</source>
+        <source>%Ln Projekt(e)</source>
         <translation>
-            <numerusform>%n projekt</numerusform>
-            <numerusform>%n projekt</numerusform>
+            <numerusform>%Ln projekt</numerusform>
+            <numerusform>%Ln projekt</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) haben diese und andere Unterschiede</source>
+        <source>%Ln weitere Zeile(n) haben diese und andere Unterschiede</source>
         <translation>
-            <numerusform>%n rad till har dessa och andra skillnader</numerusform>
-            <numerusform>%n rader till har dessa och andra skillnader</numerusform>
+            <numerusform>%Ln rad till har dessa och andra skillnader</numerusform>
+            <numerusform>%Ln rader till har dessa och andra skillnader</numerusform>
         </translation>
     </message>
     <message>
@@ -2742,10 +2786,10 @@ Rad: %2
         <translation>Rad %1: %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
+        <source>%Ln Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
         <translation>
-            <numerusform>%n rad är bekräftad trots att värden i dess område inte har någon ny rad.</numerusform>
-            <numerusform>%n rader är bekräftade trots att värden i deras områden inte har någon ny rad.</numerusform>
+            <numerusform>%Ln rad är bekräftad trots att värden i dess område inte har någon ny rad.</numerusform>
+            <numerusform>%Ln rader är bekräftade trots att värden i deras områden inte har någon ny rad.</numerusform>
         </translation>
     </message>
     <message>
@@ -2760,19 +2804,15 @@ Rad: %2
 <context>
     <name>RangeDock</name>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n rad</numerusform>
-            <numerusform>%1: %n rader</numerusform>
+            <numerusform>%1: %Ln rad</numerusform>
+            <numerusform>%1: %Ln rader</numerusform>
         </translation>
     </message>
     <message>
         <source>Die Zeile hat keine Wertebereichszuordnung.</source>
         <translation>Raden har ingen värdeområdestilldelning.</translation>
-    </message>
-    <message>
-        <source>%1: %2 von %3 Werten zugeordnet</source>
-        <translation>%1: %2 av %3 värden tilldelade</translation>
     </message>
     <message>
         <source>fehlend: %1</source>
@@ -2789,6 +2829,13 @@ Rad: %2
     <message>
         <source>Wertebereich der Zeile</source>
         <translation>Radens värdeområde</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 von %Ln Wert(en) zugeordnet</source>
+        <translation>
+            <numerusform>%1: %2 av %Ln värde tilldelat</numerusform>
+            <numerusform>%1: %2 av %Ln värden tilldelade</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2831,10 +2878,6 @@ Rad: %2
     <message>
         <source>Wiederherstellung</source>
         <translation>Återställning</translation>
-    </message>
-    <message>
-        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2 Schritte mit %3 Zeilen in %4 Projekten, zuletzt „%5“. Sie stammt von %6.</source>
-        <translation>För %1 finns arbete som inte sparades: %2 steg med %3 rader i %4 projekt, senast ”%5”. Det kommer från %6.</translation>
     </message>
     <message>
         <source>Gespeichert</source>
@@ -2884,16 +2927,37 @@ Rad: %2
         <source>&amp;Gespeicherten Stand öffnen</source>
         <translation>Öppna &amp;den sparade versionen</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln Schritt(e)</source>
+        <translation>
+            <numerusform>%Ln steg</numerusform>
+            <numerusform>%Ln steg</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2, zuletzt „%3“. Sie stammt von %4.</source>
+        <translation>För %1 finns arbete som inte sparades: %2, senast ”%3”. Det kommer från %4.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 med %Ln rad</numerusform>
+            <numerusform>%1 med %Ln rader</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 i %Ln projekt</numerusform>
+            <numerusform>%1 i %Ln projekt</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ReleaseCommands</name>
     <message>
         <source>Tabellen werden importiert</source>
         <translation>Tabeller importeras</translation>
-    </message>
-    <message>
-        <source>%1 Tabellen mit %2 Zeilen: %3 neu, %4 geändert, %5 unverändert, %6 nicht importiert</source>
-        <translation>%1 tabeller med %2 rader: %3 nya, %4 ändrade, %5 oförändrade, %6 inte importerade</translation>
     </message>
     <message>
         <source>%1 hat keine CSV-Datei mehr und bleibt, wie es ist</source>
@@ -2932,10 +2996,6 @@ Rad: %2
         <translation>Avbrutet, inget exporterades</translation>
     </message>
     <message>
-        <source>%1 Zeilen nach %2 exportiert</source>
-        <translation>%1 rader exporterade till %2</translation>
-    </message>
-    <message>
         <source>Bericht schreiben</source>
         <translation>Skriv rapport</translation>
     </message>
@@ -2966,6 +3026,31 @@ Rad: %2
     <message>
         <source>Seite %1 von %2</source>
         <translation>Sida %1 av %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Tabelle(n)</source>
+        <translation>
+            <numerusform>%Ln tabell</numerusform>
+            <numerusform>%Ln tabeller</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 neu, %2 geändert, %3 unverändert, %4 nicht importiert</source>
+        <translation>%1 nya, %2 ändrade, %3 oförändrade, %4 inte importerade</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Zeile(n) nach %1 exportiert</source>
+        <translation>
+            <numerusform>%Ln rad exporterad till %1</numerusform>
+            <numerusform>%Ln rader exporterade till %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 med %Ln rad</numerusform>
+            <numerusform>%1 med %Ln rader</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3011,17 +3096,17 @@ Rad: %2
         <translation>Tabellerna läses</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dafür</source>
+        <source>%Ln Zeile(n) dafür</source>
         <translation>
-            <numerusform>%n rad för</numerusform>
-            <numerusform>%n rader för</numerusform>
+            <numerusform>%Ln rad för</numerusform>
+            <numerusform>%Ln rader för</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dagegen</source>
+        <source>%Ln Zeile(n) dagegen</source>
         <translation>
-            <numerusform>%n rad emot</numerusform>
-            <numerusform>%n rader emot</numerusform>
+            <numerusform>%Ln rad emot</numerusform>
+            <numerusform>%Ln rader emot</numerusform>
         </translation>
     </message>
 </context>
@@ -3038,10 +3123,6 @@ Rad: %2
     <message>
         <source>Erstellt am %1</source>
         <translation>Skapad den %1</translation>
-    </message>
-    <message>
-        <source>Erledigt: %1 von %2 Zeilen; offen: %3.</source>
-        <translation>Klart: %1 av %2 rader; öppna: %3.</translation>
     </message>
     <message>
         <source>Stand der Zeilen</source>
@@ -3267,6 +3348,10 @@ Rad: %2
         <source>Beurteilte Zeilen</source>
         <translation>Bedömda rader</translation>
     </message>
+    <message>
+        <source>Erledigte Zeilen: %1 von %2; offen: %3.</source>
+        <translation>Klara rader: %1 av %2; öppna: %3.</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3345,10 +3430,10 @@ Rad: %2
         <translation>Tabellerna är inte jämförda än</translation>
     </message>
     <message numerus="yes">
-        <source>Von vorn: %n Zeile(n) offen</source>
+        <source>Von vorn: %Ln Zeile(n) offen</source>
         <translation>
-            <numerusform>Från början: %n rad öppen</numerusform>
-            <numerusform>Från början: %n rader öppna</numerusform>
+            <numerusform>Från början: %Ln rad öppen</numerusform>
+            <numerusform>Från början: %Ln rader öppna</numerusform>
         </translation>
     </message>
     <message>
@@ -3372,17 +3457,17 @@ Rad: %2
         <translation>Inget mönster är valt, eller alla dess rader är beslutade</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n rad</numerusform>
-            <numerusform>%n rader</numerusform>
+            <numerusform>%Ln rad</numerusform>
+            <numerusform>%Ln rader</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en) bestätigen?</source>
+        <source>in %Ln Projekt(en) bestätigen?</source>
         <translation>
-            <numerusform>bekräfta i %n projekt?</numerusform>
-            <numerusform>bekräfta i %n projekt?</numerusform>
+            <numerusform>bekräfta i %Ln projekt?</numerusform>
+            <numerusform>bekräfta i %Ln projekt?</numerusform>
         </translation>
     </message>
     <message>
@@ -3394,10 +3479,10 @@ Rad: %2
         <translation>&amp;Bekräfta</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n rad bekräftad</numerusform>
-            <numerusform>%n rader bekräftade</numerusform>
+            <numerusform>%Ln rad bekräftad</numerusform>
+            <numerusform>%Ln rader bekräftade</numerusform>
         </translation>
     </message>
     <message>
@@ -3419,10 +3504,6 @@ Rad: %2
     <message>
         <source>Stichprobe</source>
         <translation>Stickprov</translation>
-    </message>
-    <message>
-        <source>So viele von %1 Zeilen werden gezogen und einzeln beurteilt. %2 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %3 richtige weniger als 1 %.</source>
-        <translation>Så många av %1 rader dras och bedöms en och en. %2 rätta säger med 95 % säkerhet att färre än 5 % är fel, %3 rätta färre än 1 %.</translation>
     </message>
     <message>
         <source>&amp;Ziehen</source>
@@ -3481,10 +3562,10 @@ Rad: %2
         <translation>&amp;Titta på den felaktiga raden</translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind unsicher.</source>
+        <source>%Ln davon ist/sind unsicher.</source>
         <translation>
-            <numerusform>%n av dem är osäker.</numerusform>
-            <numerusform>%n av dem är osäkra.</numerusform>
+            <numerusform>%Ln av dem är osäker.</numerusform>
+            <numerusform>%Ln av dem är osäkra.</numerusform>
         </translation>
     </message>
     <message>
@@ -3492,22 +3573,29 @@ Rad: %2
         <translation>Alla mönster är klara</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>i %n projekt</numerusform>
-            <numerusform>i %n projekt</numerusform>
+            <numerusform>i %Ln projekt</numerusform>
+            <numerusform>i %Ln projekt</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n rad bekräftad som utgången</numerusform>
-            <numerusform>%n rader bekräftade som utgångna</numerusform>
+            <numerusform>%Ln rad bekräftad som utgången</numerusform>
+            <numerusform>%Ln rader bekräftade som utgångna</numerusform>
         </translation>
     </message>
     <message>
         <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
         <translation>Rad %1 i %2 är fel. Mängden har delats; med vilken del ska det fortsätta?</translation>
+    </message>
+    <message numerus="yes">
+        <source>So viele von %Ln Zeile(n) werden gezogen und einzeln beurteilt. %1 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %2 richtige weniger als 1 %.</source>
+        <translation>
+            <numerusform>Så många av %Ln rad dras och bedöms en och en. %1 rätta säger med 95 % säkerhet att färre än 5 % är fel, %2 rätta färre än 1 %.</numerusform>
+            <numerusform>Så många av %Ln rader dras och bedöms en och en. %1 rätta säger med 95 % säkerhet att färre än 5 % är fel, %2 rätta färre än 1 %.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3665,16 +3753,22 @@ Rad: %2
         <translation>Efter den senast avslutade sessionen är journalen %1 inte läsbar. Vad som stod där är inte känt; journalen behålls.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passen noch %2 Änderungen, %3 passen nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
-        <translation>Journalen %1 är skadad. Efter skadan passar %2 ändringar fortfarande, %3 passar inte längre; fler kan saknas. Journalen behålls.</translation>
-    </message>
-    <message>
         <source>Das Ende des Journals %1 ist nicht lesbar. Die letzte Änderung kann fehlen.</source>
         <translation>Slutet av journalen %1 är inte läsbart. Den senaste ändringen kan saknas.</translation>
     </message>
-    <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
-        <translation>Journalen %1 är skadad eller passar inte till mappningsfilen. Minst %2 senare ändringar saknas; journalen behålls.</translation>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passt/passen noch %Ln Änderung(en), %2 nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>Journalen %1 är skadad. Efter skadan passar %Ln ändring fortfarande, %2 passar inte längre; fler kan saknas. Journalen behålls.</numerusform>
+            <numerusform>Journalen %1 är skadad. Efter skadan passar %Ln ändringar fortfarande, %2 passar inte längre; fler kan saknas. Journalen behålls.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %Ln spätere Änderung(en) fehlt/fehlen; das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>Journalen %1 är skadad eller passar inte till mappningsfilen. Minst %Ln senare ändring saknas; journalen behålls.</numerusform>
+            <numerusform>Journalen %1 är skadad eller passar inte till mappningsfilen. Minst %Ln senare ändringar saknas; journalen behålls.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3926,11 +4020,6 @@ Rad: %2
         <translation>Allt beslutat</translation>
     </message>
     <message>
-        <source>Offen: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Öppet: &lt;a href=&quot;next&quot;&gt;%1 rader&lt;/a&gt; i %2 projekt</translation>
-    </message>
-    <message>
         <source>Zeilen, die noch eine Entscheidung brauchen</source>
         <translation>Rader som ännu behöver ett beslut</translation>
     </message>
@@ -3943,13 +4032,31 @@ Rad: %2
         <translation>Filter: ingen rad</translation>
     </message>
     <message>
-        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Filter: &lt;a href=&quot;next&quot;&gt;%1 rader&lt;/a&gt; i %2 projekt</translation>
-    </message>
-    <message>
         <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
         <translation>Rader som filtret över alla rader visar</translation>
+    </message>
+    <message numerus="yes">
+        <source>&lt;a href=&quot;next&quot;&gt;%Ln Zeile(n)&lt;/a&gt;</source>
+        <translation>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln rad&lt;/a&gt;</numerusform>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln rader&lt;/a&gt;</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Offen: %1</source>
+        <translation>Öppet: %1</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>Filter: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <extracomment>&quot;12 lines in 3 projects&quot;</extracomment>
+        <translation>
+            <numerusform>%1 i %Ln projekt</numerusform>
+            <numerusform>%1 i %Ln projekt</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3998,10 +4105,10 @@ Rad: %2
         <translation>&amp;Stäng</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <source>Mit %Ln abhängigen &amp;zurücknehmen</source>
         <translation>
-            <numerusform>&amp;Ta tillbaka med beroende (%n)</numerusform>
-            <numerusform>&amp;Ta tillbaka med beroende (%n)</numerusform>
+            <numerusform>&amp;Ta tillbaka med beroende (%Ln)</numerusform>
+            <numerusform>&amp;Ta tillbaka med beroende (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -4009,10 +4116,10 @@ Rad: %2
         <translation>&amp;Ta bara tillbaka detta</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <source>Mit %Ln früheren &amp;wieder ausführen</source>
         <translation>
-            <numerusform>&amp;Gör om med tidigare (%n)</numerusform>
-            <numerusform>&amp;Gör om med tidigare (%n)</numerusform>
+            <numerusform>&amp;Gör om med tidigare (%Ln)</numerusform>
+            <numerusform>&amp;Gör om med tidigare (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -4048,20 +4155,20 @@ Rad: %2
         <translation>Där står nu något annat som inget steg i listan har beslutat, till exempel från ett annat program. Steget kan inte längre flyttas.</translation>
     </message>
     <message numerus="yes">
-        <source>und %n weitere</source>
+        <source>und %Ln weitere</source>
         <translation>
-            <numerusform>och %n till</numerusform>
-            <numerusform>och %n till</numerusform>
+            <numerusform>och %Ln till</numerusform>
+            <numerusform>och %Ln till</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepListModel</name>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1 i %n projekt</numerusform>
-            <numerusform>%1 i %n projekt</numerusform>
+            <numerusform>%1 i %Ln projekt</numerusform>
+            <numerusform>%1 i %Ln projekt</numerusform>
         </translation>
     </message>
     <message>
@@ -4104,10 +4211,10 @@ Rad: %2
         <translation>Ändringen i %1 får effekt först när raderna tilldelas på nytt. Då behålls bara det som är bekräftat.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
+        <source>%Ln Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
         <translation>
-            <numerusform>%n rad i %1 var bekräftad som utgången och är det inte längre: %2</numerusform>
-            <numerusform>%n rader i %1 var bekräftade som utgångna och är det inte längre: %2</numerusform>
+            <numerusform>%Ln rad i %1 var bekräftad som utgången och är det inte längre: %2</numerusform>
+            <numerusform>%Ln rader i %1 var bekräftade som utgångna och är det inte längre: %2</numerusform>
         </translation>
     </message>
     <message>
@@ -4123,76 +4230,76 @@ Rad: %2
         <translation>En variabelmappning för målprojektet %1 i %2 har fallit bort.</translation>
     </message>
     <message numerus="yes">
-        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %n andere Zeile(n): %4</source>
+        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %Ln andere Zeile(n): %4</source>
         <translation>
-            <numerusform>Rad %1 → %2 i %3: även %n annan rad har målraden: %4</numerusform>
-            <numerusform>Rad %1 → %2 i %3: även %n andra rader har målraden: %4</numerusform>
+            <numerusform>Rad %1 → %2 i %3: även %Ln annan rad har målraden: %4</numerusform>
+            <numerusform>Rad %1 → %2 i %3: även %Ln andra rader har målraden: %4</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
+        <source>%Ln Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
         <translation>
-            <numerusform>%n rad i %1 delar sin målrad med nytilldelade: %2</numerusform>
-            <numerusform>%n rader i %1 delar sin målrad med nytilldelade: %2</numerusform>
+            <numerusform>%Ln rad i %1 delar sin målrad med nytilldelade: %2</numerusform>
+            <numerusform>%Ln rader i %1 delar sin målrad med nytilldelade: %2</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepSummary</name>
     <message numerus="yes">
-        <source>%n Konflikt(e) angenommen</source>
+        <source>%Ln Konflikt(e) angenommen</source>
         <translation>
-            <numerusform>%n konflikt godtagen</numerusform>
-            <numerusform>%n konflikter godtagna</numerusform>
+            <numerusform>%Ln konflikt godtagen</numerusform>
+            <numerusform>%Ln konflikter godtagna</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n rad bekräftad</numerusform>
-            <numerusform>%n rader bekräftade</numerusform>
+            <numerusform>%Ln rad bekräftad</numerusform>
+            <numerusform>%Ln rader bekräftade</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n rad bekräftad som utgången</numerusform>
-            <numerusform>%n rader bekräftade som utgångna</numerusform>
+            <numerusform>%Ln rad bekräftad som utgången</numerusform>
+            <numerusform>%Ln rader bekräftade som utgångna</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) zugeordnet</source>
+        <source>%Ln Zeile(n) zugeordnet</source>
         <translation>
-            <numerusform>%n rad tilldelad</numerusform>
-            <numerusform>%n rader tilldelade</numerusform>
+            <numerusform>%Ln rad tilldelad</numerusform>
+            <numerusform>%Ln rader tilldelade</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben</source>
         <translation>
-            <numerusform>tilldelningen av %n rad borttagen</numerusform>
-            <numerusform>tilldelningen av %n rader borttagen</numerusform>
+            <numerusform>tilldelningen av %Ln rad borttagen</numerusform>
+            <numerusform>tilldelningen av %Ln rader borttagen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Wertebereichszuordnung von %n Zeile(n) geändert</source>
+        <source>Wertebereichszuordnung von %Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>värdeområdestilldelningen för %n rad ändrad</numerusform>
-            <numerusform>värdeområdestilldelningen för %n rader ändrad</numerusform>
+            <numerusform>värdeområdestilldelningen för %Ln rad ändrad</numerusform>
+            <numerusform>värdeområdestilldelningen för %Ln rader ändrad</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Konflikt von %n Zeile(n) gelöst</source>
+        <source>Konflikt von %Ln Zeile(n) gelöst</source>
         <translation>
-            <numerusform>konflikten för %n rad löst</numerusform>
-            <numerusform>konflikten för %n rader löst</numerusform>
+            <numerusform>konflikten för %Ln rad löst</numerusform>
+            <numerusform>konflikten för %Ln rader löst</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) geändert</source>
+        <source>%Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>%n rad ändrad</numerusform>
-            <numerusform>%n rader ändrade</numerusform>
+            <numerusform>%Ln rad ändrad</numerusform>
+            <numerusform>%Ln rader ändrade</numerusform>
         </translation>
     </message>
     <message>
@@ -4260,10 +4367,10 @@ Rad: %2
         <translation>%1 i %2</translation>
     </message>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1 i %n projekt</numerusform>
-            <numerusform>%1 i %n projekt</numerusform>
+            <numerusform>%1 i %Ln projekt</numerusform>
+            <numerusform>%1 i %Ln projekt</numerusform>
         </translation>
     </message>
 </context>
@@ -4309,10 +4416,10 @@ Rad: %2
         <translation>Värdeområdestilldelningar kontrolleras</translation>
     </message>
     <message numerus="yes">
-        <source>%n Wertebereichszuordnung(en) geprüft</source>
+        <source>%Ln Wertebereichszuordnung(en) geprüft</source>
         <translation>
-            <numerusform>%n värdeområdestilldelning kontrollerad</numerusform>
-            <numerusform>%n värdeområdestilldelningar kontrollerade</numerusform>
+            <numerusform>%Ln värdeområdestilldelning kontrollerad</numerusform>
+            <numerusform>%Ln värdeområdestilldelningar kontrollerade</numerusform>
         </translation>
     </message>
     <message>
@@ -4320,10 +4427,10 @@ Rad: %2
         <translation>inga anmärkningar</translation>
     </message>
     <message numerus="yes">
-        <source>%n Beanstandung(en)</source>
+        <source>%Ln Beanstandung(en)</source>
         <translation>
-            <numerusform>%n anmärkning</numerusform>
-            <numerusform>%n anmärkningar</numerusform>
+            <numerusform>%Ln anmärkning</numerusform>
+            <numerusform>%Ln anmärkningar</numerusform>
         </translation>
     </message>
     <message>

@@ -8,87 +8,87 @@
         <translation>Değiştirilecek bir şey yok.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigen?</source>
+        <source>%Ln Zeile(n) bestätigen?</source>
         <translation>
-            <numerusform>%n satır onaylansın mı?</numerusform>
+            <numerusform>%Ln satır onaylansın mı?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigen?</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>%n satır kaldırılmış olarak onaylansın mı?</numerusform>
+            <numerusform>%Ln satır kaldırılmış olarak onaylansın mı?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben?</source>
         <translation>
-            <numerusform>%n satırın ataması kaldırılsın mı?</numerusform>
+            <numerusform>%Ln satırın ataması kaldırılsın mı?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>%n satırın ataması kaldırılsın ve kaldırılmış olarak onaylansın mı?</numerusform>
+            <numerusform>%Ln satırın ataması kaldırılsın ve kaldırılmış olarak onaylansın mı?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind schon bestätigt.</source>
+        <source>%Ln davon ist/sind schon bestätigt.</source>
         <translation>
-            <numerusform>Bunların %n tanesi zaten onaylandı.</numerusform>
+            <numerusform>Bunların %Ln tanesi zaten onaylandı.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon verliert/verlieren ihre Wertebereichszuordnung.</source>
+        <source>%Ln davon verliert/verlieren ihre Wertebereichszuordnung.</source>
         <translation>
-            <numerusform>Bunların %n tanesi değer aralığı atamasını kaybeder.</numerusform>
+            <numerusform>Bunların %Ln tanesi değer aralığı atamasını kaybeder.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
+        <source>%Ln Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
         <translation>
-            <numerusform>Hedefi olmayan %n satır onaylanmadan kalır.</numerusform>
+            <numerusform>Hedefi olmayan %Ln satır onaylanmadan kalır.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
+        <source>%Ln Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
         <translation>
-            <numerusform>%n satır olduğu gibi kalır.</numerusform>
+            <numerusform>%Ln satır olduğu gibi kalır.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
+        <source>%Ln Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
         <translation>
-            <numerusform>Çakışması olan %n satır değiştirilmez.</numerusform>
+            <numerusform>Çakışması olan %Ln satır değiştirilmez.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
+        <source>%Ln Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
         <translation>
-            <numerusform>%n satır hiçbir hedef projede kayıtlı değil.</numerusform>
+            <numerusform>%Ln satır hiçbir hedef projede kayıtlı değil.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt.</source>
+        <source>%Ln Zeile(n) bestätigt.</source>
         <translation>
-            <numerusform>%n satır onaylandı.</numerusform>
+            <numerusform>%Ln satır onaylandı.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt.</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>%n satır kaldırılmış olarak onaylandı.</numerusform>
+            <numerusform>%Ln satır kaldırılmış olarak onaylandı.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben.</source>
         <translation>
-            <numerusform>%n satırın ataması kaldırıldı.</numerusform>
+            <numerusform>%Ln satırın ataması kaldırıldı.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>%n satırın ataması kaldırıldı ve kaldırılmış olarak onaylandı.</numerusform>
+            <numerusform>%Ln satırın ataması kaldırıldı ve kaldırılmış olarak onaylandı.</numerusform>
         </translation>
     </message>
 </context>
@@ -146,10 +146,6 @@
         <translation>%1 dosyasından devralınacak bir şey yok.</translation>
     </message>
     <message>
-        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
-        <translation>%1 dosyasından devralındı: onaylanan %3 satırdan %2 satır, %4 kesin atandı, %5 önerildi.</translation>
-    </message>
-    <message>
         <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
         <translation>Dosyada %1 katalog sürümünden bir eşleme yok.</translation>
     </message>
@@ -192,6 +188,12 @@
     <message>
         <source>Entscheidungen aus %1 übernommen: %2</source>
         <translation>%1 dosyasından devralınan kararlar: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Aus %1 übernommen: %2 von %Ln bestätigten Zeile(n), %3 sicher zugeordnet, %4 vorgeschlagen.</source>
+        <translation>
+            <numerusform>%1 dosyasından devralındı: onaylanan %Ln satırdan %2 satır, %3 kesin atandı, %4 önerildi.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -256,9 +258,9 @@
         <translation>Çakışma %1 / %2, hâlâ açık: %3</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
+        <source>%Ln Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
         <translation>
-            <numerusform>%1 projesinden %n satır aynı biçimde çelişiyor. Karar hepsi için geçerli mi?</numerusform>
+            <numerusform>%1 projesinden %Ln satır aynı biçimde çelişiyor. Karar hepsi için geçerli mi?</numerusform>
         </translation>
     </message>
     <message>
@@ -294,14 +296,10 @@ Diğer: %2</translation>
         <source>Alle Konflikte sind entschieden.</source>
         <translation>Tüm çakışmalar karara bağlandı.</translation>
     </message>
-    <message>
-        <source>%1 von %2 Konflikten sind noch offen.</source>
-        <translation>%2 çakışmadan %1 tanesi hâlâ açık.</translation>
-    </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) widersprechen sich wie diese.</source>
+        <source>%Ln weitere Zeile(n) widersprechen sich wie diese.</source>
         <translation>
-            <numerusform>%n satır daha bunun gibi çelişiyor.</numerusform>
+            <numerusform>%Ln satır daha bunun gibi çelişiyor.</numerusform>
         </translation>
     </message>
     <message>
@@ -323,6 +321,12 @@ Diğer: %2</translation>
     <message>
         <source>Neu entscheiden</source>
         <translation>Yeniden karar ver</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Konflikt(en) noch offen.</source>
+        <translation>
+            <numerusform>%Ln çakışmadan %1 tanesi hâlâ açık.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -441,9 +445,9 @@ Diğer: %2</translation>
         <translation>aynı</translation>
     </message>
     <message numerus="yes">
-        <source>ersetzt wie in %n weiteren Zeile(n)</source>
+        <source>ersetzt wie in %Ln weiteren Zeile(n)</source>
         <translation>
-            <numerusform>%n satırda daha olduğu gibi değiştirildi</numerusform>
+            <numerusform>%Ln satırda daha olduğu gibi değiştirildi</numerusform>
         </translation>
     </message>
     <message>
@@ -506,9 +510,9 @@ Diğer: %2</translation>
         <translation>Kesin atandı.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n satır</numerusform>
+            <numerusform>%Ln satır</numerusform>
         </translation>
     </message>
     <message>
@@ -591,19 +595,15 @@ Diğer: %2</translation>
         <translation>&amp;Vazgeç</translation>
     </message>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n satır</numerusform>
+            <numerusform>%1: %Ln satır</numerusform>
         </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>ve %1 tane daha</translation>
-    </message>
     <message numerus="yes">
-        <source>Noch %n Zeile(n) in Konflikt, in diesen Projekten:</source>
+        <source>Noch %Ln Zeile(n) in Konflikt, in diesen Projekten:</source>
         <translation>
-            <numerusform>Şu projelerde hâlâ çakışan %n satır var:</numerusform>
+            <numerusform>Şu projelerde hâlâ çakışan %Ln satır var:</numerusform>
         </translation>
     </message>
     <message>
@@ -645,6 +645,12 @@ Diğer: %2</translation>
     <message>
         <source>Die Mapping-Datei kann nicht angelegt werden.</source>
         <translation>Eşleme dosyası oluşturulamıyor.</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>ve %Ln tane daha</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -708,6 +714,15 @@ Lütfen başka bir dosya seçin.</translation>
     <message>
         <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte einen anderen Ordner wählen.</source>
         <translation>%1 dosyasının klasöründe bir şey oluşturulamıyor (%2). Hiçbir şey yazılmadı. Lütfen başka bir klasör seçin.</translation>
+    </message>
+</context>
+<context>
+    <name>EditorArea</name>
+    <message>
+        <source>Keine Zeile dieses Projekts ist im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Zeilen zu sehen.</source>
+        <translation>Bu projenin hiçbir satırı filtrede değil.
+Tüm satırları yeniden görmek için “%1” komutunu açın ve “%2” seçeneğini seçin.</translation>
     </message>
 </context>
 <context>
@@ -835,15 +850,15 @@ Lütfen başka bir dosya seçin.</translation>
         <translation>Tablolar okunuyor...</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n satır</numerusform>
+            <numerusform>%Ln satır</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%n projede</numerusform>
+            <numerusform>%Ln projede</numerusform>
         </translation>
     </message>
     <message>
@@ -851,9 +866,9 @@ Lütfen başka bir dosya seçin.</translation>
         <translation>Filtre yok: tüm satırlar</translation>
     </message>
     <message numerus="yes">
-        <source>%n Tabelle(n) nicht lesbar</source>
+        <source>%Ln Tabelle(n) nicht lesbar</source>
         <translation>
-            <numerusform>Okunamayan tablolar: %n</numerusform>
+            <numerusform>Okunamayan tablolar: %Ln</numerusform>
         </translation>
     </message>
     <message>
@@ -1002,9 +1017,9 @@ Lütfen başka bir dosya seçin.</translation>
         <translation>%2 içinde %1 satırı</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1</source>
+        <source>%Ln Zeile(n) in %1</source>
         <translation>
-            <numerusform>%1 içinde %n satır</numerusform>
+            <numerusform>%1 içinde %Ln satır</numerusform>
         </translation>
     </message>
     <message>
@@ -1333,9 +1348,9 @@ Lütfen başka bir dosya seçin.</translation>
         <translation>Kopyalanan koşul bu haliyle henüz kullanılamaz; bir değer eksik, bir aralık ya da tırnak işareti içeriyor: %1</translation>
     </message>
     <message numerus="yes">
-        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.</source>
+        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %Ln Zeile(n) offen.</source>
         <translation>
-            <numerusform>Süzgeçte her şey bitti, dışında hâlâ %n açık satır var.</numerusform>
+            <numerusform>Süzgeçte her şey bitti, dışında hâlâ %Ln açık satır var.</numerusform>
         </translation>
     </message>
     <message>
@@ -1403,16 +1418,16 @@ Lütfen başka bir dosya seçin.</translation>
         <translation>Projenin tüm satırları kastediliyor.</translation>
     </message>
     <message>
-        <source>Gemeint sind die %1 gezeigten von %2 Zeilen des Projekts.</source>
-        <translation>Projenin %2 satırından gösterilen %1 tanesi kastediliyor.</translation>
-    </message>
-    <message>
         <source>Filter: %1.</source>
         <translation>Süzgeç: %1.</translation>
     </message>
     <message>
         <source>Kein anderes Projekt hat solche Zeilen</source>
         <translation>Başka hiçbir projede böyle satır yok</translation>
+    </message>
+    <message>
+        <source>Gemeint sind nur die gezeigten Zeilen des Projekts: %1 von %2.</source>
+        <translation>Projenin yalnızca gösterilen satırları kastediliyor: %2 satırdan %1.</translation>
     </message>
 </context>
 <context>
@@ -1645,10 +1660,6 @@ Lütfen başka bir dosya seçin.</translation>
         <translation>&amp;Kapat</translation>
     </message>
     <message>
-        <source>Die ersten %1 Links; die Suche zeigt andere.</source>
-        <translation>İlk %1 bağlantı; arama diğerlerini gösterir.</translation>
-    </message>
-    <message>
         <source>Links: %1</source>
         <translation>Bağlantılar: %1</translation>
     </message>
@@ -1667,6 +1678,12 @@ Lütfen başka bir dosya seçin.</translation>
     <message>
         <source>&amp;Wiederherstellen</source>
         <translation>&amp;Geri yükle</translation>
+    </message>
+    <message numerus="yes">
+        <source>Die ersten %Ln Link(s); die Suche zeigt andere.</source>
+        <translation>
+            <numerusform>İlk %Ln bağlantı; arama diğerlerini gösterir.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1789,14 +1806,16 @@ Lütfen başka bir dosya seçin.</translation>
         <source>Nichts gefunden</source>
         <translation>Hiçbir şey bulunamadı</translation>
     </message>
-    <message>
-        <source>Die ersten %1 von %2 Treffern</source>
-        <translation>%2 eşleşmenin ilk %1 tanesi</translation>
+    <message numerus="yes">
+        <source>%Ln Treffer</source>
+        <translation>
+            <numerusform>%Ln eşleşme</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
-        <source>%n Treffer</source>
+        <source>Die ersten %1 von %Ln Treffer(n)</source>
         <translation>
-            <numerusform>%n eşleşme</numerusform>
+            <numerusform>%Ln eşleşmenin ilk %1 tanesi</numerusform>
         </translation>
     </message>
 </context>
@@ -2019,21 +2038,21 @@ Lütfen başka bir dosya seçin.</translation>
         <translation>Dosyadaki sürüm üzerinde kendi değişiklikleriniz</translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): eigene Entscheidung</source>
+        <source>%Ln Konflikt(e): eigene Entscheidung</source>
         <translation>
-            <numerusform>%n çakışma: kendi karar</numerusform>
+            <numerusform>%Ln çakışma: kendi karar</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): Entscheidung der anderen Seite</source>
+        <source>%Ln Konflikt(e): Entscheidung der anderen Seite</source>
         <translation>
-            <numerusform>%n çakışma: diğer tarafın kararı</numerusform>
+            <numerusform>%Ln çakışma: diğer tarafın kararı</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): neu zu entscheiden</source>
+        <source>%Ln Konflikt(e): neu zu entscheiden</source>
         <translation>
-            <numerusform>%n çakışma: yeniden karar verilecek</numerusform>
+            <numerusform>%Ln çakışma: yeniden karar verilecek</numerusform>
         </translation>
     </message>
     <message>
@@ -2104,46 +2123,60 @@ Lütfen başka bir dosya seçin.</translation>
         <translation>İptal edildi, hiçbir şey oluşturulmadı</translation>
     </message>
     <message>
-        <source>%1 Projekte: %2 am selben Ort, %3 an anderem, %4 aufgeteilt, %5 ohne Ziel, %6 unlesbar</source>
-        <translation>%1 proje: %2 aynı yerde, %3 başka yerde, %4 bölünmüş, %5 hedefsiz, %6 okunamaz</translation>
-    </message>
-    <message>
         <source>Zeilen werden zugeordnet</source>
         <translation>Satırlar atanıyor</translation>
     </message>
-    <message>
-        <source>Abgebrochen: %1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>İptal edildi: %2 projeden %1 tanesi, %3 satır; bunlardan %4 atandı, %5 denetlenecek, %6 hedefsiz</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e): %1 am selben Ort, %2 an anderem, %3 aufgeteilt, %4 ohne Ziel, %5 unlesbar</source>
+        <translation>
+            <numerusform>%Ln proje: %1 aynı yerde, %2 başka yerde, %3 bölünmüş, %4 hedefsiz, %5 okunamaz</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%Ln projeden %1 tanesi</numerusform>
+        </translation>
     </message>
     <message>
-        <source>%1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>%2 projeden %1 tanesi, %3 satır; bunlardan %4 atandı, %5 denetlenecek, %6 hedefsiz</translation>
+        <source>davon %1 zugeordnet, %2 zu prüfen, %3 ohne Ziel</source>
+        <translation>bunlardan %1 atandı, %2 denetlenecek, %3 hedefsiz</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>İptal edildi: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1, %Ln satır</numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>MergeState</name>
     <message numerus="yes">
-        <source>%n Änderung(en) übernommen.</source>
+        <source>%Ln Änderung(en) übernommen.</source>
         <translation>
-            <numerusform>%n değişiklik alındı.</numerusform>
+            <numerusform>%Ln değişiklik alındı.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) haben beide gleich entschieden.</source>
+        <source>%Ln Zeile(n) haben beide gleich entschieden.</source>
         <translation>
-            <numerusform>%n satıra ikisi de aynı kararı verdi.</numerusform>
+            <numerusform>%Ln satıra ikisi de aynı kararı verdi.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
+        <source>%Ln Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
         <translation>
-            <numerusform>%n satıra farklı kararlar verildi ve çakışma olarak işaretlendi.</numerusform>
+            <numerusform>%Ln satıra farklı kararlar verildi ve çakışma olarak işaretlendi.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
+        <source>%Ln andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
         <translation>
-            <numerusform>%n başka çelişki: dosyadaki sürüm geçerli.</numerusform>
+            <numerusform>%Ln başka çelişki: dosyadaki sürüm geçerli.</numerusform>
         </translation>
     </message>
 </context>
@@ -2169,15 +2202,15 @@ Lütfen başka bir dosya seçin.</translation>
         <translation>Tablolar karşılaştırılıyor</translation>
     </message>
     <message numerus="yes">
-        <source>%n zugeordnete Zeile(n) angesehen</source>
+        <source>%Ln zugeordnete Zeile(n) angesehen</source>
         <translation>
-            <numerusform>Atanan %n satıra bakıldı</numerusform>
+            <numerusform>Atanan %Ln satıra bakıldı</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Fundstelle(n)</source>
+        <source>%Ln Fundstelle(n)</source>
         <translation>
-            <numerusform>%n bulgu</numerusform>
+            <numerusform>%Ln bulgu</numerusform>
         </translation>
     </message>
     <message>
@@ -2402,38 +2435,34 @@ Lütfen başka bir dosya seçin.</translation>
 </context>
 <context>
     <name>PatternDock</name>
-    <message>
-        <source>Die Tabellen werden verglichen: %1 Projekte gelesen</source>
-        <translation>Tablolar karşılaştırılıyor: %1 proje okundu</translation>
-    </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) mit Vorschlag</source>
+        <source>%Ln offene Zeile(n) mit Vorschlag</source>
         <translation>
-            <numerusform>Önerisi olan %n açık satır</numerusform>
+            <numerusform>Önerisi olan %Ln açık satır</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Muster(n)</source>
+        <source>in %Ln Muster(n)</source>
         <translation>
-            <numerusform>%n örüntüde</numerusform>
+            <numerusform>%Ln örüntüde</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon wird/werden noch verglichen</source>
+        <source>%Ln davon wird/werden noch verglichen</source>
         <translation>
-            <numerusform>bunların %n tanesi hâlâ karşılaştırılıyor</numerusform>
+            <numerusform>bunların %Ln tanesi hâlâ karşılaştırılıyor</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Gewählt: %n Zeile(n)</source>
+        <source>Gewählt: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>Seçili: %n satır</numerusform>
+            <numerusform>Seçili: %Ln satır</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon herausgenommen</source>
+        <source>%Ln davon herausgenommen</source>
         <translation>
-            <numerusform>bunların %n tanesi çıkarıldı</numerusform>
+            <numerusform>bunların %Ln tanesi çıkarıldı</numerusform>
         </translation>
     </message>
     <message>
@@ -2441,36 +2470,42 @@ Lütfen başka bir dosya seçin.</translation>
         <translation>Açık satırların farkları</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%n projede</numerusform>
+            <numerusform>%Ln projede</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <source>%Ln offene Zeile(n) ohne Nachfolger</source>
         <translation>
-            <numerusform>Ardılı olmayan %n açık satır</numerusform>
+            <numerusform>Ardılı olmayan %Ln açık satır</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Die Tabellen werden verglichen: %Ln Projekt(e) gelesen</source>
+        <translation>
+            <numerusform>Tablolar karşılaştırılıyor: %Ln proje okundu</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>PatternModel</name>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n satır</numerusform>
+            <numerusform>%Ln satır</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Projekt(e)</source>
+        <source>%Ln Projekt(e)</source>
         <translation>
-            <numerusform>%n proje</numerusform>
+            <numerusform>%Ln proje</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) haben diese und andere Unterschiede</source>
+        <source>%Ln weitere Zeile(n) haben diese und andere Unterschiede</source>
         <translation>
-            <numerusform>%n satırda daha bu ve başka farklar var</numerusform>
+            <numerusform>%Ln satırda daha bu ve başka farklar var</numerusform>
         </translation>
     </message>
     <message>
@@ -2697,9 +2732,9 @@ Satır: %2
         <translation>Satır %1: %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
+        <source>%Ln Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
         <translation>
-            <numerusform>%n satır, aralığındaki değerlerin yeni satırı olmadığı halde onaylandı.</numerusform>
+            <numerusform>%Ln satır, aralığındaki değerlerin yeni satırı olmadığı halde onaylandı.</numerusform>
         </translation>
     </message>
     <message>
@@ -2714,18 +2749,14 @@ Satır: %2
 <context>
     <name>RangeDock</name>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1: %n satır</numerusform>
+            <numerusform>%1: %Ln satır</numerusform>
         </translation>
     </message>
     <message>
         <source>Die Zeile hat keine Wertebereichszuordnung.</source>
         <translation>Satırın değer aralığı ataması yok.</translation>
-    </message>
-    <message>
-        <source>%1: %2 von %3 Werten zugeordnet</source>
-        <translation>%1: %3 değerden %2 tanesi atandı</translation>
     </message>
     <message>
         <source>fehlend: %1</source>
@@ -2742,6 +2773,12 @@ Satır: %2
     <message>
         <source>Wertebereich der Zeile</source>
         <translation>Satırın değer aralığı</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 von %Ln Wert(en) zugeordnet</source>
+        <translation>
+            <numerusform>%1: %Ln değerden %2 tanesi atandı</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2784,10 +2821,6 @@ Satır: %2
     <message>
         <source>Wiederherstellung</source>
         <translation>Kurtarma</translation>
-    </message>
-    <message>
-        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2 Schritte mit %3 Zeilen in %4 Projekten, zuletzt „%5“. Sie stammt von %6.</source>
-        <translation>%1 için kaydedilmemiş çalışma var: %4 projede %3 satırla %2 adım, sonuncusu “%5”. Kaynağı: %6.</translation>
     </message>
     <message>
         <source>Gespeichert</source>
@@ -2837,16 +2870,34 @@ Satır: %2
         <source>&amp;Gespeicherten Stand öffnen</source>
         <translation>&amp;Kaydedilen sürümü aç</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln Schritt(e)</source>
+        <translation>
+            <numerusform>%Ln adım</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2, zuletzt „%3“. Sie stammt von %4.</source>
+        <translation>%1 için kaydedilmemiş çalışma var: %2, sonuncusu “%3”. Kaynağı: %4.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1, %Ln satır</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1, %Ln projede</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ReleaseCommands</name>
     <message>
         <source>Tabellen werden importiert</source>
         <translation>Tablolar içe aktarılıyor</translation>
-    </message>
-    <message>
-        <source>%1 Tabellen mit %2 Zeilen: %3 neu, %4 geändert, %5 unverändert, %6 nicht importiert</source>
-        <translation>%2 satırlı %1 tablo: %3 yeni, %4 değişmiş, %5 değişmemiş, %6 içe aktarılmamış</translation>
     </message>
     <message>
         <source>%1 hat keine CSV-Datei mehr und bleibt, wie es ist</source>
@@ -2885,10 +2936,6 @@ Satır: %2
         <translation>İptal edildi, hiçbir şey dışa aktarılmadı</translation>
     </message>
     <message>
-        <source>%1 Zeilen nach %2 exportiert</source>
-        <translation>%1 satır %2 dosyasına aktarıldı</translation>
-    </message>
-    <message>
         <source>Bericht schreiben</source>
         <translation>Rapor yaz</translation>
     </message>
@@ -2919,6 +2966,28 @@ Satır: %2
     <message>
         <source>Seite %1 von %2</source>
         <translation>Sayfa %1 / %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Tabelle(n)</source>
+        <translation>
+            <numerusform>%Ln tablo</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 neu, %2 geändert, %3 unverändert, %4 nicht importiert</source>
+        <translation>%1 yeni, %2 değişmiş, %3 değişmemiş, %4 içe aktarılmamış</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Zeile(n) nach %1 exportiert</source>
+        <translation>
+            <numerusform>%Ln satır %1 dosyasına aktarıldı</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1, %Ln satır</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2964,15 +3033,15 @@ Satır: %2
         <translation>Tablolar okunuyor</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dafür</source>
+        <source>%Ln Zeile(n) dafür</source>
         <translation>
-            <numerusform>lehte %n satır</numerusform>
+            <numerusform>lehte %Ln satır</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dagegen</source>
+        <source>%Ln Zeile(n) dagegen</source>
         <translation>
-            <numerusform>aleyhte %n satır</numerusform>
+            <numerusform>aleyhte %Ln satır</numerusform>
         </translation>
     </message>
 </context>
@@ -2989,10 +3058,6 @@ Satır: %2
     <message>
         <source>Erstellt am %1</source>
         <translation>Oluşturulma: %1</translation>
-    </message>
-    <message>
-        <source>Erledigt: %1 von %2 Zeilen; offen: %3.</source>
-        <translation>Tamamlanan: %2 satırdan %1; açık: %3.</translation>
     </message>
     <message>
         <source>Stand der Zeilen</source>
@@ -3218,6 +3283,10 @@ Satır: %2
         <source>Beurteilte Zeilen</source>
         <translation>Değerlendirilen satırlar</translation>
     </message>
+    <message>
+        <source>Erledigte Zeilen: %1 von %2; offen: %3.</source>
+        <translation>Tamamlanan satırlar: %2 satırdan %1; açık: %3.</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3296,9 +3365,9 @@ Satır: %2
         <translation>Tablolar henüz karşılaştırılmadı</translation>
     </message>
     <message numerus="yes">
-        <source>Von vorn: %n Zeile(n) offen</source>
+        <source>Von vorn: %Ln Zeile(n) offen</source>
         <translation>
-            <numerusform>Baştan: %n açık satır</numerusform>
+            <numerusform>Baştan: %Ln açık satır</numerusform>
         </translation>
     </message>
     <message>
@@ -3322,15 +3391,15 @@ Satır: %2
         <translation>Hiçbir örüntü seçili değil ya da tüm satırlarına karar verildi</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n satır</numerusform>
+            <numerusform>%Ln satır</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en) bestätigen?</source>
+        <source>in %Ln Projekt(en) bestätigen?</source>
         <translation>
-            <numerusform>%n projede onaylansın mı?</numerusform>
+            <numerusform>%Ln projede onaylansın mı?</numerusform>
         </translation>
     </message>
     <message>
@@ -3342,9 +3411,9 @@ Satır: %2
         <translation>&amp;Onayla</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n satır onaylandı</numerusform>
+            <numerusform>%Ln satır onaylandı</numerusform>
         </translation>
     </message>
     <message>
@@ -3366,10 +3435,6 @@ Satır: %2
     <message>
         <source>Stichprobe</source>
         <translation>Örneklem</translation>
-    </message>
-    <message>
-        <source>So viele von %1 Zeilen werden gezogen und einzeln beurteilt. %2 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %3 richtige weniger als 1 %.</source>
-        <translation>%1 satırdan bu kadarı çekilir ve tek tek değerlendirilir. %2 doğru, yüzde 95 kesinlikle yanlışların yüzde 5&apos;ten az olduğunu, %3 doğru ise yüzde 1&apos;den az olduğunu söyler.</translation>
     </message>
     <message>
         <source>&amp;Ziehen</source>
@@ -3428,9 +3493,9 @@ Satır: %2
         <translation>&amp;Yanlış satıra bak</translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind unsicher.</source>
+        <source>%Ln davon ist/sind unsicher.</source>
         <translation>
-            <numerusform>Bunların %n tanesi belirsiz.</numerusform>
+            <numerusform>Bunların %Ln tanesi belirsiz.</numerusform>
         </translation>
     </message>
     <message>
@@ -3438,20 +3503,26 @@ Satır: %2
         <translation>Tüm örüntüler tamamlandı</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%n projede</numerusform>
+            <numerusform>%Ln projede</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n satır kaldırılmış olarak onaylandı</numerusform>
+            <numerusform>%Ln satır kaldırılmış olarak onaylandı</numerusform>
         </translation>
     </message>
     <message>
         <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
         <translation>%2 içindeki %1 satırı yanlış. Küme bölündü; hangi bölümle devam edilsin?</translation>
+    </message>
+    <message numerus="yes">
+        <source>So viele von %Ln Zeile(n) werden gezogen und einzeln beurteilt. %1 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %2 richtige weniger als 1 %.</source>
+        <translation>
+            <numerusform>%Ln satırdan bu kadarı çekilir ve tek tek değerlendirilir. %1 doğru, yüzde 95 kesinlikle yanlışların yüzde 5&apos;ten az olduğunu, %2 doğru ise yüzde 1&apos;den az olduğunu söyler.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3609,16 +3680,20 @@ Satır: %2
         <translation>Son kapanan oturumdan sonra %1 günlüğü okunamıyor. Orada ne olduğu bilinmiyor; günlük saklanır.</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passen noch %2 Änderungen, %3 passen nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
-        <translation>%1 günlüğü hasarlı. Hasarlı yerden sonra %2 değişiklik hâlâ uyuyor, %3 artık uymuyor; başkaları eksik olabilir. Günlük saklanır.</translation>
-    </message>
-    <message>
         <source>Das Ende des Journals %1 ist nicht lesbar. Die letzte Änderung kann fehlen.</source>
         <translation>%1 günlüğünün sonu okunamıyor. Son değişiklik eksik olabilir.</translation>
     </message>
-    <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
-        <translation>%1 günlüğü hasarlı veya eşleme dosyasına uymuyor. Sonraki en az %2 değişiklik eksik; günlük saklanır.</translation>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passt/passen noch %Ln Änderung(en), %2 nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>%1 günlüğü hasarlı. Hasarlı yerden sonra %Ln değişiklik hâlâ uyuyor, %2 artık uymuyor; başkaları eksik olabilir. Günlük saklanır.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %Ln spätere Änderung(en) fehlt/fehlen; das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>%1 günlüğü hasarlı veya eşleme dosyasına uymuyor. Sonraki en az %Ln değişiklik eksik; günlük saklanır.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3870,11 +3945,6 @@ Satır: %2
         <translation>Her şeye karar verildi</translation>
     </message>
     <message>
-        <source>Offen: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Açık: %2 projede &lt;a href=&quot;next&quot;&gt;%1 satır&lt;/a&gt;</translation>
-    </message>
-    <message>
         <source>Zeilen, die noch eine Entscheidung brauchen</source>
         <translation>Hâlâ karar gerektiren satırlar</translation>
     </message>
@@ -3887,13 +3957,29 @@ Satır: %2
         <translation>Filtre: satır yok</translation>
     </message>
     <message>
-        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>Filtre: %2 projede &lt;a href=&quot;next&quot;&gt;%1 satır&lt;/a&gt;</translation>
-    </message>
-    <message>
         <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
         <translation>Tüm satırlardaki filtrenin gösterdiği satırlar</translation>
+    </message>
+    <message numerus="yes">
+        <source>&lt;a href=&quot;next&quot;&gt;%Ln Zeile(n)&lt;/a&gt;</source>
+        <translation>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln satır&lt;/a&gt;</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Offen: %1</source>
+        <translation>Açık: %1</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>Filtre: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <extracomment>&quot;12 lines in 3 projects&quot;</extracomment>
+        <translation>
+            <numerusform>%1, %Ln projede</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3942,9 +4028,9 @@ Satır: %2
         <translation>&amp;Kapat</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <source>Mit %Ln abhängigen &amp;zurücknehmen</source>
         <translation>
-            <numerusform>Bağımlılarla &amp;geri al (%n)</numerusform>
+            <numerusform>Bağımlılarla &amp;geri al (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -3952,9 +4038,9 @@ Satır: %2
         <translation>Yalnız bunu &amp;geri al</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <source>Mit %Ln früheren &amp;wieder ausführen</source>
         <translation>
-            <numerusform>Öncekilerle &amp;yeniden yap (%n)</numerusform>
+            <numerusform>Öncekilerle &amp;yeniden yap (%Ln)</numerusform>
         </translation>
     </message>
     <message>
@@ -3990,18 +4076,18 @@ Satır: %2
         <translation>Orada şimdi bu listedeki hiçbir adımın karar vermediği başka bir şey var, örneğin başka bir programdan. Adım artık taşınamaz.</translation>
     </message>
     <message numerus="yes">
-        <source>und %n weitere</source>
+        <source>und %Ln weitere</source>
         <translation>
-            <numerusform>ve %n tane daha</numerusform>
+            <numerusform>ve %Ln tane daha</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepListModel</name>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1, %n projede</numerusform>
+            <numerusform>%1, %Ln projede</numerusform>
         </translation>
     </message>
     <message>
@@ -4044,9 +4130,9 @@ Satır: %2
         <translation>%1 içindeki değişiklik ancak satırlar yeniden atandığında etkili olur. O zaman yalnızca onaylananlar korunur.</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
+        <source>%Ln Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
         <translation>
-            <numerusform>%1 içinde %n satır kaldırılmış olarak onaylanmıştı ve artık değil: %2</numerusform>
+            <numerusform>%1 içinde %Ln satır kaldırılmış olarak onaylanmıştı ve artık değil: %2</numerusform>
         </translation>
     </message>
     <message>
@@ -4062,66 +4148,66 @@ Satır: %2
         <translation>%2 içindeki %1 hedef projesinin bir değişken eşlemesi düştü.</translation>
     </message>
     <message numerus="yes">
-        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %n andere Zeile(n): %4</source>
+        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %Ln andere Zeile(n): %4</source>
         <translation>
-            <numerusform>%3 içinde satır %1 → %2: hedef satır %n satırda daha var: %4</numerusform>
+            <numerusform>%3 içinde satır %1 → %2: hedef satır %Ln satırda daha var: %4</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
+        <source>%Ln Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
         <translation>
-            <numerusform>%1 içinde %n satır, hedef satırını yeni atananlarla paylaşıyor: %2</numerusform>
+            <numerusform>%1 içinde %Ln satır, hedef satırını yeni atananlarla paylaşıyor: %2</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepSummary</name>
     <message numerus="yes">
-        <source>%n Konflikt(e) angenommen</source>
+        <source>%Ln Konflikt(e) angenommen</source>
         <translation>
-            <numerusform>%n çakışma kabul edildi</numerusform>
+            <numerusform>%Ln çakışma kabul edildi</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>%n satır onaylandı</numerusform>
+            <numerusform>%Ln satır onaylandı</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>%n satır kaldırılmış olarak onaylandı</numerusform>
+            <numerusform>%Ln satır kaldırılmış olarak onaylandı</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) zugeordnet</source>
+        <source>%Ln Zeile(n) zugeordnet</source>
         <translation>
-            <numerusform>%n satır atandı</numerusform>
+            <numerusform>%Ln satır atandı</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben</source>
         <translation>
-            <numerusform>%n satırın ataması kaldırıldı</numerusform>
+            <numerusform>%Ln satırın ataması kaldırıldı</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Wertebereichszuordnung von %n Zeile(n) geändert</source>
+        <source>Wertebereichszuordnung von %Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>%n satırın değer aralığı ataması değiştirildi</numerusform>
+            <numerusform>%Ln satırın değer aralığı ataması değiştirildi</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Konflikt von %n Zeile(n) gelöst</source>
+        <source>Konflikt von %Ln Zeile(n) gelöst</source>
         <translation>
-            <numerusform>%n satırın çakışması çözüldü</numerusform>
+            <numerusform>%Ln satırın çakışması çözüldü</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) geändert</source>
+        <source>%Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>%n satır değiştirildi</numerusform>
+            <numerusform>%Ln satır değiştirildi</numerusform>
         </translation>
     </message>
     <message>
@@ -4189,9 +4275,9 @@ Satır: %2
         <translation>%2 içinde %1</translation>
     </message>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1, %n projede</numerusform>
+            <numerusform>%1, %Ln projede</numerusform>
         </translation>
     </message>
 </context>
@@ -4237,9 +4323,9 @@ Satır: %2
         <translation>Değer aralığı atamaları denetleniyor</translation>
     </message>
     <message numerus="yes">
-        <source>%n Wertebereichszuordnung(en) geprüft</source>
+        <source>%Ln Wertebereichszuordnung(en) geprüft</source>
         <translation>
-            <numerusform>%n değer aralığı ataması denetlendi</numerusform>
+            <numerusform>%Ln değer aralığı ataması denetlendi</numerusform>
         </translation>
     </message>
     <message>
@@ -4247,9 +4333,9 @@ Satır: %2
         <translation>kusur yok</translation>
     </message>
     <message numerus="yes">
-        <source>%n Beanstandung(en)</source>
+        <source>%Ln Beanstandung(en)</source>
         <translation>
-            <numerusform>%n kusur</numerusform>
+            <numerusform>%Ln kusur</numerusform>
         </translation>
     </message>
     <message>

@@ -8,87 +8,87 @@
         <translation>没有需要更改的内容。</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigen?</source>
+        <source>%Ln Zeile(n) bestätigen?</source>
         <translation>
-            <numerusform>确认 %n 行吗？</numerusform>
+            <numerusform>确认 %Ln 行吗？</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigen?</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>将 %n 行确认为停用吗？</numerusform>
+            <numerusform>将 %Ln 行确认为停用吗？</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben?</source>
         <translation>
-            <numerusform>取消 %n 行的分配吗？</numerusform>
+            <numerusform>取消 %Ln 行的分配吗？</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>取消 %n 行的分配并确认为停用吗？</numerusform>
+            <numerusform>取消 %Ln 行的分配并确认为停用吗？</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind schon bestätigt.</source>
+        <source>%Ln davon ist/sind schon bestätigt.</source>
         <translation>
-            <numerusform>其中 %n 行已确认。</numerusform>
+            <numerusform>其中 %Ln 行已确认。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon verliert/verlieren ihre Wertebereichszuordnung.</source>
+        <source>%Ln davon verliert/verlieren ihre Wertebereichszuordnung.</source>
         <translation>
-            <numerusform>其中 %n 行将失去其值范围分配。</numerusform>
+            <numerusform>其中 %Ln 行将失去其值范围分配。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
+        <source>%Ln Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
         <translation>
-            <numerusform>%n 行没有目标，保持未确认。</numerusform>
+            <numerusform>%Ln 行没有目标，保持未确认。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
+        <source>%Ln Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
         <translation>
-            <numerusform>%n 行保持不变。</numerusform>
+            <numerusform>%Ln 行保持不变。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
+        <source>%Ln Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
         <translation>
-            <numerusform>%n 行有冲突，不会更改。</numerusform>
+            <numerusform>%Ln 行有冲突，不会更改。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
+        <source>%Ln Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
         <translation>
-            <numerusform>%n 行未登记在任何目标项目中。</numerusform>
+            <numerusform>%Ln 行未登记在任何目标项目中。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt.</source>
+        <source>%Ln Zeile(n) bestätigt.</source>
         <translation>
-            <numerusform>已确认 %n 行。</numerusform>
+            <numerusform>已确认 %Ln 行。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt.</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>已将 %n 行确认为停用。</numerusform>
+            <numerusform>已将 %Ln 行确认为停用。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben.</source>
         <translation>
-            <numerusform>已取消 %n 行的分配。</numerusform>
+            <numerusform>已取消 %Ln 行的分配。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>已取消 %n 行的分配，并确认为停用。</numerusform>
+            <numerusform>已取消 %Ln 行的分配，并确认为停用。</numerusform>
         </translation>
     </message>
 </context>
@@ -146,10 +146,6 @@
         <translation>%1 中没有可沿用的内容。</translation>
     </message>
     <message>
-        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
-        <translation>从 %1 沿用：%3 个已确认行中的 %2 个，可靠分配 %4，建议 %5。</translation>
-    </message>
-    <message>
         <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
         <translation>该文件没有从目录版本 %1 开始的映射。</translation>
     </message>
@@ -192,6 +188,12 @@
     <message>
         <source>Entscheidungen aus %1 übernommen: %2</source>
         <translation>从 %1 沿用的决定：%2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Aus %1 übernommen: %2 von %Ln bestätigten Zeile(n), %3 sicher zugeordnet, %4 vorgeschlagen.</source>
+        <translation>
+            <numerusform>从 %1 沿用：%Ln 个已确认行中的 %2 个，可靠分配 %3，建议 %4。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -256,9 +258,9 @@
         <translation>冲突 %1 / %2，还有 %3 个未解决</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
+        <source>%Ln Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
         <translation>
-            <numerusform>%1 中有 %n 行以同样的方式相互矛盾。此决定适用于全部吗？</numerusform>
+            <numerusform>%1 中有 %Ln 行以同样的方式相互矛盾。此决定适用于全部吗？</numerusform>
         </translation>
     </message>
     <message>
@@ -294,14 +296,10 @@ Andere: %2</source>
         <source>Alle Konflikte sind entschieden.</source>
         <translation>所有冲突都已决定。</translation>
     </message>
-    <message>
-        <source>%1 von %2 Konflikten sind noch offen.</source>
-        <translation>%2 个冲突中还有 %1 个未解决。</translation>
-    </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) widersprechen sich wie diese.</source>
+        <source>%Ln weitere Zeile(n) widersprechen sich wie diese.</source>
         <translation>
-            <numerusform>还有 %n 行与此行一样相互矛盾。</numerusform>
+            <numerusform>还有 %Ln 行与此行一样相互矛盾。</numerusform>
         </translation>
     </message>
     <message>
@@ -323,6 +321,12 @@ Andere: %2</source>
     <message>
         <source>Neu entscheiden</source>
         <translation>重新决定</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Konflikt(en) noch offen.</source>
+        <translation>
+            <numerusform>%Ln 个冲突中还有 %1 个未解决。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -441,9 +445,9 @@ Andere: %2</source>
         <translation>相同</translation>
     </message>
     <message numerus="yes">
-        <source>ersetzt wie in %n weiteren Zeile(n)</source>
+        <source>ersetzt wie in %Ln weiteren Zeile(n)</source>
         <translation>
-            <numerusform>替换方式与另外 %n 行相同</numerusform>
+            <numerusform>替换方式与另外 %Ln 行相同</numerusform>
         </translation>
     </message>
     <message>
@@ -506,9 +510,9 @@ Andere: %2</source>
         <translation>可靠分配。</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n 行</numerusform>
+            <numerusform>%Ln 行</numerusform>
         </translation>
     </message>
     <message>
@@ -591,19 +595,15 @@ Andere: %2</source>
         <translation>放弃(&amp;D)</translation>
     </message>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1：%n 行</numerusform>
+            <numerusform>%1：%Ln 行</numerusform>
         </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>以及另外 %1 个</translation>
-    </message>
     <message numerus="yes">
-        <source>Noch %n Zeile(n) in Konflikt, in diesen Projekten:</source>
+        <source>Noch %Ln Zeile(n) in Konflikt, in diesen Projekten:</source>
         <translation>
-            <numerusform>还有 %n 行处于冲突，所在项目：</numerusform>
+            <numerusform>还有 %Ln 行处于冲突，所在项目：</numerusform>
         </translation>
     </message>
     <message>
@@ -645,6 +645,12 @@ Andere: %2</source>
     <message>
         <source>Die Mapping-Datei kann nicht angelegt werden.</source>
         <translation>无法创建映射文件。</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>及另外 %Ln 个</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -708,6 +714,15 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte einen anderen Ordner wählen.</source>
         <translation>无法在 %1 的文件夹中创建任何内容 (%2)。未写入任何内容。请选择其他文件夹。</translation>
+    </message>
+</context>
+<context>
+    <name>EditorArea</name>
+    <message>
+        <source>Keine Zeile dieses Projekts ist im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Zeilen zu sehen.</source>
+        <translation>此项目没有任何行在筛选中。
+打开“%1”并选择“%2”即可重新看到所有行。</translation>
     </message>
 </context>
 <context>
@@ -835,15 +850,15 @@ Bitte eine andere Datei wählen.</source>
         <translation>正在读取表...</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n 行</numerusform>
+            <numerusform>%Ln 行</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>涉及 %n 个项目</numerusform>
+            <numerusform>涉及 %Ln 个项目</numerusform>
         </translation>
     </message>
     <message>
@@ -851,9 +866,9 @@ Bitte eine andere Datei wählen.</source>
         <translation>无筛选：所有行</translation>
     </message>
     <message numerus="yes">
-        <source>%n Tabelle(n) nicht lesbar</source>
+        <source>%Ln Tabelle(n) nicht lesbar</source>
         <translation>
-            <numerusform>无法读取的表：%n</numerusform>
+            <numerusform>无法读取的表：%Ln</numerusform>
         </translation>
     </message>
     <message>
@@ -1002,9 +1017,9 @@ Bitte eine andere Datei wählen.</source>
         <translation>%2 中的行 %1</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1</source>
+        <source>%Ln Zeile(n) in %1</source>
         <translation>
-            <numerusform>%1 中的 %n 行</numerusform>
+            <numerusform>%1 中的 %Ln 行</numerusform>
         </translation>
     </message>
     <message>
@@ -1333,9 +1348,9 @@ Bitte eine andere Datei wählen.</source>
         <translation>复制的条件还不能直接使用：有值缺失、是一个范围或包含引号：%1</translation>
     </message>
     <message numerus="yes">
-        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.</source>
+        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %Ln Zeile(n) offen.</source>
         <translation>
-            <numerusform>筛选范围内已全部完成，范围之外还有 %n 行未决。</numerusform>
+            <numerusform>筛选范围内已全部完成，范围之外还有 %Ln 行未决。</numerusform>
         </translation>
     </message>
     <message>
@@ -1403,16 +1418,16 @@ Bitte eine andere Datei wählen.</source>
         <translation>针对项目的所有行。</translation>
     </message>
     <message>
-        <source>Gemeint sind die %1 gezeigten von %2 Zeilen des Projekts.</source>
-        <translation>针对项目 %2 行中显示的 %1 行。</translation>
-    </message>
-    <message>
         <source>Filter: %1.</source>
         <translation>筛选：%1。</translation>
     </message>
     <message>
         <source>Kein anderes Projekt hat solche Zeilen</source>
         <translation>没有其他项目有这样的行</translation>
+    </message>
+    <message>
+        <source>Gemeint sind nur die gezeigten Zeilen des Projekts: %1 von %2.</source>
+        <translation>只针对项目中显示的行：%2 行中的 %1 行。</translation>
     </message>
 </context>
 <context>
@@ -1645,10 +1660,6 @@ Bitte eine andere Datei wählen.</source>
         <translation>关闭(&amp;C)</translation>
     </message>
     <message>
-        <source>Die ersten %1 Links; die Suche zeigt andere.</source>
-        <translation>前 %1 个链接；搜索可显示其他链接。</translation>
-    </message>
-    <message>
         <source>Links: %1</source>
         <translation>链接：%1</translation>
     </message>
@@ -1667,6 +1678,12 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>&amp;Wiederherstellen</source>
         <translation>恢复(&amp;R)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Die ersten %Ln Link(s); die Suche zeigt andere.</source>
+        <translation>
+            <numerusform>前 %Ln 个链接；搜索可显示其他链接。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1789,14 +1806,16 @@ Bitte eine andere Datei wählen.</source>
         <source>Nichts gefunden</source>
         <translation>未找到任何内容</translation>
     </message>
-    <message>
-        <source>Die ersten %1 von %2 Treffern</source>
-        <translation>前 %1 个结果，共 %2 个</translation>
+    <message numerus="yes">
+        <source>%Ln Treffer</source>
+        <translation>
+            <numerusform>%Ln 个结果</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
-        <source>%n Treffer</source>
+        <source>Die ersten %1 von %Ln Treffer(n)</source>
         <translation>
-            <numerusform>%n 个结果</numerusform>
+            <numerusform>前 %1 个结果，共 %Ln 个</numerusform>
         </translation>
     </message>
 </context>
@@ -2019,21 +2038,21 @@ Bitte eine andere Datei wählen.</source>
         <translation>在文件版本之上的自己的更改</translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): eigene Entscheidung</source>
+        <source>%Ln Konflikt(e): eigene Entscheidung</source>
         <translation>
-            <numerusform>%n 个冲突：自己的决定</numerusform>
+            <numerusform>%Ln 个冲突：自己的决定</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): Entscheidung der anderen Seite</source>
+        <source>%Ln Konflikt(e): Entscheidung der anderen Seite</source>
         <translation>
-            <numerusform>%n 个冲突：对方的决定</numerusform>
+            <numerusform>%Ln 个冲突：对方的决定</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): neu zu entscheiden</source>
+        <source>%Ln Konflikt(e): neu zu entscheiden</source>
         <translation>
-            <numerusform>%n 个冲突：需重新决定</numerusform>
+            <numerusform>%Ln 个冲突：需重新决定</numerusform>
         </translation>
     </message>
     <message>
@@ -2104,46 +2123,60 @@ Bitte eine andere Datei wählen.</source>
         <translation>已取消，未创建任何内容</translation>
     </message>
     <message>
-        <source>%1 Projekte: %2 am selben Ort, %3 an anderem, %4 aufgeteilt, %5 ohne Ziel, %6 unlesbar</source>
-        <translation>%1 个项目：%2 个在相同位置，%3 个在其他位置，%4 个已拆分，%5 个无目标，%6 个无法读取</translation>
-    </message>
-    <message>
         <source>Zeilen werden zugeordnet</source>
         <translation>正在分配行</translation>
     </message>
-    <message>
-        <source>Abgebrochen: %1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>已取消：%2 个项目中的 %1 个，共 %3 行，其中 %4 行已分配，%5 行待检查，%6 行无目标</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e): %1 am selben Ort, %2 an anderem, %3 aufgeteilt, %4 ohne Ziel, %5 unlesbar</source>
+        <translation>
+            <numerusform>%Ln 个项目：%1 个在相同位置，%2 个在其他位置，%3 个已拆分，%4 个无目标，%5 个无法读取</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%Ln 个项目中的 %1 个</numerusform>
+        </translation>
     </message>
     <message>
-        <source>%1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>%2 个项目中的 %1 个，共 %3 行，其中 %4 行已分配，%5 行待检查，%6 行无目标</translation>
+        <source>davon %1 zugeordnet, %2 zu prüfen, %3 ohne Ziel</source>
+        <translation>其中 %1 行已分配，%2 行待检查，%3 行无目标</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>已取消：%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1，共 %Ln 行</numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>MergeState</name>
     <message numerus="yes">
-        <source>%n Änderung(en) übernommen.</source>
+        <source>%Ln Änderung(en) übernommen.</source>
         <translation>
-            <numerusform>已采用 %n 项更改。</numerusform>
+            <numerusform>已采用 %Ln 项更改。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) haben beide gleich entschieden.</source>
+        <source>%Ln Zeile(n) haben beide gleich entschieden.</source>
         <translation>
-            <numerusform>双方对 %n 行的决定相同。</numerusform>
+            <numerusform>双方对 %Ln 行的决定相同。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
+        <source>%Ln Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
         <translation>
-            <numerusform>%n 行的决定不同，已标记为冲突。</numerusform>
+            <numerusform>%Ln 行的决定不同，已标记为冲突。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
+        <source>%Ln andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
         <translation>
-            <numerusform>其他矛盾 %n 处：以文件中的版本为准。</numerusform>
+            <numerusform>其他矛盾 %Ln 处：以文件中的版本为准。</numerusform>
         </translation>
     </message>
 </context>
@@ -2169,15 +2202,15 @@ Bitte eine andere Datei wählen.</source>
         <translation>正在比较表</translation>
     </message>
     <message numerus="yes">
-        <source>%n zugeordnete Zeile(n) angesehen</source>
+        <source>%Ln zugeordnete Zeile(n) angesehen</source>
         <translation>
-            <numerusform>已查看 %n 个已分配的行</numerusform>
+            <numerusform>已查看 %Ln 个已分配的行</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Fundstelle(n)</source>
+        <source>%Ln Fundstelle(n)</source>
         <translation>
-            <numerusform>%n 处发现</numerusform>
+            <numerusform>%Ln 处发现</numerusform>
         </translation>
     </message>
     <message>
@@ -2402,38 +2435,34 @@ Bitte eine andere Datei wählen.</source>
 </context>
 <context>
     <name>PatternDock</name>
-    <message>
-        <source>Die Tabellen werden verglichen: %1 Projekte gelesen</source>
-        <translation>正在比较表：已读取 %1 个项目</translation>
-    </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) mit Vorschlag</source>
+        <source>%Ln offene Zeile(n) mit Vorschlag</source>
         <translation>
-            <numerusform>%n 个带建议的未决行</numerusform>
+            <numerusform>%Ln 个带建议的未决行</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Muster(n)</source>
+        <source>in %Ln Muster(n)</source>
         <translation>
-            <numerusform>属于 %n 个模式</numerusform>
+            <numerusform>属于 %Ln 个模式</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon wird/werden noch verglichen</source>
+        <source>%Ln davon wird/werden noch verglichen</source>
         <translation>
-            <numerusform>其中 %n 行仍在比较</numerusform>
+            <numerusform>其中 %Ln 行仍在比较</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Gewählt: %n Zeile(n)</source>
+        <source>Gewählt: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>已选：%n 行</numerusform>
+            <numerusform>已选：%Ln 行</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon herausgenommen</source>
+        <source>%Ln davon herausgenommen</source>
         <translation>
-            <numerusform>其中 %n 行已移出</numerusform>
+            <numerusform>其中 %Ln 行已移出</numerusform>
         </translation>
     </message>
     <message>
@@ -2441,36 +2470,42 @@ Bitte eine andere Datei wählen.</source>
         <translation>未决行的差异</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>涉及 %n 个项目</numerusform>
+            <numerusform>涉及 %Ln 个项目</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <source>%Ln offene Zeile(n) ohne Nachfolger</source>
         <translation>
-            <numerusform>%n 个没有后继的未决行</numerusform>
+            <numerusform>%Ln 个没有后继的未决行</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Die Tabellen werden verglichen: %Ln Projekt(e) gelesen</source>
+        <translation>
+            <numerusform>正在比较表：已读取 %Ln 个项目</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>PatternModel</name>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n 行</numerusform>
+            <numerusform>%Ln 行</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Projekt(e)</source>
+        <source>%Ln Projekt(e)</source>
         <translation>
-            <numerusform>%n 个项目</numerusform>
+            <numerusform>%Ln 个项目</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) haben diese und andere Unterschiede</source>
+        <source>%Ln weitere Zeile(n) haben diese und andere Unterschiede</source>
         <translation>
-            <numerusform>另有 %n 行具有这些和其他差异</numerusform>
+            <numerusform>另有 %Ln 行具有这些和其他差异</numerusform>
         </translation>
     </message>
     <message>
@@ -2697,9 +2732,9 @@ Zeile: %2
         <translation>行 %1：%2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
+        <source>%Ln Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
         <translation>
-            <numerusform>%n 行已确认，但其范围内有的值没有新行。</numerusform>
+            <numerusform>%Ln 行已确认，但其范围内有的值没有新行。</numerusform>
         </translation>
     </message>
     <message>
@@ -2714,18 +2749,14 @@ Zeile: %2
 <context>
     <name>RangeDock</name>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1：%n 行</numerusform>
+            <numerusform>%1：%Ln 行</numerusform>
         </translation>
     </message>
     <message>
         <source>Die Zeile hat keine Wertebereichszuordnung.</source>
         <translation>此行没有值范围分配。</translation>
-    </message>
-    <message>
-        <source>%1: %2 von %3 Werten zugeordnet</source>
-        <translation>%1：%3 个值中已分配 %2 个</translation>
     </message>
     <message>
         <source>fehlend: %1</source>
@@ -2742,6 +2773,12 @@ Zeile: %2
     <message>
         <source>Wertebereich der Zeile</source>
         <translation>行的值范围</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 von %Ln Wert(en) zugeordnet</source>
+        <translation>
+            <numerusform>%1：%Ln 个值中已分配 %2 个</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2784,10 +2821,6 @@ Zeile: %2
     <message>
         <source>Wiederherstellung</source>
         <translation>恢复</translation>
-    </message>
-    <message>
-        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2 Schritte mit %3 Zeilen in %4 Projekten, zuletzt „%5“. Sie stammt von %6.</source>
-        <translation>%1 有未保存的工作：%2 个步骤，涉及 %4 个项目中的 %3 行，最后一步是“%5”。来自 %6。</translation>
     </message>
     <message>
         <source>Gespeichert</source>
@@ -2837,16 +2870,34 @@ Zeile: %2
         <source>&amp;Gespeicherten Stand öffnen</source>
         <translation>打开已保存的版本(&amp;S)</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln Schritt(e)</source>
+        <translation>
+            <numerusform>%Ln 个步骤</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2, zuletzt „%3“. Sie stammt von %4.</source>
+        <translation>%1 有未保存的工作：%2，最后一步是“%3”。来自 %4。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1，共 %Ln 行</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1，%Ln 个项目</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ReleaseCommands</name>
     <message>
         <source>Tabellen werden importiert</source>
         <translation>正在导入表</translation>
-    </message>
-    <message>
-        <source>%1 Tabellen mit %2 Zeilen: %3 neu, %4 geändert, %5 unverändert, %6 nicht importiert</source>
-        <translation>%1 个表，共 %2 行：%3 个新增，%4 个已更改，%5 个未变，%6 个未导入</translation>
     </message>
     <message>
         <source>%1 hat keine CSV-Datei mehr und bleibt, wie es ist</source>
@@ -2885,10 +2936,6 @@ Zeile: %2
         <translation>已取消，未导出任何内容</translation>
     </message>
     <message>
-        <source>%1 Zeilen nach %2 exportiert</source>
-        <translation>已将 %1 行导出到 %2</translation>
-    </message>
-    <message>
         <source>Bericht schreiben</source>
         <translation>写入报告</translation>
     </message>
@@ -2919,6 +2966,28 @@ Zeile: %2
     <message>
         <source>Seite %1 von %2</source>
         <translation>第 %1 页，共 %2 页</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Tabelle(n)</source>
+        <translation>
+            <numerusform>%Ln 个表</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 neu, %2 geändert, %3 unverändert, %4 nicht importiert</source>
+        <translation>%1 个新增，%2 个已更改，%3 个未变，%4 个未导入</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Zeile(n) nach %1 exportiert</source>
+        <translation>
+            <numerusform>已将 %Ln 行导出到 %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1，共 %Ln 行</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2964,15 +3033,15 @@ Zeile: %2
         <translation>正在读取表</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dafür</source>
+        <source>%Ln Zeile(n) dafür</source>
         <translation>
-            <numerusform>%n 行支持</numerusform>
+            <numerusform>%Ln 行支持</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dagegen</source>
+        <source>%Ln Zeile(n) dagegen</source>
         <translation>
-            <numerusform>%n 行不支持</numerusform>
+            <numerusform>%Ln 行不支持</numerusform>
         </translation>
     </message>
 </context>
@@ -2989,10 +3058,6 @@ Zeile: %2
     <message>
         <source>Erstellt am %1</source>
         <translation>生成于 %1</translation>
-    </message>
-    <message>
-        <source>Erledigt: %1 von %2 Zeilen; offen: %3.</source>
-        <translation>已完成：%2 行中的 %1 行；未决：%3。</translation>
     </message>
     <message>
         <source>Stand der Zeilen</source>
@@ -3218,6 +3283,10 @@ Zeile: %2
         <source>Beurteilte Zeilen</source>
         <translation>已评判的行</translation>
     </message>
+    <message>
+        <source>Erledigte Zeilen: %1 von %2; offen: %3.</source>
+        <translation>已完成的行：%2 行中的 %1 行；未决：%3。</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3296,9 +3365,9 @@ Zeile: %2
         <translation>表尚未比较</translation>
     </message>
     <message numerus="yes">
-        <source>Von vorn: %n Zeile(n) offen</source>
+        <source>Von vorn: %Ln Zeile(n) offen</source>
         <translation>
-            <numerusform>从头开始：%n 行未决</numerusform>
+            <numerusform>从头开始：%Ln 行未决</numerusform>
         </translation>
     </message>
     <message>
@@ -3322,15 +3391,15 @@ Zeile: %2
         <translation>未选择模式，或其所有行都已决定</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n 行</numerusform>
+            <numerusform>%Ln 行</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en) bestätigen?</source>
+        <source>in %Ln Projekt(en) bestätigen?</source>
         <translation>
-            <numerusform>在 %n 个项目中确认吗？</numerusform>
+            <numerusform>在 %Ln 个项目中确认吗？</numerusform>
         </translation>
     </message>
     <message>
@@ -3342,9 +3411,9 @@ Zeile: %2
         <translation>确认(&amp;C)</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>已确认 %n 行</numerusform>
+            <numerusform>已确认 %Ln 行</numerusform>
         </translation>
     </message>
     <message>
@@ -3366,10 +3435,6 @@ Zeile: %2
     <message>
         <source>Stichprobe</source>
         <translation>抽样</translation>
-    </message>
-    <message>
-        <source>So viele von %1 Zeilen werden gezogen und einzeln beurteilt. %2 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %3 richtige weniger als 1 %.</source>
-        <translation>从 %1 行中抽取这么多行逐一评判。%2 行正确说明有 95 % 的把握错误少于 5 %，%3 行正确则少于 1 %。</translation>
     </message>
     <message>
         <source>&amp;Ziehen</source>
@@ -3428,9 +3493,9 @@ Zeile: %2
         <translation>查看错误的行(&amp;L)</translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind unsicher.</source>
+        <source>%Ln davon ist/sind unsicher.</source>
         <translation>
-            <numerusform>其中 %n 行不确定。</numerusform>
+            <numerusform>其中 %Ln 行不确定。</numerusform>
         </translation>
     </message>
     <message>
@@ -3438,20 +3503,26 @@ Zeile: %2
         <translation>所有模式都已处理完</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>涉及 %n 个项目</numerusform>
+            <numerusform>涉及 %Ln 个项目</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>已将 %n 行确认为停用</numerusform>
+            <numerusform>已将 %Ln 行确认为停用</numerusform>
         </translation>
     </message>
     <message>
         <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
         <translation>%2 中的行 %1 错误。集合已拆分；要从哪一部分继续？</translation>
+    </message>
+    <message numerus="yes">
+        <source>So viele von %Ln Zeile(n) werden gezogen und einzeln beurteilt. %1 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %2 richtige weniger als 1 %.</source>
+        <translation>
+            <numerusform>从 %Ln 行中抽取这么多行逐一评判。%1 行正确说明有 95 % 的把握错误少于 5 %，%2 行正确则少于 1 %。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3609,16 +3680,20 @@ Zeile: %2
         <translation>在最后一次结束的会话之后，日志 %1 无法读取。其中内容未知；日志将保留。</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passen noch %2 Änderungen, %3 passen nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
-        <translation>日志 %1 已损坏。损坏处之后仍有 %2 项更改相符，%3 项已不相符；可能还缺少其他更改。日志将保留。</translation>
-    </message>
-    <message>
         <source>Das Ende des Journals %1 ist nicht lesbar. Die letzte Änderung kann fehlen.</source>
         <translation>日志 %1 的末尾无法读取。可能缺少最后一次更改。</translation>
     </message>
-    <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
-        <translation>日志 %1 已损坏，或与映射文件不符。至少缺少之后的 %2 项更改；日志将保留。</translation>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passt/passen noch %Ln Änderung(en), %2 nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>日志 %1 已损坏。损坏处之后仍有 %Ln 项更改相符，%2 项已不相符；可能还缺少其他更改。日志将保留。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %Ln spätere Änderung(en) fehlt/fehlen; das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>日志 %1 已损坏，或与映射文件不符。至少缺少之后的 %Ln 项更改；日志将保留。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3870,11 +3945,6 @@ Zeile: %2
         <translation>全部已决定</translation>
     </message>
     <message>
-        <source>Offen: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>未决：%2 个项目中的 &lt;a href=&quot;next&quot;&gt;%1 行&lt;/a&gt;</translation>
-    </message>
-    <message>
         <source>Zeilen, die noch eine Entscheidung brauchen</source>
         <translation>仍需决定的行</translation>
     </message>
@@ -3887,13 +3957,29 @@ Zeile: %2
         <translation>筛选：没有行</translation>
     </message>
     <message>
-        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>筛选：%2 个项目中 &lt;a href=&quot;next&quot;&gt;%1 行&lt;/a&gt;</translation>
-    </message>
-    <message>
         <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
         <translation>所有行的筛选所显示的行</translation>
+    </message>
+    <message numerus="yes">
+        <source>&lt;a href=&quot;next&quot;&gt;%Ln Zeile(n)&lt;/a&gt;</source>
+        <translation>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln 行&lt;/a&gt;</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Offen: %1</source>
+        <translation>未决：%1</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>筛选：%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <extracomment>&quot;12 lines in 3 projects&quot;</extracomment>
+        <translation>
+            <numerusform>%1，%Ln 个项目</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3942,9 +4028,9 @@ Zeile: %2
         <translation>关闭(&amp;C)</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <source>Mit %Ln abhängigen &amp;zurücknehmen</source>
         <translation>
-            <numerusform>连同 %n 个依赖步骤撤销(&amp;T)</numerusform>
+            <numerusform>连同 %Ln 个依赖步骤撤销(&amp;T)</numerusform>
         </translation>
     </message>
     <message>
@@ -3952,9 +4038,9 @@ Zeile: %2
         <translation>只撤销这一步(&amp;T)</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <source>Mit %Ln früheren &amp;wieder ausführen</source>
         <translation>
-            <numerusform>连同 %n 个更早步骤重做(&amp;D)</numerusform>
+            <numerusform>连同 %Ln 个更早步骤重做(&amp;D)</numerusform>
         </translation>
     </message>
     <message>
@@ -3990,18 +4076,18 @@ Zeile: %2
         <translation>那里现在是此列表中任何步骤都未决定的其他内容，例如来自其他程序。该步骤无法再移动。</translation>
     </message>
     <message numerus="yes">
-        <source>und %n weitere</source>
+        <source>und %Ln weitere</source>
         <translation>
-            <numerusform>及另外 %n 个</numerusform>
+            <numerusform>及另外 %Ln 个</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepListModel</name>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1，%n 个项目</numerusform>
+            <numerusform>%1，%Ln 个项目</numerusform>
         </translation>
     </message>
     <message>
@@ -4044,9 +4130,9 @@ Zeile: %2
         <translation>%1 中的更改在重新分配行之后才生效。届时只保留已确认的内容。</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
+        <source>%Ln Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
         <translation>
-            <numerusform>%1 中有 %n 行曾确认为停用，现在不再是：%2</numerusform>
+            <numerusform>%1 中有 %Ln 行曾确认为停用，现在不再是：%2</numerusform>
         </translation>
     </message>
     <message>
@@ -4062,66 +4148,66 @@ Zeile: %2
         <translation>%2 中目标项目 %1 的一个变量映射已失效。</translation>
     </message>
     <message numerus="yes">
-        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %n andere Zeile(n): %4</source>
+        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %Ln andere Zeile(n): %4</source>
         <translation>
-            <numerusform>%3 中的行 %1 → %2：另有 %n 行也使用该目标行：%4</numerusform>
+            <numerusform>%3 中的行 %1 → %2：另有 %Ln 行也使用该目标行：%4</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
+        <source>%Ln Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
         <translation>
-            <numerusform>%1 中有 %n 行与新分配的行共用目标行：%2</numerusform>
+            <numerusform>%1 中有 %Ln 行与新分配的行共用目标行：%2</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepSummary</name>
     <message numerus="yes">
-        <source>%n Konflikt(e) angenommen</source>
+        <source>%Ln Konflikt(e) angenommen</source>
         <translation>
-            <numerusform>已接受 %n 个冲突</numerusform>
+            <numerusform>已接受 %Ln 个冲突</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>已确认 %n 行</numerusform>
+            <numerusform>已确认 %Ln 行</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>已将 %n 行确认为停用</numerusform>
+            <numerusform>已将 %Ln 行确认为停用</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) zugeordnet</source>
+        <source>%Ln Zeile(n) zugeordnet</source>
         <translation>
-            <numerusform>已分配 %n 行</numerusform>
+            <numerusform>已分配 %Ln 行</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben</source>
         <translation>
-            <numerusform>已取消 %n 行的分配</numerusform>
+            <numerusform>已取消 %Ln 行的分配</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Wertebereichszuordnung von %n Zeile(n) geändert</source>
+        <source>Wertebereichszuordnung von %Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>已更改 %n 行的值范围分配</numerusform>
+            <numerusform>已更改 %Ln 行的值范围分配</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Konflikt von %n Zeile(n) gelöst</source>
+        <source>Konflikt von %Ln Zeile(n) gelöst</source>
         <translation>
-            <numerusform>已解决 %n 行的冲突</numerusform>
+            <numerusform>已解决 %Ln 行的冲突</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) geändert</source>
+        <source>%Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>已更改 %n 行</numerusform>
+            <numerusform>已更改 %Ln 行</numerusform>
         </translation>
     </message>
     <message>
@@ -4189,9 +4275,9 @@ Zeile: %2
         <translation>%2 中的 %1</translation>
     </message>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1，%n 个项目</numerusform>
+            <numerusform>%1，%Ln 个项目</numerusform>
         </translation>
     </message>
 </context>
@@ -4237,9 +4323,9 @@ Zeile: %2
         <translation>正在检查值范围分配</translation>
     </message>
     <message numerus="yes">
-        <source>%n Wertebereichszuordnung(en) geprüft</source>
+        <source>%Ln Wertebereichszuordnung(en) geprüft</source>
         <translation>
-            <numerusform>已检查 %n 个值范围分配</numerusform>
+            <numerusform>已检查 %Ln 个值范围分配</numerusform>
         </translation>
     </message>
     <message>
@@ -4247,9 +4333,9 @@ Zeile: %2
         <translation>没有问题</translation>
     </message>
     <message numerus="yes">
-        <source>%n Beanstandung(en)</source>
+        <source>%Ln Beanstandung(en)</source>
         <translation>
-            <numerusform>%n 个问题</numerusform>
+            <numerusform>%Ln 个问题</numerusform>
         </translation>
     </message>
     <message>

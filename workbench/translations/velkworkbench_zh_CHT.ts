@@ -8,87 +8,87 @@
         <translation>沒有需要變更的內容。</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigen?</source>
+        <source>%Ln Zeile(n) bestätigen?</source>
         <translation>
-            <numerusform>確認 %n 列嗎？</numerusform>
+            <numerusform>確認 %Ln 列嗎？</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigen?</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>將 %n 列確認為停用嗎？</numerusform>
+            <numerusform>將 %Ln 列確認為停用嗎？</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben?</source>
         <translation>
-            <numerusform>取消 %n 列的指派嗎？</numerusform>
+            <numerusform>取消 %Ln 列的指派嗎？</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
+        <source>Zuordnung von %Ln Zeile(n) aufheben und als ausgelaufen bestätigen?</source>
         <translation>
-            <numerusform>取消 %n 列的指派並確認為停用嗎？</numerusform>
+            <numerusform>取消 %Ln 列的指派並確認為停用嗎？</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind schon bestätigt.</source>
+        <source>%Ln davon ist/sind schon bestätigt.</source>
         <translation>
-            <numerusform>其中 %n 列已確認。</numerusform>
+            <numerusform>其中 %Ln 列已確認。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon verliert/verlieren ihre Wertebereichszuordnung.</source>
+        <source>%Ln davon verliert/verlieren ihre Wertebereichszuordnung.</source>
         <translation>
-            <numerusform>其中 %n 列將失去其值範圍指派。</numerusform>
+            <numerusform>其中 %Ln 列將失去其值範圍指派。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
+        <source>%Ln Zeile(n) ohne Ziel bleibt/bleiben unbestätigt.</source>
         <translation>
-            <numerusform>%n 列沒有目標，保持未確認。</numerusform>
+            <numerusform>%Ln 列沒有目標，保持未確認。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
+        <source>%Ln Zeile(n) bleibt/bleiben, wie sie ist/sind.</source>
         <translation>
-            <numerusform>%n 列保持不變。</numerusform>
+            <numerusform>%Ln 列保持不變。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
+        <source>%Ln Zeile(n) mit Konflikt wird/werden nicht geändert.</source>
         <translation>
-            <numerusform>%n 列有衝突，不會變更。</numerusform>
+            <numerusform>%Ln 列有衝突，不會變更。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
+        <source>%Ln Zeile(n) ist/sind in keinem Zielprojekt eingetragen.</source>
         <translation>
-            <numerusform>%n 列未登記在任何目標專案中。</numerusform>
+            <numerusform>%Ln 列未登記在任何目標專案中。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt.</source>
+        <source>%Ln Zeile(n) bestätigt.</source>
         <translation>
-            <numerusform>已確認 %n 列。</numerusform>
+            <numerusform>已確認 %Ln 列。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt.</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>已將 %n 列確認為停用。</numerusform>
+            <numerusform>已將 %Ln 列確認為停用。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben.</source>
         <translation>
-            <numerusform>已取消 %n 列的指派。</numerusform>
+            <numerusform>已取消 %Ln 列的指派。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben und als ausgelaufen bestätigt.</source>
         <translation>
-            <numerusform>已取消 %n 列的指派，並確認為停用。</numerusform>
+            <numerusform>已取消 %Ln 列的指派，並確認為停用。</numerusform>
         </translation>
     </message>
 </context>
@@ -146,10 +146,6 @@
         <translation>%1 中沒有可沿用的內容。</translation>
     </message>
     <message>
-        <source>Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher zugeordnet, %5 vorgeschlagen.</source>
-        <translation>從 %1 沿用：%3 個已確認列中的 %2 個，可靠指派 %4，建議 %5。</translation>
-    </message>
-    <message>
         <source>Die Datei enthält kein Mapping vom Katalogstand %1.</source>
         <translation>該檔案沒有從目錄版本 %1 開始的對應。</translation>
     </message>
@@ -192,6 +188,12 @@
     <message>
         <source>Entscheidungen aus %1 übernommen: %2</source>
         <translation>從 %1 沿用的決定：%2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Aus %1 übernommen: %2 von %Ln bestätigten Zeile(n), %3 sicher zugeordnet, %4 vorgeschlagen.</source>
+        <translation>
+            <numerusform>從 %1 沿用：%Ln 個已確認列中的 %2 個，可靠指派 %3，建議 %4。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -256,9 +258,9 @@
         <translation>衝突 %1 / %2，還有 %3 個未解決</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
+        <source>%Ln Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die Entscheidung für alle?</source>
         <translation>
-            <numerusform>%1 中有 %n 列以同樣的方式互相矛盾。此決定適用於全部嗎？</numerusform>
+            <numerusform>%1 中有 %Ln 列以同樣的方式互相矛盾。此決定適用於全部嗎？</numerusform>
         </translation>
     </message>
     <message>
@@ -294,14 +296,10 @@ Andere: %2</source>
         <source>Alle Konflikte sind entschieden.</source>
         <translation>所有衝突都已決定。</translation>
     </message>
-    <message>
-        <source>%1 von %2 Konflikten sind noch offen.</source>
-        <translation>%2 個衝突中還有 %1 個未解決。</translation>
-    </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) widersprechen sich wie diese.</source>
+        <source>%Ln weitere Zeile(n) widersprechen sich wie diese.</source>
         <translation>
-            <numerusform>還有 %n 列與此列一樣互相矛盾。</numerusform>
+            <numerusform>還有 %Ln 列與此列一樣互相矛盾。</numerusform>
         </translation>
     </message>
     <message>
@@ -323,6 +321,12 @@ Andere: %2</source>
     <message>
         <source>Neu entscheiden</source>
         <translation>重新決定</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Konflikt(en) noch offen.</source>
+        <translation>
+            <numerusform>%Ln 個衝突中還有 %1 個未解決。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -441,9 +445,9 @@ Andere: %2</source>
         <translation>相同</translation>
     </message>
     <message numerus="yes">
-        <source>ersetzt wie in %n weiteren Zeile(n)</source>
+        <source>ersetzt wie in %Ln weiteren Zeile(n)</source>
         <translation>
-            <numerusform>取代方式與另外 %n 列相同</numerusform>
+            <numerusform>取代方式與另外 %Ln 列相同</numerusform>
         </translation>
     </message>
     <message>
@@ -506,9 +510,9 @@ Andere: %2</source>
         <translation>可靠指派。</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n 列</numerusform>
+            <numerusform>%Ln 列</numerusform>
         </translation>
     </message>
     <message>
@@ -591,19 +595,15 @@ Andere: %2</source>
         <translation>捨棄(&amp;D)</translation>
     </message>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1：%n 列</numerusform>
+            <numerusform>%1：%Ln 列</numerusform>
         </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>以及另外 %1 個</translation>
-    </message>
     <message numerus="yes">
-        <source>Noch %n Zeile(n) in Konflikt, in diesen Projekten:</source>
+        <source>Noch %Ln Zeile(n) in Konflikt, in diesen Projekten:</source>
         <translation>
-            <numerusform>還有 %n 列處於衝突，所在專案：</numerusform>
+            <numerusform>還有 %Ln 列處於衝突，所在專案：</numerusform>
         </translation>
     </message>
     <message>
@@ -645,6 +645,12 @@ Andere: %2</source>
     <message>
         <source>Die Mapping-Datei kann nicht angelegt werden.</source>
         <translation>無法建立對應檔。</translation>
+    </message>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>及另外 %Ln 個</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -708,6 +714,15 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. Bitte einen anderen Ordner wählen.</source>
         <translation>無法在 %1 的資料夾中建立任何內容 (%2)。未寫入任何內容。請選擇其他資料夾。</translation>
+    </message>
+</context>
+<context>
+    <name>EditorArea</name>
+    <message>
+        <source>Keine Zeile dieses Projekts ist im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Zeilen zu sehen.</source>
+        <translation>此專案沒有任何列在篩選中。
+開啟「%1」並選擇「%2」即可重新看到所有列。</translation>
     </message>
 </context>
 <context>
@@ -835,15 +850,15 @@ Bitte eine andere Datei wählen.</source>
         <translation>正在讀取表...</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n 列</numerusform>
+            <numerusform>%Ln 列</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>涉及 %n 個專案</numerusform>
+            <numerusform>涉及 %Ln 個專案</numerusform>
         </translation>
     </message>
     <message>
@@ -851,9 +866,9 @@ Bitte eine andere Datei wählen.</source>
         <translation>無篩選：所有列</translation>
     </message>
     <message numerus="yes">
-        <source>%n Tabelle(n) nicht lesbar</source>
+        <source>%Ln Tabelle(n) nicht lesbar</source>
         <translation>
-            <numerusform>無法讀取的表：%n</numerusform>
+            <numerusform>無法讀取的表：%Ln</numerusform>
         </translation>
     </message>
     <message>
@@ -1002,9 +1017,9 @@ Bitte eine andere Datei wählen.</source>
         <translation>%2 中的列 %1</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1</source>
+        <source>%Ln Zeile(n) in %1</source>
         <translation>
-            <numerusform>%1 中的 %n 列</numerusform>
+            <numerusform>%1 中的 %Ln 列</numerusform>
         </translation>
     </message>
     <message>
@@ -1333,9 +1348,9 @@ Bitte eine andere Datei wählen.</source>
         <translation>複製的條件還不能直接使用：有值缺少、是一個範圍或包含引號：%1</translation>
     </message>
     <message numerus="yes">
-        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.</source>
+        <source>Hier im Filter ist alles durch, außerhalb ist/sind noch %Ln Zeile(n) offen.</source>
         <translation>
-            <numerusform>篩選範圍內已全部完成，範圍之外還有 %n 列未決。</numerusform>
+            <numerusform>篩選範圍內已全部完成，範圍之外還有 %Ln 列未決。</numerusform>
         </translation>
     </message>
     <message>
@@ -1403,16 +1418,16 @@ Bitte eine andere Datei wählen.</source>
         <translation>針對專案的所有列。</translation>
     </message>
     <message>
-        <source>Gemeint sind die %1 gezeigten von %2 Zeilen des Projekts.</source>
-        <translation>針對專案 %2 列中顯示的 %1 列。</translation>
-    </message>
-    <message>
         <source>Filter: %1.</source>
         <translation>篩選：%1。</translation>
     </message>
     <message>
         <source>Kein anderes Projekt hat solche Zeilen</source>
         <translation>沒有其他專案有這樣的列</translation>
+    </message>
+    <message>
+        <source>Gemeint sind nur die gezeigten Zeilen des Projekts: %1 von %2.</source>
+        <translation>只針對專案中顯示的列：%2 列中的 %1 列。</translation>
     </message>
 </context>
 <context>
@@ -1645,10 +1660,6 @@ Bitte eine andere Datei wählen.</source>
         <translation>關閉(&amp;C)</translation>
     </message>
     <message>
-        <source>Die ersten %1 Links; die Suche zeigt andere.</source>
-        <translation>前 %1 個連結；搜尋可顯示其他連結。</translation>
-    </message>
-    <message>
         <source>Links: %1</source>
         <translation>連結：%1</translation>
     </message>
@@ -1667,6 +1678,12 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>&amp;Wiederherstellen</source>
         <translation>還原(&amp;R)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Die ersten %Ln Link(s); die Suche zeigt andere.</source>
+        <translation>
+            <numerusform>前 %Ln 個連結；搜尋可顯示其他連結。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1789,14 +1806,16 @@ Bitte eine andere Datei wählen.</source>
         <source>Nichts gefunden</source>
         <translation>找不到任何內容</translation>
     </message>
-    <message>
-        <source>Die ersten %1 von %2 Treffern</source>
-        <translation>前 %1 個結果，共 %2 個</translation>
+    <message numerus="yes">
+        <source>%Ln Treffer</source>
+        <translation>
+            <numerusform>%Ln 個結果</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
-        <source>%n Treffer</source>
+        <source>Die ersten %1 von %Ln Treffer(n)</source>
         <translation>
-            <numerusform>%n 個結果</numerusform>
+            <numerusform>前 %1 個結果，共 %Ln 個</numerusform>
         </translation>
     </message>
 </context>
@@ -2019,21 +2038,21 @@ Bitte eine andere Datei wählen.</source>
         <translation>在檔案版本之上的自己的變更</translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): eigene Entscheidung</source>
+        <source>%Ln Konflikt(e): eigene Entscheidung</source>
         <translation>
-            <numerusform>%n 個衝突：自己的決定</numerusform>
+            <numerusform>%Ln 個衝突：自己的決定</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): Entscheidung der anderen Seite</source>
+        <source>%Ln Konflikt(e): Entscheidung der anderen Seite</source>
         <translation>
-            <numerusform>%n 個衝突：對方的決定</numerusform>
+            <numerusform>%Ln 個衝突：對方的決定</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Konflikt(e): neu zu entscheiden</source>
+        <source>%Ln Konflikt(e): neu zu entscheiden</source>
         <translation>
-            <numerusform>%n 個衝突：需重新決定</numerusform>
+            <numerusform>%Ln 個衝突：需重新決定</numerusform>
         </translation>
     </message>
     <message>
@@ -2104,46 +2123,60 @@ Bitte eine andere Datei wählen.</source>
         <translation>已取消，未建立任何內容</translation>
     </message>
     <message>
-        <source>%1 Projekte: %2 am selben Ort, %3 an anderem, %4 aufgeteilt, %5 ohne Ziel, %6 unlesbar</source>
-        <translation>%1 個專案：%2 個在相同位置，%3 個在其他位置，%4 個已拆分，%5 個無目標，%6 個無法讀取</translation>
-    </message>
-    <message>
         <source>Zeilen werden zugeordnet</source>
         <translation>正在指派列</translation>
     </message>
-    <message>
-        <source>Abgebrochen: %1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>已取消：%2 個專案中的 %1 個，共 %3 列，其中 %4 列已指派，%5 列待檢查，%6 列無目標</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e): %1 am selben Ort, %2 an anderem, %3 aufgeteilt, %4 ohne Ziel, %5 unlesbar</source>
+        <translation>
+            <numerusform>%Ln 個專案：%1 個在相同位置，%2 個在其他位置，%3 個已拆分，%4 個無目標，%5 個無法讀取</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%Ln 個專案中的 %1 個</numerusform>
+        </translation>
     </message>
     <message>
-        <source>%1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 ohne Ziel</source>
-        <translation>%2 個專案中的 %1 個，共 %3 列，其中 %4 列已指派，%5 列待檢查，%6 列無目標</translation>
+        <source>davon %1 zugeordnet, %2 zu prüfen, %3 ohne Ziel</source>
+        <translation>其中 %1 列已指派，%2 列待檢查，%3 列無目標</translation>
+    </message>
+    <message>
+        <source>Abgebrochen: %1</source>
+        <translation>已取消：%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1，共 %Ln 列</numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>MergeState</name>
     <message numerus="yes">
-        <source>%n Änderung(en) übernommen.</source>
+        <source>%Ln Änderung(en) übernommen.</source>
         <translation>
-            <numerusform>已採用 %n 項變更。</numerusform>
+            <numerusform>已採用 %Ln 項變更。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) haben beide gleich entschieden.</source>
+        <source>%Ln Zeile(n) haben beide gleich entschieden.</source>
         <translation>
-            <numerusform>雙方對 %n 列的決定相同。</numerusform>
+            <numerusform>雙方對 %Ln 列的決定相同。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
+        <source>%Ln Zeile(n) sind verschieden entschieden und als Konflikt markiert.</source>
         <translation>
-            <numerusform>%n 列的決定不同，已標記為衝突。</numerusform>
+            <numerusform>%Ln 列的決定不同，已標記為衝突。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
+        <source>%Ln andere(r) Widerspruch/Widersprüche: Der Stand der Datei gilt.</source>
         <translation>
-            <numerusform>其他矛盾 %n 處：以檔案中的版本為準。</numerusform>
+            <numerusform>其他矛盾 %Ln 處：以檔案中的版本為準。</numerusform>
         </translation>
     </message>
 </context>
@@ -2169,15 +2202,15 @@ Bitte eine andere Datei wählen.</source>
         <translation>正在比較表格</translation>
     </message>
     <message numerus="yes">
-        <source>%n zugeordnete Zeile(n) angesehen</source>
+        <source>%Ln zugeordnete Zeile(n) angesehen</source>
         <translation>
-            <numerusform>已檢視 %n 個已指派的列</numerusform>
+            <numerusform>已檢視 %Ln 個已指派的列</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Fundstelle(n)</source>
+        <source>%Ln Fundstelle(n)</source>
         <translation>
-            <numerusform>%n 處發現</numerusform>
+            <numerusform>%Ln 處發現</numerusform>
         </translation>
     </message>
     <message>
@@ -2402,38 +2435,34 @@ Bitte eine andere Datei wählen.</source>
 </context>
 <context>
     <name>PatternDock</name>
-    <message>
-        <source>Die Tabellen werden verglichen: %1 Projekte gelesen</source>
-        <translation>正在比較表格：已讀取 %1 個專案</translation>
-    </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) mit Vorschlag</source>
+        <source>%Ln offene Zeile(n) mit Vorschlag</source>
         <translation>
-            <numerusform>%n 個帶建議的未決列</numerusform>
+            <numerusform>%Ln 個帶建議的未決列</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Muster(n)</source>
+        <source>in %Ln Muster(n)</source>
         <translation>
-            <numerusform>屬於 %n 個模式</numerusform>
+            <numerusform>屬於 %Ln 個模式</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon wird/werden noch verglichen</source>
+        <source>%Ln davon wird/werden noch verglichen</source>
         <translation>
-            <numerusform>其中 %n 列仍在比較</numerusform>
+            <numerusform>其中 %Ln 列仍在比較</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Gewählt: %n Zeile(n)</source>
+        <source>Gewählt: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>已選：%n 列</numerusform>
+            <numerusform>已選：%Ln 列</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n davon herausgenommen</source>
+        <source>%Ln davon herausgenommen</source>
         <translation>
-            <numerusform>其中 %n 列已移出</numerusform>
+            <numerusform>其中 %Ln 列已移出</numerusform>
         </translation>
     </message>
     <message>
@@ -2441,36 +2470,42 @@ Bitte eine andere Datei wählen.</source>
         <translation>未決列的差異</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>涉及 %n 個專案</numerusform>
+            <numerusform>涉及 %Ln 個專案</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n offene Zeile(n) ohne Nachfolger</source>
+        <source>%Ln offene Zeile(n) ohne Nachfolger</source>
         <translation>
-            <numerusform>%n 個沒有後繼的未決列</numerusform>
+            <numerusform>%Ln 個沒有後繼的未決列</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Die Tabellen werden verglichen: %Ln Projekt(e) gelesen</source>
+        <translation>
+            <numerusform>正在比較表格：已讀取 %Ln 個專案</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>PatternModel</name>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n 列</numerusform>
+            <numerusform>%Ln 列</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Projekt(e)</source>
+        <source>%Ln Projekt(e)</source>
         <translation>
-            <numerusform>%n 個專案</numerusform>
+            <numerusform>%Ln 個專案</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n weitere Zeile(n) haben diese und andere Unterschiede</source>
+        <source>%Ln weitere Zeile(n) haben diese und andere Unterschiede</source>
         <translation>
-            <numerusform>另有 %n 列具有這些和其他差異</numerusform>
+            <numerusform>另有 %Ln 列具有這些和其他差異</numerusform>
         </translation>
     </message>
     <message>
@@ -2697,9 +2732,9 @@ Zeile: %2
         <translation>列 %1：%2</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
+        <source>%Ln Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.</source>
         <translation>
-            <numerusform>%n 列已確認，但其範圍內有的值沒有新列。</numerusform>
+            <numerusform>%Ln 列已確認，但其範圍內有的值沒有新列。</numerusform>
         </translation>
     </message>
     <message>
@@ -2714,18 +2749,14 @@ Zeile: %2
 <context>
     <name>RangeDock</name>
     <message numerus="yes">
-        <source>%1: %n Zeile(n)</source>
+        <source>%1: %Ln Zeile(n)</source>
         <translation>
-            <numerusform>%1：%n 列</numerusform>
+            <numerusform>%1：%Ln 列</numerusform>
         </translation>
     </message>
     <message>
         <source>Die Zeile hat keine Wertebereichszuordnung.</source>
         <translation>此列沒有值範圍指派。</translation>
-    </message>
-    <message>
-        <source>%1: %2 von %3 Werten zugeordnet</source>
-        <translation>%1：%3 個值中已指派 %2 個</translation>
     </message>
     <message>
         <source>fehlend: %1</source>
@@ -2742,6 +2773,12 @@ Zeile: %2
     <message>
         <source>Wertebereich der Zeile</source>
         <translation>列的值範圍</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 von %Ln Wert(en) zugeordnet</source>
+        <translation>
+            <numerusform>%1：%Ln 個值中已指派 %2 個</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2784,10 +2821,6 @@ Zeile: %2
     <message>
         <source>Wiederherstellung</source>
         <translation>救回</translation>
-    </message>
-    <message>
-        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2 Schritte mit %3 Zeilen in %4 Projekten, zuletzt „%5“. Sie stammt von %6.</source>
-        <translation>%1 有未儲存的工作：%2 個步驟，涉及 %4 個專案中的 %3 列，最後一步是「%5」。來自 %6。</translation>
     </message>
     <message>
         <source>Gespeichert</source>
@@ -2837,16 +2870,34 @@ Zeile: %2
         <source>&amp;Gespeicherten Stand öffnen</source>
         <translation>開啟已儲存的版本(&amp;S)</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln Schritt(e)</source>
+        <translation>
+            <numerusform>%Ln 個步驟</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2, zuletzt „%3“. Sie stammt von %4.</source>
+        <translation>%1 有未儲存的工作：%2，最後一步是「%3」。來自 %4。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1，共 %Ln 列</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1，%Ln 個專案</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ReleaseCommands</name>
     <message>
         <source>Tabellen werden importiert</source>
         <translation>正在匯入表格</translation>
-    </message>
-    <message>
-        <source>%1 Tabellen mit %2 Zeilen: %3 neu, %4 geändert, %5 unverändert, %6 nicht importiert</source>
-        <translation>%1 個表格，共 %2 列：%3 個新增，%4 個已變更，%5 個未變，%6 個未匯入</translation>
     </message>
     <message>
         <source>%1 hat keine CSV-Datei mehr und bleibt, wie es ist</source>
@@ -2885,10 +2936,6 @@ Zeile: %2
         <translation>已取消，未匯出任何內容</translation>
     </message>
     <message>
-        <source>%1 Zeilen nach %2 exportiert</source>
-        <translation>已將 %1 列匯出到 %2</translation>
-    </message>
-    <message>
         <source>Bericht schreiben</source>
         <translation>寫入報告</translation>
     </message>
@@ -2919,6 +2966,28 @@ Zeile: %2
     <message>
         <source>Seite %1 von %2</source>
         <translation>第 %1 頁，共 %2 頁</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Tabelle(n)</source>
+        <translation>
+            <numerusform>%Ln 個表格</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 neu, %2 geändert, %3 unverändert, %4 nicht importiert</source>
+        <translation>%1 個新增，%2 個已變更，%3 個未變，%4 個未匯入</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln Zeile(n) nach %1 exportiert</source>
+        <translation>
+            <numerusform>已將 %Ln 列匯出到 %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 mit %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1，共 %Ln 列</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2964,15 +3033,15 @@ Zeile: %2
         <translation>正在讀取表格</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dafür</source>
+        <source>%Ln Zeile(n) dafür</source>
         <translation>
-            <numerusform>%n 列支持</numerusform>
+            <numerusform>%Ln 列支持</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) dagegen</source>
+        <source>%Ln Zeile(n) dagegen</source>
         <translation>
-            <numerusform>%n 列不支持</numerusform>
+            <numerusform>%Ln 列不支持</numerusform>
         </translation>
     </message>
 </context>
@@ -2989,10 +3058,6 @@ Zeile: %2
     <message>
         <source>Erstellt am %1</source>
         <translation>產生於 %1</translation>
-    </message>
-    <message>
-        <source>Erledigt: %1 von %2 Zeilen; offen: %3.</source>
-        <translation>已完成：%2 列中的 %1 列；未決：%3。</translation>
     </message>
     <message>
         <source>Stand der Zeilen</source>
@@ -3218,6 +3283,10 @@ Zeile: %2
         <source>Beurteilte Zeilen</source>
         <translation>已評判的列</translation>
     </message>
+    <message>
+        <source>Erledigte Zeilen: %1 von %2; offen: %3.</source>
+        <translation>已完成的列：%2 列中的 %1 列；未決：%3。</translation>
+    </message>
 </context>
 <context>
     <name>RepositoryBox</name>
@@ -3296,9 +3365,9 @@ Zeile: %2
         <translation>表格尚未比較</translation>
     </message>
     <message numerus="yes">
-        <source>Von vorn: %n Zeile(n) offen</source>
+        <source>Von vorn: %Ln Zeile(n) offen</source>
         <translation>
-            <numerusform>從頭開始：%n 列未決</numerusform>
+            <numerusform>從頭開始：%Ln 列未決</numerusform>
         </translation>
     </message>
     <message>
@@ -3322,15 +3391,15 @@ Zeile: %2
         <translation>未選擇模式，或其所有列都已決定</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n)</source>
+        <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%n 列</numerusform>
+            <numerusform>%Ln 列</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en) bestätigen?</source>
+        <source>in %Ln Projekt(en) bestätigen?</source>
         <translation>
-            <numerusform>在 %n 個專案中確認嗎？</numerusform>
+            <numerusform>在 %Ln 個專案中確認嗎？</numerusform>
         </translation>
     </message>
     <message>
@@ -3342,9 +3411,9 @@ Zeile: %2
         <translation>確認(&amp;C)</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>已確認 %n 列</numerusform>
+            <numerusform>已確認 %Ln 列</numerusform>
         </translation>
     </message>
     <message>
@@ -3366,10 +3435,6 @@ Zeile: %2
     <message>
         <source>Stichprobe</source>
         <translation>抽樣</translation>
-    </message>
-    <message>
-        <source>So viele von %1 Zeilen werden gezogen und einzeln beurteilt. %2 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %3 richtige weniger als 1 %.</source>
-        <translation>從 %1 列中抽取這麼多列逐一評判。%2 列正確說明有 95 % 的把握錯誤少於 5 %，%3 列正確則少於 1 %。</translation>
     </message>
     <message>
         <source>&amp;Ziehen</source>
@@ -3428,9 +3493,9 @@ Zeile: %2
         <translation>檢視錯誤的列(&amp;L)</translation>
     </message>
     <message numerus="yes">
-        <source>%n davon ist/sind unsicher.</source>
+        <source>%Ln davon ist/sind unsicher.</source>
         <translation>
-            <numerusform>其中 %n 列不確定。</numerusform>
+            <numerusform>其中 %Ln 列不確定。</numerusform>
         </translation>
     </message>
     <message>
@@ -3438,20 +3503,26 @@ Zeile: %2
         <translation>所有模式都已處理完</translation>
     </message>
     <message numerus="yes">
-        <source>in %n Projekt(en)</source>
+        <source>in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>涉及 %n 個專案</numerusform>
+            <numerusform>涉及 %Ln 個專案</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>已將 %n 列確認為停用</numerusform>
+            <numerusform>已將 %Ln 列確認為停用</numerusform>
         </translation>
     </message>
     <message>
         <source>Zeile %1 in %2 ist falsch. Die Menge ist geteilt; mit welchem Teil soll es weitergehen?</source>
         <translation>%2 中的列 %1 錯誤。集合已拆分；要從哪一部分繼續？</translation>
+    </message>
+    <message numerus="yes">
+        <source>So viele von %Ln Zeile(n) werden gezogen und einzeln beurteilt. %1 richtige sagen mit 95 % Sicherheit, dass weniger als 5 % falsch sind, %2 richtige weniger als 1 %.</source>
+        <translation>
+            <numerusform>從 %Ln 列中抽取這麼多列逐一評判。%1 列正確說明有 95 % 的把握錯誤少於 5 %，%2 列正確則少於 1 %。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3609,16 +3680,20 @@ Zeile: %2
         <translation>在最後一次結束的工作階段之後，日誌 %1 無法讀取。其中內容未知；日誌將保留。</translation>
     </message>
     <message>
-        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passen noch %2 Änderungen, %3 passen nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
-        <translation>日誌 %1 已損壞。損壞處之後仍有 %2 項變更相符，%3 項已不相符；可能還缺少其他變更。日誌將保留。</translation>
-    </message>
-    <message>
         <source>Das Ende des Journals %1 ist nicht lesbar. Die letzte Änderung kann fehlen.</source>
         <translation>日誌 %1 的結尾無法讀取。可能缺少最後一次變更。</translation>
     </message>
-    <message>
-        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %2 spätere Änderungen fehlen; das Journal wird aufgehoben.</source>
-        <translation>日誌 %1 已損壞，或與對應檔不符。至少缺少之後的 %2 項變更；日誌將保留。</translation>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt. Hinter der Schadstelle passt/passen noch %Ln Änderung(en), %2 nicht mehr; weitere können fehlen. Das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>日誌 %1 已損壞。損壞處之後仍有 %Ln 項變更相符，%2 項已不相符；可能還缺少其他變更。日誌將保留。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Das Journal %1 ist beschädigt oder passt nicht zur Mapping-Datei. Mindestens %Ln spätere Änderung(en) fehlt/fehlen; das Journal wird aufgehoben.</source>
+        <translation>
+            <numerusform>日誌 %1 已損壞，或與對應檔不符。至少缺少之後的 %Ln 項變更；日誌將保留。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3870,11 +3945,6 @@ Zeile: %2
         <translation>全部已決定</translation>
     </message>
     <message>
-        <source>Offen: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>未決：%2 個專案中的 &lt;a href=&quot;next&quot;&gt;%1 列&lt;/a&gt;</translation>
-    </message>
-    <message>
         <source>Zeilen, die noch eine Entscheidung brauchen</source>
         <translation>仍需決定的列</translation>
     </message>
@@ -3887,13 +3957,29 @@ Zeile: %2
         <translation>篩選：沒有列</translation>
     </message>
     <message>
-        <source>Filter: &lt;a href=&quot;next&quot;&gt;%1 Zeilen&lt;/a&gt; in %2 Projekten</source>
-        <extracomment>Number of lines, number of projects.</extracomment>
-        <translation>篩選：%2 個專案中 &lt;a href=&quot;next&quot;&gt;%1 列&lt;/a&gt;</translation>
-    </message>
-    <message>
         <source>Zeilen, die der Filter über alle Zeilen zeigt</source>
         <translation>所有列的篩選所顯示的列</translation>
+    </message>
+    <message numerus="yes">
+        <source>&lt;a href=&quot;next&quot;&gt;%Ln Zeile(n)&lt;/a&gt;</source>
+        <translation>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln 列&lt;/a&gt;</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Offen: %1</source>
+        <translation>未決：%1</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>篩選：%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln Projekt(en)</source>
+        <extracomment>&quot;12 lines in 3 projects&quot;</extracomment>
+        <translation>
+            <numerusform>%1，%Ln 個專案</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3942,9 +4028,9 @@ Zeile: %2
         <translation>關閉(&amp;C)</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n abhängigen &amp;zurücknehmen</source>
+        <source>Mit %Ln abhängigen &amp;zurücknehmen</source>
         <translation>
-            <numerusform>連同 %n 個依賴步驟復原(&amp;T)</numerusform>
+            <numerusform>連同 %Ln 個依賴步驟復原(&amp;T)</numerusform>
         </translation>
     </message>
     <message>
@@ -3952,9 +4038,9 @@ Zeile: %2
         <translation>只復原這一步(&amp;T)</translation>
     </message>
     <message numerus="yes">
-        <source>Mit %n früheren &amp;wieder ausführen</source>
+        <source>Mit %Ln früheren &amp;wieder ausführen</source>
         <translation>
-            <numerusform>連同 %n 個更早步驟重做(&amp;D)</numerusform>
+            <numerusform>連同 %Ln 個更早步驟重做(&amp;D)</numerusform>
         </translation>
     </message>
     <message>
@@ -3990,18 +4076,18 @@ Zeile: %2
         <translation>那裡現在是此清單中任何步驟都未決定的其他內容，例如來自其他程式。該步驟無法再移動。</translation>
     </message>
     <message numerus="yes">
-        <source>und %n weitere</source>
+        <source>und %Ln weitere</source>
         <translation>
-            <numerusform>及另外 %n 個</numerusform>
+            <numerusform>及另外 %Ln 個</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepListModel</name>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1，%n 個專案</numerusform>
+            <numerusform>%1，%Ln 個專案</numerusform>
         </translation>
     </message>
     <message>
@@ -4044,9 +4130,9 @@ Zeile: %2
         <translation>%1 中的變更在重新指派列之後才生效。屆時只保留已確認的內容。</translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
+        <source>%Ln Zeile(n) in %1 war(en) als ausgelaufen bestätigt und ist/sind es nicht mehr: %2</source>
         <translation>
-            <numerusform>%1 中有 %n 列曾確認為停用，現在不再是：%2</numerusform>
+            <numerusform>%1 中有 %Ln 列曾確認為停用，現在不再是：%2</numerusform>
         </translation>
     </message>
     <message>
@@ -4062,66 +4148,66 @@ Zeile: %2
         <translation>%2 中目標專案 %1 的一個變數對應已失效。</translation>
     </message>
     <message numerus="yes">
-        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %n andere Zeile(n): %4</source>
+        <source>Zeile %1 → %2 in %3: die Zielzeile hat/haben auch %Ln andere Zeile(n): %4</source>
         <translation>
-            <numerusform>%3 中的列 %1 → %2：另有 %n 列也使用該目標列：%4</numerusform>
+            <numerusform>%3 中的列 %1 → %2：另有 %Ln 列也使用該目標列：%4</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
+        <source>%Ln Zeile(n) in %1 teilt/teilen ihre Zielzeile mit neu zugeordneten: %2</source>
         <translation>
-            <numerusform>%1 中有 %n 列與新指派的列共用目標列：%2</numerusform>
+            <numerusform>%1 中有 %Ln 列與新指派的列共用目標列：%2</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>StepSummary</name>
     <message numerus="yes">
-        <source>%n Konflikt(e) angenommen</source>
+        <source>%Ln Konflikt(e) angenommen</source>
         <translation>
-            <numerusform>已接受 %n 個衝突</numerusform>
+            <numerusform>已接受 %Ln 個衝突</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) bestätigt</source>
+        <source>%Ln Zeile(n) bestätigt</source>
         <translation>
-            <numerusform>已確認 %n 列</numerusform>
+            <numerusform>已確認 %Ln 列</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) als ausgelaufen bestätigt</source>
+        <source>%Ln Zeile(n) als ausgelaufen bestätigt</source>
         <translation>
-            <numerusform>已將 %n 列確認為停用</numerusform>
+            <numerusform>已將 %Ln 列確認為停用</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) zugeordnet</source>
+        <source>%Ln Zeile(n) zugeordnet</source>
         <translation>
-            <numerusform>已指派 %n 列</numerusform>
+            <numerusform>已指派 %Ln 列</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Zuordnung von %n Zeile(n) aufgehoben</source>
+        <source>Zuordnung von %Ln Zeile(n) aufgehoben</source>
         <translation>
-            <numerusform>已取消 %n 列的指派</numerusform>
+            <numerusform>已取消 %Ln 列的指派</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Wertebereichszuordnung von %n Zeile(n) geändert</source>
+        <source>Wertebereichszuordnung von %Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>已變更 %n 列的值範圍指派</numerusform>
+            <numerusform>已變更 %Ln 列的值範圍指派</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Konflikt von %n Zeile(n) gelöst</source>
+        <source>Konflikt von %Ln Zeile(n) gelöst</source>
         <translation>
-            <numerusform>已解決 %n 列的衝突</numerusform>
+            <numerusform>已解決 %Ln 列的衝突</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Zeile(n) geändert</source>
+        <source>%Ln Zeile(n) geändert</source>
         <translation>
-            <numerusform>已變更 %n 列</numerusform>
+            <numerusform>已變更 %Ln 列</numerusform>
         </translation>
     </message>
     <message>
@@ -4189,9 +4275,9 @@ Zeile: %2
         <translation>%2 中的 %1</translation>
     </message>
     <message numerus="yes">
-        <source>%1 in %n Projekt(en)</source>
+        <source>%1 in %Ln Projekt(en)</source>
         <translation>
-            <numerusform>%1，%n 個專案</numerusform>
+            <numerusform>%1，%Ln 個專案</numerusform>
         </translation>
     </message>
 </context>
@@ -4237,9 +4323,9 @@ Zeile: %2
         <translation>正在檢查值範圍指派</translation>
     </message>
     <message numerus="yes">
-        <source>%n Wertebereichszuordnung(en) geprüft</source>
+        <source>%Ln Wertebereichszuordnung(en) geprüft</source>
         <translation>
-            <numerusform>已檢查 %n 個值範圍指派</numerusform>
+            <numerusform>已檢查 %Ln 個值範圍指派</numerusform>
         </translation>
     </message>
     <message>
@@ -4247,9 +4333,9 @@ Zeile: %2
         <translation>沒有問題</translation>
     </message>
     <message numerus="yes">
-        <source>%n Beanstandung(en)</source>
+        <source>%Ln Beanstandung(en)</source>
         <translation>
-            <numerusform>%n 個問題</numerusform>
+            <numerusform>%Ln 個問題</numerusform>
         </translation>
     </message>
     <message>

@@ -7,6 +7,7 @@
 
 #include <core/message/PMessage.h>
 #include <core/progress/PProgress.h>
+#include <core/text/countText.h>
 #include <gui/progress/DefaultObserverDelegate.h>
 #include <workbench/session/BackgroundWork.h>
 #include <workbench/session/CarriedWork.h>
@@ -32,7 +33,7 @@ QString leftText(const CarryOutcome &outcome)
     QStringList parts;
     const auto add = [&parts](int lines, const QString &text) {
         if (lines > 0)
-            parts += text.arg(lines);
+            parts += text.arg(countText(lines));
     };
     add(outcome.settled, CarryCommands::tr("%1 hier schon entschieden oder sicher"));
     add(outcome.unfollowed, CarryCommands::tr("%1 ohne Zeile im neuen Stand"));
@@ -50,11 +51,12 @@ QString summaryOf(const CarryOutcome &outcome, const QString &file)
     const int certain =
         int(std::ranges::count_if(outcome.lines, &VelkRelease::CarriedLine::isCertain));
     const QString text =
-        lines == 0 ? CarryCommands::tr("Aus %1 ist nichts zu übernehmen.").arg(file)
-                   : CarryCommands::tr("Aus %1 übernommen: %2 von %3 bestätigten Zeilen, %4 sicher "
-                                       "zugeordnet, %5 vorgeschlagen.")
-                         .arg(file, QString::number(lines), QString::number(outcome.confirmed),
-                              QString::number(certain), QString::number(lines - certain));
+        lines == 0
+            ? CarryCommands::tr("Aus %1 ist nichts zu übernehmen.").arg(file)
+            : CarryCommands::tr("Aus %1 übernommen: %2 von %Ln bestätigten Zeile(n), %3 sicher "
+                                "zugeordnet, %4 vorgeschlagen.",
+                                nullptr, outcome.confirmed)
+                  .arg(file, countText(lines), countText(certain), countText(lines - certain));
     const QString left = leftText(outcome);
     return left.isEmpty() ? text : text + u' ' + left;
 }
@@ -200,8 +202,8 @@ bool CarryCommands::carry(const QString &file, const ReleaseMappingC &former,
         Q_EMIT noted(summary);
         return false;
     }
-    const QString text =
-        tr("Entscheidungen aus %1 übernommen: %2").arg(name, QString::number(outcome.lines.size()));
+    const QString text = tr("Entscheidungen aus %1 übernommen: %2")
+                             .arg(name, countText(qint64(outcome.lines.size())));
     m_document->beginStep(text);
     // Before the changes, so that it is for their step.
     m_document->writeNote("carried",

@@ -3,6 +3,7 @@
 #include "EditorArea.h"
 #include "Question.h"
 
+#include <core/text/countText.h>
 #include <workbench/session/MappingDocument.h>
 
 #include <QTimer>
@@ -63,9 +64,9 @@ void ConflictCommands::goNext()
                                 ? tr("Keine Zeile ist in Konflikt")
                                 : tr("Alle Konflikte sind entschieden; nun speichern"));
     goTo(next);
-    Q_EMIT noted(tr("Konflikt %1 von %2, noch %3 offen")
-                     .arg(QString::number(next + 1), QString::number(m_list->count()),
-                          QString::number(m_list->openCount())));
+    Q_EMIT noted(
+        tr("Konflikt %1 von %2, noch %3 offen")
+            .arg(countText(next + 1), countText(m_list->count()), countText(m_list->openCount())));
 }
 
 std::vector<int> ConflictCommands::askFor(int place)
@@ -76,7 +77,7 @@ std::vector<int> ConflictCommands::askFor(int place)
         m_oneByOne.contains(group))
         return {place};
     Question question(m_window);
-    question.setText(tr("%n Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die "
+    question.setText(tr("%Ln Zeile(n) von %1 widersprechen sich in der gleichen Weise. Gilt die "
                         "Entscheidung für alle?",
                         nullptr, int(alike.size()))
                          .arg(m_list->at(place).line.project.path));

@@ -271,12 +271,12 @@ bool DocumentDesk::maySave()
     for (const ProjectId &project : projects)
         lines += conflicts(project);
     for (const ProjectId &project : projects.mid(0, shown))
-        paths << tr("%1: %n Zeile(n)", nullptr, conflicts(project)).arg(project.path);
+        paths << tr("%1: %Ln Zeile(n)", nullptr, conflicts(project)).arg(project.path);
     if (projects.size() > shown)
-        paths << tr("und %1 weitere").arg(projects.size() - shown);
+        paths << tr("und %Ln weitere", nullptr, int(projects.size()) - shown);
     Question question(m_window);
     question.setWarning();
-    question.setText(tr("Noch %n Zeile(n) in Konflikt, in diesen Projekten:", nullptr, lines));
+    question.setText(tr("Noch %Ln Zeile(n) in Konflikt, in diesen Projekten:", nullptr, lines));
     question.setDetails(paths.join('\n'));
     question.addAnswer(Question::Cancel, Question::cancelText());
     question.addAnswer(Question::Refuse, tr("&Konflikte zeigen"));

@@ -1,9 +1,11 @@
 #include "EditorArea.h"
 
+#include "KeyedActions.h"
 #include "TargetProjectOpener.h"
 
 #include <core/text/PPathName.h>
 #include <geomcore/table/readProjectTable.h>
+#include <gui/application/PCommandKeys.h>
 #include <mapping/view/CatalogMappingWidget.h>
 #include <workbench/session/BackgroundWork.h>
 #include <workbench/session/MappingDocument.h>
@@ -265,14 +267,27 @@ void EditorArea::filterProjects()
         m_editor->setProjectFilter({});
 }
 
+QString EditorArea::noLineText()
+{
+    QString command = QCoreApplication::translate("WorkbenchActions", "Filter über alle Zeilen");
+    if (const QString key = PCommandKeys::instance().keyText(QStringLiteral("reviewFilter"));
+        !key.isEmpty())
+        command += QStringLiteral(" (%1)").arg(key);
+    return tr("Keine Zeile dieses Projekts ist im Filter.\n„%1“ öffnen und „%2“ wählen, um wieder "
+              "alle Zeilen zu sehen.")
+        .arg(command,
+             KeyedActions::plain(QCoreApplication::translate("FilterDock", "Filter au&fheben")));
+}
+
 void EditorArea::filterLines()
 {
     if (!m_editor)
         return;
     if (!m_choice.isEmpty())
-        m_editor->showOnlyLines(m_choice.value(currentProject()));
+        m_editor->showOnlyLines(m_choice.value(currentProject()), noLineText());
     else if (m_kinds)
-        m_editor->showOnlyLines(OpenLines::linesOf(m_editor->currentProject(), m_kinds));
+        m_editor->showOnlyLines(OpenLines::linesOf(m_editor->currentProject(), m_kinds),
+                                noLineText());
     else
         m_editor->showAllLines();
 }

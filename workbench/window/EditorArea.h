@@ -124,6 +124,8 @@ private:
     void showChanges();
     void filterProjects();
     void filterLines();
+    /// For a table without a line in the filter.
+    [[nodiscard]] static QString noLineText();
     [[nodiscard]] bool goToProject(const QString &path, const QString &version);
 
     QVBoxLayout *const m_layout;

@@ -110,7 +110,7 @@ QString HistoryCommands::text(const Lines &lines)
 {
     return lines.lines.size() == 1
                ? tr("Zeile %1 in %2").arg(QString::number(lines.lines.first()), lines.project.path)
-               : tr("%n Zeile(n) in %1", nullptr, int(lines.lines.size())).arg(lines.project.path);
+               : tr("%Ln Zeile(n) in %1", nullptr, int(lines.lines.size())).arg(lines.project.path);
 }
 
 void HistoryCommands::giveReason()

@@ -5,6 +5,7 @@
 #include "Question.h"
 
 #include <core/files/DurableFile.h>
+#include <core/text/countText.h>
 #include <gui/application/PApplication.h>
 
 #include <QComboBox>
@@ -92,7 +93,8 @@ void HistoryDialog::load()
 {
     m_error.clear();
     if (m_history.read(m_file, &m_error) && m_history.damagedRows() > 0)
-        m_error = tr("Nicht lesbare Zeilen des Journals: %1").arg(m_history.damagedRows());
+        m_error =
+            tr("Nicht lesbare Zeilen des Journals: %1").arg(countText(m_history.damagedRows()));
     fill();
 }
 
@@ -126,7 +128,7 @@ QList<DecisionHistory::Decision> HistoryDialog::shown() const
 void HistoryDialog::fill()
 {
     m_model->setDecisions(shown());
-    const QString sum = tr("Entscheidungen: %1").arg(m_model->rowCount());
+    const QString sum = tr("Entscheidungen: %1").arg(countText(m_model->rowCount()));
     m_sum->setText(m_error.isEmpty() ? sum : sum + QStringLiteral(" · ") + m_error);
 }
 

@@ -4,6 +4,7 @@
 #include "LineStateFilter.h"
 #include "Question.h"
 
+#include <core/text/countText.h>
 #include <geomcore/binding/createVarsetFromVKTable.h>
 #include <geomcore/binding/VarsetParserC.h>
 #include <geomcore/expression/StatementParser.h>
@@ -148,15 +149,15 @@ QString LineCommands::goneText(const OpenLines::Found &found, bool forward) cons
     QStringList parts;
     const OpenLines::Shown shown = m_editor->shown();
     if (found.wrapped && shown.isFiltered)
-        parts += tr("Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.",
+        parts += tr("Hier im Filter ist alles durch, außerhalb ist/sind noch %Ln Zeile(n) offen.",
                     nullptr, walk().count() - walk().countIn(shown));
     if (found.wrapped)
         parts += forward ? tr("Am Ende angekommen, weiter von vorn")
                          : tr("Am Anfang angekommen, weiter von hinten");
     if (found.kind == OpenLines::Conflict)
         parts += tr("Konflikt %1 von %2")
-                     .arg(walk().placeOf(found.line, OpenLines::Conflict))
-                     .arg(walk().countOf(OpenLines::Conflict));
+                     .arg(countText(walk().placeOf(found.line, OpenLines::Conflict)),
+                          countText(walk().countOf(OpenLines::Conflict)));
     return parts.join(QStringLiteral(" · "));
 }
 
@@ -166,7 +167,7 @@ QString LineCommands::nothingText() const
         return m_kinds ? tr("Keine Zeile ist in einem der gewählten Zustände")
                        : tr("Keine Zeile braucht mehr eine Entscheidung");
     if (m_editor->shown().isFiltered)
-        return tr("Hier im Filter ist alles durch, außerhalb ist/sind noch %n Zeile(n) offen.",
+        return tr("Hier im Filter ist alles durch, außerhalb ist/sind noch %Ln Zeile(n) offen.",
                   nullptr, walk().count() - walk().countIn(m_editor->shown()));
     return tr("Keine der offenen Zeilen kann gezeigt werden; die Tabellen fehlen");
 }
@@ -202,7 +203,7 @@ bool LineCommands::jumpTo(const QString &text)
     const auto chosen = at < 0 ? 0 : (at + 1) % lines.size();
     m_editor->selectLine(lines.at(chosen));
     if (lines.size() > 1)
-        Q_EMIT noted(tr("Treffer %1 von %2").arg(chosen + 1).arg(lines.size()));
+        Q_EMIT noted(tr("Treffer %1 von %2").arg(countText(chosen + 1), countText(lines.size())));
     return true;
 }
 
@@ -245,9 +246,9 @@ QString LineCommands::scopeText(bool selection) const
     const CatalogMappingWidget *const editor = m_editor->editor();
     if (!editor->linesAreFiltered())
         return tr("Gemeint sind alle Zeilen des Projekts.") + u' ' + undo;
-    const QString shown = tr("Gemeint sind die %1 gezeigten von %2 Zeilen des Projekts.")
-                              .arg(QString::number(editor->shownLineCount()),
-                                   QString::number(m_editor->sourceTable().getLineCount()));
+    const QString shown = tr("Gemeint sind nur die gezeigten Zeilen des Projekts: %1 von %2.")
+                              .arg(countText(editor->shownLineCount()),
+                                   countText(m_editor->sourceTable().getLineCount()));
     QStringList filters = editor->columnFilters();
     if (m_kinds)
         filters.prepend(LineStateFilter::names(m_kinds));

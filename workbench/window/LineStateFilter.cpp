@@ -3,6 +3,8 @@
 #include "KeyedActions.h"
 #include "StatusArea.h"
 
+#include <core/text/countText.h>
+
 #include <QAction>
 #include <QCoreApplication>
 #include <QIcon>
@@ -130,8 +132,8 @@ void LineStateFilter::writeTexts()
 {
     for (qsizetype i = 0; i < m_actions.size(); ++i) {
         const QString name = tr(stateRows[size_t(i)].text);
-        m_actions[i]->setText(
-            m_isOpen ? QStringLiteral("%1: %2").arg(name, StatusArea::grouped(m_counts[i])) : name);
+        m_actions[i]->setText(m_isOpen ? QStringLiteral("%1: %2").arg(name, countText(m_counts[i]))
+                                       : name);
         // Among other commands a state alone says nothing.
         KeyedActions::setName(m_actions[i], QCoreApplication::translate("FilterDock", "Zustand") +
                                                 QStringLiteral(": ") + name);

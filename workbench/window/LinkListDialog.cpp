@@ -2,6 +2,7 @@
 
 #include "Question.h"
 
+#include <core/text/countText.h>
 #include <geomcore/linkdb/LinkDbDeletedRows.h>
 #include <geomcore/linkdb/PLinkDbQueryCacheC.h>
 #include <gui/application/PApplication.h>
@@ -119,8 +120,9 @@ void LinkListDialog::load()
     m_list->addTopLevelItems(items);
     for (int column = 0; column < m_list->columnCount(); ++column)
         m_list->resizeColumnToContents(column);
-    m_count->setText(isMore ? tr("Die ersten %1 Links; die Suche zeigt andere.").arg(MostRows)
-                            : tr("Links: %1").arg(items.size()));
+    m_count->setText(isMore
+                         ? tr("Die ersten %Ln Link(s); die Suche zeigt andere.", nullptr, MostRows)
+                         : tr("Links: %1").arg(countText(items.size())));
     updateButtons();
 }
 
@@ -179,7 +181,8 @@ void LinkListDialog::restoreDeleted()
         return Question::tell(this, tr("Es ist nichts gelöscht, was wiederhergestellt werden "
                                        "könnte."));
     Question question(this);
-    question.setText(tr("Zuletzt Gelöschtes wiederherstellen? Zeilen: %1").arg(rows.size()));
+    question.setText(
+        tr("Zuletzt Gelöschtes wiederherstellen? Zeilen: %1").arg(countText(rows.size())));
     question.setDetails(
         tr("%1 hat sie am %2 aus %3 gelöscht.")
             .arg(rows.first().user,

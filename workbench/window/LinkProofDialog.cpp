@@ -1,5 +1,6 @@
 #include "LinkProofDialog.h"
 
+#include <core/text/countText.h>
 #include <gui/application/PApplication.h>
 
 #include <QDialogButtonBox>
@@ -33,10 +34,9 @@ LinkProofDialog::LinkProofDialog(const LinkProof &proof, QWidget *parent)
     m_list->setAccessibleName(windowTitle());
     m_list->setUniformRowHeights(true);
     m_list->setHeaderLabels({tr("Nummer"), tr("Zeile"), tr("Befund")});
-    auto *sum =
-        new QLabel(tr("Nummern an Projekten dieses Mappings: %1, an anderen Projekten: %2")
-                       .arg(QString::number(proof.numbers()), QString::number(proof.elsewhere())),
-                   this);
+    auto *sum = new QLabel(tr("Nummern an Projekten dieses Mappings: %1, an anderen Projekten: %2")
+                               .arg(countText(proof.numbers()), countText(proof.elsewhere())),
+                           this);
     sum->setObjectName("sum");
     auto *errors = new QLabel(tr("Nicht verglichen, da nicht lesbar: %1")
                                   .arg(proof.errors().mid(0, 3).join(QStringLiteral("; "))),
@@ -70,7 +70,8 @@ LinkProofDialog::~LinkProofDialog()
 
 QTreeWidgetItem *LinkProofDialog::addKind(const QString &title, qsizetype count)
 {
-    auto *item = new QTreeWidgetItem(m_list, {QStringLiteral("%1: %2").arg(title).arg(count)});
+    auto *item =
+        new QTreeWidgetItem(m_list, {QStringLiteral("%1: %2").arg(title, countText(count))});
     item->setFirstColumnSpanned(true);
     item->setExpanded(count > 0);
     return item;
@@ -110,7 +111,7 @@ void LinkProofDialog::fill(const LinkProof &proof)
     kind = addKind(tr("Offene Zeilen mit Nummern"), proof.open().size());
     for (const LinkProof::Open &each : proof.open())
         add(kind, each.numbers.join(QStringLiteral(", ")), each.place,
-            tr("Nummern: %1").arg(each.numbers.size()));
+            tr("Nummern: %1").arg(countText(each.numbers.size())));
     for (int column = 0; column < m_list->columnCount(); ++column)
         m_list->resizeColumnToContents(column);
 }

@@ -19,7 +19,6 @@
 #include "PartView.h"
 #include "PluginActions.h"
 #include "PrintCommands.h"
-#include "QtTexts.h"
 #include "Question.h"
 #include "RangeCommands.h"
 #include "ReleaseCommands.h"
@@ -29,6 +28,7 @@
 #include "ShareCommands.h"
 #include "StatusArea.h"
 #include "StatusProgress.h"
+#include "useLanguage.h"
 #include "WelcomePage.h"
 #include "WindowMessageSink.h"
 #include "WorkbenchActions.h"
@@ -370,8 +370,7 @@ void MainWindow::applySettings()
     if (values.language == m_language)
         return;
     m_language = values.language;
-    QtTexts::setLanguage(m_language);
-    PTranslateManager::instance().setLanguage(m_language);
+    useLanguage(m_language);
     m_release->setLanguage(m_language);
     // The editor's widgets take their texts when they are made.
     m_editor->rebuild();

@@ -4,6 +4,7 @@
 
 #include <core/message/PMessage.h>
 #include <core/progress/PProgress.h>
+#include <core/text/countText.h>
 #include <gui/progress/DefaultObserverDelegate.h>
 #include <release/assign/ReleaseAssigner.h>
 #include <release/assign/ReleaseMappingBuilder.h>
@@ -52,11 +53,11 @@ bool MappingMaker::findTargets(const Wish &wish)
         return false;
     m_release = builder.release();
     const Builder::Counts &counts = builder.counts();
-    m_summary = tr("%1 Projekte: %2 am selben Ort, %3 an anderem, %4 aufgeteilt, %5 ohne Ziel, %6 "
-                   "unlesbar")
-                    .arg(QString::number(m_release.countMappings()), QString::number(counts.same),
-                         QString::number(counts.moved), QString::number(counts.several),
-                         QString::number(counts.gone), QString::number(counts.unreadable));
+    m_summary = tr("%Ln Projekt(e): %1 am selben Ort, %2 an anderem, %3 aufgeteilt, %4 ohne Ziel, "
+                   "%5 unlesbar",
+                   nullptr, m_release.countMappings())
+                    .arg(countText(counts.same), countText(counts.moved), countText(counts.several),
+                         countText(counts.gone), countText(counts.unreadable));
     PMessage::LogToWindow(m_summary);
     return true;
 }
@@ -90,16 +91,15 @@ void MappingMaker::assignLines(const QString &sourceRoot, const QString &targetR
     progress.done();
     display.deactivate();
     report(assigner.errors());
-    m_summary =
-        reached.projects < reached.totalProjects
-            ? tr("Abgebrochen: %1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu "
-                 "prüfen, %6 ohne Ziel")
-            : tr("%1 von %2 Projekten mit %3 Zeilen, davon %4 zugeordnet, %5 zu prüfen, %6 "
-                 "ohne Ziel");
     const LineCounts &counts = reached.counts;
-    m_summary =
-        m_summary.arg(QString::number(reached.projects), QString::number(reached.totalProjects),
-                      QString::number(counts.lines()), QString::number(counts.assigned()),
-                      QString::number(counts.unverified()), QString::number(counts.notFound()));
+    const QString projects = tr("%1 von %Ln Projekt(en)", nullptr, reached.totalProjects)
+                                 .arg(countText(reached.projects));
+    m_summary = tr("%1 mit %Ln Zeile(n)", nullptr, counts.lines()).arg(projects) +
+                QStringLiteral(", ") +
+                tr("davon %1 zugeordnet, %2 zu prüfen, %3 ohne Ziel")
+                    .arg(countText(counts.assigned()), countText(counts.unverified()),
+                         countText(counts.notFound()));
+    if (reached.projects < reached.totalProjects)
+        m_summary = tr("Abgebrochen: %1").arg(m_summary);
     PMessage::LogToWindow(m_summary);
 }

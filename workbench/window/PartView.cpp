@@ -1,5 +1,6 @@
 #include "PartView.h"
 
+#include <core/text/countText.h>
 #include <geomcore/csv/TableDescriptor.h>
 #include <geomcore/project/CipVersionMgmtC.h>
 #include <geomcore/project/PrjClass.h>
@@ -88,7 +89,7 @@ void PartView::addHead(const QString &file)
         addRow(rows, "designation", tr("Bezeichnung:"), table.designation);
         addRow(rows, "projectVersion", tr("Projektversion:"), version(project.lexem("DATE")));
         addRow(rows, "tableVersion", tr("Tabellenversion:"), version(table.finalDate));
-        addRow(rows, "lines", tr("Zeilen:"), QString::number(m_table.getLineCount()));
+        addRow(rows, "lines", tr("Zeilen:"), countText(m_table.getLineCount()));
     } else {
         addRow(rows, "projectVersion", tr("Projektversion:"), version(project.lexem("DATE")));
     }

@@ -94,7 +94,7 @@ void RangeCommands::lookForGaps()
     Question question(m_window);
     question.setWarning();
     question.setText(
-        tr("%n Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.",
+        tr("%Ln Zeile(n) sind bestätigt, obwohl Werte ihres Bereichs keine neue Zeile haben.",
            nullptr, number));
     question.setDetails(gaps.join(u'\n'));
     question.addAnswer(Question::Cancel, tr("&Zurücknehmen"));

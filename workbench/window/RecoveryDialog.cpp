@@ -2,6 +2,7 @@
 
 #include "Question.h"
 
+#include <core/text/countText.h>
 #include <gui/application/PApplication.h>
 #include <workbench/session/RecoveryOffer.h>
 
@@ -36,6 +37,14 @@ void addLabel(QGridLayout *grid, int row, int column, const QString &text, bool 
     grid->addWidget(label, row, column);
 }
 
+QString workText(const RecoveryOffer &offer)
+{
+    const QString steps = RecoveryDialog::tr("%Ln Schritt(e)", nullptr, offer.steps);
+    const QString lines =
+        RecoveryDialog::tr("%1 mit %Ln Zeile(n)", nullptr, offer.changedLines).arg(steps);
+    return RecoveryDialog::tr("%1 in %Ln Projekt(en)", nullptr, offer.changedProjects).arg(lines);
+}
+
 } // namespace
 
 RecoveryDialog::RecoveryDialog(const QString &file, const RecoveryOffer &offer, QWidget *parent)
@@ -46,11 +55,10 @@ RecoveryDialog::RecoveryDialog(const QString &file, const RecoveryOffer &offer, 
     auto *layout = new QVBoxLayout(this);
     layout->setSpacing(12);
     auto *intro = new QLabel(
-        tr("Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2 Schritte mit %3 Zeilen in %4 "
-           "Projekten, zuletzt „%5“. Sie stammt von %6.")
-            .arg(QFileInfo(file).fileName(), QString::number(offer.steps),
-                 QString::number(offer.changedLines), QString::number(offer.changedProjects),
-                 offer.lastStep, ownerText(offer.owner)),
+        tr("Für %1 gibt es Arbeit, die nicht gespeichert wurde: %2, zuletzt „%3“. Sie stammt von "
+           "%4.")
+            .arg(QFileInfo(file).fileName(), workText(offer), offer.lastStep,
+                 ownerText(offer.owner)),
         this);
     intro->setObjectName("intro");
     intro->setWordWrap(true);
@@ -73,7 +81,7 @@ RecoveryDialog::RecoveryDialog(const QString &file, const RecoveryOffer &offer, 
         addLabel(grid, row, 2, right, left != right, name + "Recovered");
     };
     const auto addCount = [&](const QString &what, int left, int right, const QString &name) {
-        add(what, QString::number(left), QString::number(right), name);
+        add(what, countText(left), countText(right), name);
     };
     add(tr("Stand"), timeText(saved.time), timeText(found.time), "time");
     addCount(tr("Projekte"), saved.projects, found.projects, "projects");
@@ -119,7 +127,7 @@ void RecoveryDialog::addButtons(const RecoveryOffer &offer)
     QPushButton *recover = add(tr("&Wiederherstellen"), QDialogButtonBox::AcceptRole, "recover",
                                Recovery::UseRecovered);
     if (offer.further.available)
-        add(tr("Mit &späteren Änderungen (%1)").arg(offer.laterChanges),
+        add(tr("Mit &späteren Änderungen (%1)").arg(countText(offer.laterChanges)),
             QDialogButtonBox::AcceptRole, "useFurther", Recovery::UseFurther);
     QPushButton *saved = add(tr("&Gespeicherten Stand öffnen"), QDialogButtonBox::DestructiveRole,
                              "useSaved", Recovery::UseSaved);

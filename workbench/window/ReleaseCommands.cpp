@@ -6,6 +6,7 @@
 #include <core/files/DurableFile.h>
 #include <core/message/PMessage.h>
 #include <core/progress/PProgress.h>
+#include <core/text/countText.h>
 #include <gui/print/PdfPages.h>
 #include <gui/progress/DefaultObserverDelegate.h>
 #include <release/export/MappingTable.h>
@@ -118,11 +119,12 @@ bool ReleaseCommands::importFolder(const QString &from, const QString &into)
 void ReleaseCommands::tellImport(FolderImport::Outcome outcome, const FolderImport &import)
 {
     const FolderImport::Counts &counts = import.counts();
-    const QString summary =
-        tr("%1 Tabellen mit %2 Zeilen: %3 neu, %4 geändert, %5 unverändert, %6 nicht importiert")
-            .arg(QString::number(counts.tables()), QString::number(counts.lines),
-                 QString::number(counts.created), QString::number(counts.changed),
-                 QString::number(counts.unchanged), QString::number(counts.failed));
+    const QString tables = tr("%Ln Tabelle(n)", nullptr, counts.tables());
+    const QString summary = tr("%1 mit %Ln Zeile(n)", nullptr, int(counts.lines)).arg(tables) +
+                            QStringLiteral(": ") +
+                            tr("%1 neu, %2 geändert, %3 unverändert, %4 nicht importiert")
+                                .arg(countText(counts.created), countText(counts.changed),
+                                     countText(counts.unchanged), countText(counts.failed));
     for (const QString &project : import.leftOvers())
         PMessage::LogToWindow(
             tr("%1 hat keine CSV-Datei mehr und bleibt, wie es ist").arg(project));
@@ -204,8 +206,8 @@ bool ReleaseCommands::exportLines(const QString &file)
     tellErrors(errors);
     if (!finish(output, VelkRelease::mappingTable(release, &*reasons)))
         return false;
-    Q_EMIT noted(tr("%1 Zeilen nach %2 exportiert")
-                     .arg(QString::number(m_document->counts().lines()), file));
+    Q_EMIT noted(
+        tr("%Ln Zeile(n) nach %1 exportiert", nullptr, m_document->counts().lines()).arg(file));
     return true;
 }
 

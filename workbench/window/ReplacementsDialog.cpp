@@ -156,8 +156,8 @@ void ReplacementsDialog::showEvidence()
         evidence =
             VelkRelease::replacementEvidence(m_sourceRoot, m_release, replacement, cancelled);
     });
-    QStringList rows{tr("%n Zeile(n) dafür", nullptr, evidence->supports) + QStringLiteral(", ") +
-                     tr("%n Zeile(n) dagegen", nullptr, evidence->counterExamples)};
+    QStringList rows{tr("%Ln Zeile(n) dafür", nullptr, evidence->supports) + QStringLiteral(", ") +
+                     tr("%Ln Zeile(n) dagegen", nullptr, evidence->counterExamples)};
     for (std::size_t i = 0; i < std::min(MaxShown, evidence->examples.size()); ++i) {
         const auto &example = evidence->examples[i];
         rows +=

@@ -5,6 +5,7 @@
 #include "Question.h"
 #include "ReplacementsDialog.h"
 
+#include <core/text/countText.h>
 #include <mapping/view/CatalogMappingWidget.h>
 #include <release/decide/LineEdits.h>
 #include <workbench/review/DifferencePanel.h>
@@ -148,7 +149,7 @@ void ReviewCommands::go(bool forward)
         const auto size = std::ptrdiff_t(open.size());
         next += (index + (forward ? 1 : size - 1)) % size;
         if ((next <= known) == forward)
-            Q_EMIT noted(tr("Von vorn: %n Zeile(n) offen", nullptr, int(open.size())));
+            Q_EMIT noted(tr("Von vorn: %Ln Zeile(n) offen", nullptr, int(open.size())));
     } else if (from.isValid() && !m_leastSureFirst) {
         // A line that was just decided: the one behind it.
         const auto behind = std::upper_bound(open.begin(), open.end(), at);
@@ -222,13 +223,13 @@ bool ReviewCommands::ask(const std::vector<Place> &places, const QString &detail
     for (const Place &place : places)
         projects.insert(place.project);
     Question question(m_window);
-    question.setText(tr("%n Zeile(n)", nullptr, int(places.size())) + u' ' +
-                     tr("in %n Projekt(en) bestätigen?", nullptr, int(projects.size())));
+    question.setText(tr("%Ln Zeile(n)", nullptr, int(places.size())) + u' ' +
+                     tr("in %Ln Projekt(en) bestätigen?", nullptr, int(projects.size())));
     QStringList texts;
     if (!details.isEmpty())
         texts += details;
     if (const int doubtful = doubtfulIn(places); doubtful > 0)
-        texts += tr("%n davon ist/sind unsicher.", nullptr, doubtful);
+        texts += tr("%Ln davon ist/sind unsicher.", nullptr, doubtful);
     texts += tr("Der Schritt kann zurückgenommen werden.");
     question.setDetails(texts.join(u'\n'));
     question.addAnswer(Question::Accept, tr("&Bestätigen"));
@@ -245,8 +246,8 @@ void ReviewCommands::confirm(const std::vector<Place> &places, const QString &de
         return;
     const int count = int(places.size());
     const QString decided = gone.size() == count
-                                ? tr("%n Zeile(n) als ausgelaufen bestätigt", nullptr, count)
-                                : tr("%n Zeile(n) bestätigt", nullptr, count);
+                                ? tr("%Ln Zeile(n) als ausgelaufen bestätigt", nullptr, count)
+                                : tr("%Ln Zeile(n) bestätigt", nullptr, count);
     const QString text =
         (stepText.isEmpty() ? decided + QStringLiteral(": ") + details : stepText) +
         (gone.isEmpty() ? QString() : QStringLiteral(" (") + m_reason + u')');
@@ -337,7 +338,8 @@ void ReviewCommands::editReplacements()
     if (dialog.exec() != QDialog::Accepted ||
         dialog.replacements() == m_document->release().getReplacements())
         return;
-    const QString text = tr("Ersetzungen vereinbart: %1").arg(dialog.replacements().size());
+    const QString text =
+        tr("Ersetzungen vereinbart: %1").arg(countText(dialog.replacements().size()));
     m_document->setReplacements(dialog.replacements(), text);
     Q_EMIT done(text);
 }

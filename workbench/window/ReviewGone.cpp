@@ -38,10 +38,10 @@ bool ReviewCommands::askReason(const std::vector<Place> &places, const QString &
     std::set<int> projects;
     for (const Place &place : places)
         projects.insert(place.project);
-    QString text = tr("%n Zeile(n)", nullptr, int(places.size())) + u' ' +
-                   tr("in %n Projekt(en)", nullptr, int(projects.size()));
+    QString text = tr("%Ln Zeile(n)", nullptr, int(places.size())) + u' ' +
+                   tr("in %Ln Projekt(en)", nullptr, int(projects.size()));
     if (const int doubtful = doubtfulIn(places); doubtful > 0)
-        text += QStringLiteral(", ") + tr("%n davon ist/sind unsicher.", nullptr, doubtful);
+        text += QStringLiteral(", ") + tr("%Ln davon ist/sind unsicher.", nullptr, doubtful);
     if (!details.isEmpty())
         text += QStringLiteral(": ") + details;
     ReasonDialog dialog({text}, m_reason, m_window);

@@ -6,6 +6,7 @@
 #include <core/files/EditLock.h>
 #include <core/json/PJsonValue.h>
 #include <core/message/PMessage.h>
+#include <core/text/countText.h>
 #include <workbench/review/PatternDock.h>
 #include <workbench/review/PatternText.h>
 #include <workbench/session/MappingDocument.h>
@@ -52,10 +53,11 @@ void ReviewCommands::startSample()
     dialog.setObjectName("SampleDialog");
     dialog.setWindowTitle(tr("Stichprobe"));
     dialog.setLabelText(
-        tr("So viele von %1 Zeilen werden gezogen und einzeln beurteilt. %2 richtige sagen mit "
-           "95 % Sicherheit, dass weniger als 5 % falsch sind, %3 richtige weniger als 1 %.")
-            .arg(QString::number(set.size()), QString::number(VelkRelease::linesForBound(0.05)),
-                 QString::number(VelkRelease::linesForBound(0.01))));
+        tr("So viele von %Ln Zeile(n) werden gezogen und einzeln beurteilt. %1 richtige sagen mit "
+           "95 % Sicherheit, dass weniger als 5 % falsch sind, %2 richtige weniger als 1 %.",
+           nullptr, int(set.size()))
+            .arg(countText(VelkRelease::linesForBound(0.05)),
+                 countText(VelkRelease::linesForBound(0.01))));
     wrapPrompt(&dialog);
     dialog.setInputMode(QInputDialog::IntInput);
     dialog.setIntRange(1, int(set.size()));
@@ -78,9 +80,9 @@ void ReviewCommands::goToSample()
     if (m_sample->state() != SampleAcceptance::State::Running)
         return endSample();
     goTo(m_sample->current());
-    Q_EMIT noted(tr("Stichprobe, Zeile %1 von %2: + richtig, − falsch")
-                     .arg(QString::number(m_sample->judged() + 1),
-                          QString::number(m_sample->drawn().size())));
+    Q_EMIT noted(
+        tr("Stichprobe, Zeile %1 von %2: + richtig, − falsch")
+            .arg(countText(m_sample->judged() + 1), countText(qint64(m_sample->drawn().size()))));
 }
 
 void ReviewCommands::judge(bool right)
@@ -129,7 +131,8 @@ void ReviewCommands::endSample()
         return Q_EMIT noted(tr("Die Zeilen der Stichprobe sind alle schon entschieden"));
     }
     noteSample();
-    const QString judged = tr("%1 von %2 richtig").arg(m_sample->right()).arg(m_sample->judged());
+    const QString judged =
+        tr("%1 von %2 richtig").arg(countText(m_sample->right()), countText(m_sample->judged()));
     const std::optional<double> bound = m_sample->bound();
     if (!bound) {
         PMessage::Show(
@@ -174,7 +177,7 @@ void ReviewCommands::split()
         const QString name =
             onePattern ? m_work->projectAt(key).path : PatternText::of(m_work->patterns(), key);
         const bool holdsWrong = key == (onePattern ? wrong.project : patternOf(wrong));
-        names += name + QStringLiteral(" (") + tr("%n Zeile(n)", nullptr, int(places.size())) +
+        names += name + QStringLiteral(" (") + tr("%Ln Zeile(n)", nullptr, int(places.size())) +
                  (holdsWrong ? QStringLiteral(", ") + tr("dort war die falsche") : QString()) +
                  u')';
         keys += key;

@@ -2,8 +2,6 @@
 
 #include "StatusProgress.h"
 
-#include <workbench/review/groupedNumber.h>
-
 #include <QEvent>
 #include <QLabel>
 
@@ -36,11 +34,6 @@ StatusArea::StatusArea(QWidget *parent)
     writeNote();
 }
 
-QString StatusArea::grouped(int number)
-{
-    return groupedNumber(number);
-}
-
 void StatusArea::showNote(const QString &text, bool undoable)
 {
     clearMessage();
@@ -67,6 +60,13 @@ void StatusArea::writeNote()
     m_note->setToolTip(m_noteText);
 }
 
+QString StatusArea::linesText(int lines, int projects)
+{
+    //: "12 lines in 3 projects"
+    return tr("%1 in %Ln Projekt(en)", nullptr, projects)
+        .arg(tr("<a href=\"next\">%Ln Zeile(n)</a>", nullptr, lines));
+}
+
 void StatusArea::setOpenLines(int lines, int projects)
 {
     m_isFiltered = false;
@@ -76,9 +76,7 @@ void StatusArea::setOpenLines(int lines, int projects)
     if (lines == 0) {
         m_open->setText(tr("Alles entschieden"));
     } else {
-        //: Number of lines, number of projects.
-        m_open->setText(tr("Offen: <a href=\"next\">%1 Zeilen</a> in %2 Projekten")
-                            .arg(grouped(lines), grouped(projects)));
+        m_open->setText(tr("Offen: %1").arg(linesText(lines, projects)));
     }
     m_open->setToolTip(tr("Zeilen, die noch eine Entscheidung brauchen"));
 }
@@ -92,9 +90,7 @@ void StatusArea::setFilteredLines(int lines, int projects)
     if (lines == 0) {
         m_open->setText(tr("Filter: keine Zeile"));
     } else {
-        //: Number of lines, number of projects.
-        m_open->setText(tr("Filter: <a href=\"next\">%1 Zeilen</a> in %2 Projekten")
-                            .arg(grouped(lines), grouped(projects)));
+        m_open->setText(tr("Filter: %1").arg(linesText(lines, projects)));
     }
     m_open->setToolTip(tr("Zeilen, die der Filter über alle Zeilen zeigt"));
 }

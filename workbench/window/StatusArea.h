@@ -26,8 +26,6 @@ public:
     /// Empty: the file can be changed.
     void setReadOnly(const QString &reason);
     [[nodiscard]] StatusProgress *progress() const { return m_progress; }
-    /// A number with its digits in groups, parted by blanks that do not break.
-    [[nodiscard]] static QString grouped(int number);
 
 Q_SIGNALS:
     void undoRequested();
@@ -40,6 +38,8 @@ protected:
 private:
     void retranslate();
     void writeNote();
+    /// "<a>3 lines</a> in 2 projects"
+    [[nodiscard]] static QString linesText(int lines, int projects);
 
     QLabel *const m_note;
     StatusProgress *const m_progress;

@@ -1,5 +1,6 @@
 #include "StatusProgress.h"
 
+#include <core/text/countText.h>
 #include <gui/progress/ProgressText.h>
 
 #include <QApplication>
@@ -95,7 +96,7 @@ void StatusProgress::countProblem()
 void StatusProgress::showProblems()
 {
     m_problems->setVisible(m_problemCount > 0);
-    m_problems->setText(tr("Fehler und Warnungen: %1").arg(m_problemCount));
+    m_problems->setText(tr("Fehler und Warnungen: %1").arg(countText(m_problemCount)));
 }
 
 bool StatusProgress::owns(const QWidget *widget) const

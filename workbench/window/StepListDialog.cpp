@@ -128,10 +128,10 @@ void StepListDialog::look()
         m_planTo = m_document->planUndoTo(step);
     const int others = int(m_plan.steps.size()) - 1;
     if (step < 0 || isApplied)
-        m_move->setText(others > 0 ? tr("Mit %n abhängigen &zurücknehmen", nullptr, others)
+        m_move->setText(others > 0 ? tr("Mit %Ln abhängigen &zurücknehmen", nullptr, others)
                                    : tr("Nur diesen &zurücknehmen"));
     else
-        m_move->setText(others > 0 ? tr("Mit %n früheren &wieder ausführen", nullptr, others)
+        m_move->setText(others > 0 ? tr("Mit %Ln früheren &wieder ausführen", nullptr, others)
                                    : tr("&Wieder ausführen"));
     m_move->setEnabled(m_plan.fits);
     m_undoTo->setEnabled(m_planTo.fits);
@@ -167,7 +167,7 @@ QString StepListDialog::namesOf(const QList<int> &steps) const
         names += QStringLiteral("„%1“").arg(m_document->steps().at(step).text);
     const int more = int(steps.size()) - MaxNames;
     if (more > 0)
-        names += tr("und %n weitere", nullptr, more);
+        names += tr("und %Ln weitere", nullptr, more);
     return names.join(QStringLiteral(", "));
 }
 

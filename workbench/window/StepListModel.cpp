@@ -1,7 +1,6 @@
 #include "StepListModel.h"
 
-#include "StatusArea.h"
-
+#include <core/text/countText.h>
 #include <workbench/session/MappingDocument.h>
 #include <workbench/session/UndoHistory.h>
 
@@ -74,9 +73,9 @@ QString StepListModel::linesText(const MappingDocument &document, int step)
     qsizetype count = 0;
     for (const std::set<int> &lines : std::as_const(projects))
         count += qsizetype(lines.size());
-    return count == 0 ? QString()
-                      : tr("%1 in %n Projekt(en)", nullptr, int(projects.size()))
-                            .arg(StatusArea::grouped(int(count)));
+    return count == 0
+               ? QString()
+               : tr("%1 in %Ln Projekt(en)", nullptr, int(projects.size())).arg(countText(count));
 }
 
 QString StepListModel::text(int step, int column) const

@@ -3,9 +3,9 @@
 #include "DocumentDesk.h"
 #include "EditorArea.h"
 #include "MainWindow.h"
-#include "QtTexts.h"
 #include "Screenshot.h"
 #include "ScriptDesk.h"
+#include "useLanguage.h"
 #include "WorkbenchSettings.h"
 
 #include <core/config/PConfigService.h>
@@ -36,10 +36,9 @@ void prepareWorkbench(WorkbenchSettings &settings, const SettingsPlace &place,
     if (!QDir::searchPaths("bitmaps").contains(":/hostbitmaps"))
         QDir::addSearchPath("bitmaps", ":/hostbitmaps");
     QApplication::setWindowIcon(QIcon(":/workbench/velkworkbench_64.png"));
-    QtTexts::setLanguage(values.language);
     PTranslateManager::registerModule("velkworkbench");
     PTranslateManager::registerLibraries();
-    PTranslateManager::instance().setLanguage(values.language);
+    useLanguage(values.language);
 }
 
 namespace {

@@ -2,6 +2,7 @@
 
 #include "searchText.h"
 
+#include <core/text/countText.h>
 #include <geomcore/index/IndexTreeC.h>
 
 #include <QIcon>
@@ -32,7 +33,8 @@ QString sizeOf(const CatalogSearchHit &hit)
 {
     if (hit.lineCount < 0)
         return {};
-    return hit.lineCount == 1 ? searchText("1 Zeile") : searchText("%1 Zeilen").arg(hit.lineCount);
+    return hit.lineCount == 1 ? searchText("1 Zeile")
+                              : searchText("%1 Zeilen").arg(countText(hit.lineCount));
 }
 
 QStringList linesOf(const CatalogSearchHit &hit)
@@ -42,7 +44,7 @@ QStringList linesOf(const CatalogSearchHit &hit)
         texts.append(QStringLiteral("%1: ").arg(line.lineNumber) + plain(line.text));
     const qsizetype more = hit.matchingLines - hit.lines.size();
     if (!texts.isEmpty() && more > 0)
-        texts.append(searchText("und %1 weitere").arg(more));
+        texts.append(searchText("und %1 weitere").arg(countText(more)));
     return texts;
 }
 

@@ -6,6 +6,8 @@
 #include "TileItemView.h"
 #include "TopSearchWidget.h"
 
+#include <core/text/countText.h>
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
@@ -153,13 +155,13 @@ void SearchWidgetPrivate::onFinished(int token, const CatalogSearchResult &resul
 void SearchWidgetPrivate::showState(const CatalogSearchResult &result)
 {
     const qsizetype hits = result.hits.size();
-    const QString found =
-        hits == 1 ? searchText("1 Projekt gefunden") : searchText("%1 Projekte gefunden").arg(hits);
+    const QString found = hits == 1 ? searchText("1 Projekt gefunden")
+                                    : searchText("%1 Projekte gefunden").arg(countText(hits));
     switch (result.state) {
     case CatalogSearchState::Found:
         return showText(result.hasMore ? searchText("Die ersten %1 Projekte; es gibt mehr. Suchen "
                                                     "Sie genauer.")
-                                             .arg(hits)
+                                             .arg(countText(hits))
                                        : found,
                         false);
     case CatalogSearchState::NothingFound:
@@ -208,10 +210,10 @@ void SearchWidgetPrivate::onProgress(int done, int total)
     m_progress->setRange(0, total);
     m_progress->setValue(done);
     const QString text = searchText("%1 von %2 Projekten");
-    m_progress->setFormat(text.arg(done).arg(total));
+    m_progress->setFormat(text.arg(countText(done), countText(total)));
     const QFontMetrics font = m_progress->fontMetrics();
-    m_progress->setMinimumWidth(font.horizontalAdvance(text.arg(total).arg(total)) +
-                                2 * font.height());
+    m_progress->setMinimumWidth(
+        font.horizontalAdvance(text.arg(countText(total), countText(total))) + 2 * font.height());
 }
 
 void SearchWidgetPrivate::showOutdated(const QString &problem)

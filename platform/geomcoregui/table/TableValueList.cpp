@@ -4,6 +4,8 @@
 #include "TableBar.h"
 #include "VkTableModel.h"
 
+#include <core/text/countText.h>
+
 #include <QCheckBox>
 #include <QListWidget>
 #include <QVBoxLayout>
@@ -68,14 +70,14 @@ void TableValueList::fill(VkTableModel *model, const VKTab::VarId &variable)
     for (const VkTableModel::ValueCount &value : std::as_const(values)) {
         const QString text = value.text.isEmpty() ? tableText("(leer)") : value.text;
         auto *const item = new QListWidgetItem(
-            QStringLiteral("%1  (%2)").arg(text, QString::number(value.count)), m_list);
+            QStringLiteral("%1  (%2)").arg(text, countText(value.count)), m_list);
         item->setData(valueRole, value.text);
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         item->setCheckState(filtered && value.passes ? Qt::Checked : Qt::Unchecked);
     }
     if (left > 0) {
         auto *const rest =
-            new QListWidgetItem(tableText("und %1 seltenere Werte").arg(left), m_list);
+            new QListWidgetItem(tableText("und %1 seltenere Werte").arg(countText(left)), m_list);
         rest->setFlags(Qt::NoItemFlags);
     }
 }

@@ -1,6 +1,7 @@
 #include "TableCellText.h"
 #include "VkTableModelPrivate.h"
 
+#include <core/text/countText.h>
 #include <core/text/PString.h>
 #include <geomcore/table/LineView.h>
 #include <geomcore/table/TableData.h>
@@ -167,7 +168,7 @@ QString VkTableModelPrivate::valueToolTip(int row, const VKTab::Var &var) const
     if (range->count() > most)
         values.append(QStringLiteral("…"));
     return translated("Wertebereich (%1 Werte): %2")
-        .arg(QString::number(range->count()), values.join(QStringLiteral("; ")));
+        .arg(countText(range->count()), values.join(QStringLiteral("; ")));
 }
 
 const VKTab::StatusValue *VkTableModelPrivate::state(int row, const TableColumn &column) const

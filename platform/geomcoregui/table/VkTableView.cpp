@@ -1,5 +1,6 @@
 #include "VkTableView.h"
 
+#include "EmptyTableLabel.h"
 #include "TableBar.h"
 #include "TableColumnOrder.h"
 #include "TableFilterBar.h"
@@ -164,6 +165,11 @@ bool VkTableView::print(QPagedPaintDevice &device, const PageHead &head) const
                        .more = tableText("und %1 weitere Zeilen")},
                       head)
         .print();
+}
+
+void VkTableView::setEmptyText(const QString &text)
+{
+    d->empty->tell(text);
 }
 
 void VkTableView::showFindBar()

@@ -98,6 +98,9 @@ public:
     /// Quick filters and the order of rows are kept in the application's configuration, by table,
     /// and come back with it. Not at first.
     void setFiltersKept(bool kept);
+    /// Said in the place of the lines while a filter of the table leaves none of them; nothing at
+    /// first.
+    void setEmptyText(const QString &text);
     /// Columns with icons and the first one of the values stay in sight while the others scroll,
     /// unless the user froze others of this table. Not at first.
     void setFreezesFirst(bool freezes);

@@ -1,5 +1,6 @@
 #include "VkTableViewPrivate.h"
 
+#include "EmptyTableLabel.h"
 #include "TableBar.h"
 #include "TableCellText.h"
 #include "TableClipboard.h"
@@ -12,6 +13,7 @@
 #include "TableSelectionLink.h"
 #include "VkTableModel.h"
 
+#include <core/text/countText.h>
 #include <geomcore/table/TableData.h>
 #include <gui/application/PApplication.h>
 #include <gui/application/PCommandKeys.h>
@@ -63,6 +65,7 @@ VkTableViewPrivate::VkTableViewPrivate(VkTableView *view)
     , model(new VkTableModel(this))
     , filterBar(new TableFilterBar(grid, model, view))
     , findBar(new TableFindBar(grid, model, view))
+    , empty(new EmptyTableLabel(grid, model))
     , hits(new QLabel(view))
 {
     title->setObjectName(QStringLiteral("tableTitle"));
@@ -224,10 +227,10 @@ void VkTableViewPrivate::showHits()
     if (!model->hasQuickFilter())
         return;
     const int all = model->getTable().getLineMapping().count();
-    hits->setText(model->rowCount() == 0
-                      ? tableText("Keine Zeile passt zu den Spaltenfiltern")
-                      : tableText("%1 von %2 Zeilen")
-                            .arg(QString::number(model->rowCount()), QString::number(all)));
+    hits->setText(
+        model->rowCount() == 0
+            ? tableText("Keine Zeile passt zu den Spaltenfiltern")
+            : tableText("%1 von %2 Zeilen").arg(countText(model->rowCount()), countText(all)));
     hits->setToolTip(hits->text());
 }
 

@@ -11,6 +11,7 @@ class QKeyEvent;
 class QLabel;
 QT_END_NAMESPACE
 
+class EmptyTableLabel;
 class TableColumnOrder;
 class TableColumnWidths;
 class TableFilterBar;
@@ -42,6 +43,7 @@ public:
     VkTableModel *model;
     TableFilterBar *filterBar;
     TableFindBar *findBar;
+    EmptyTableLabel *empty;
     TableSelectionLink *selection = nullptr;
     TableColumnWidths *widths = nullptr;
     TableColumnOrder *columnOrder = nullptr;

@@ -1,5 +1,6 @@
 #include "ProgressText.h"
 
+#include <core/text/countText.h>
 #include <core/text/PString.h>
 
 #include <QStringList>
@@ -7,14 +8,6 @@
 namespace {
 
 constexpr QChar NoBreak(0xa0);
-
-QString grouped(qint64 number)
-{
-    QString digits = QString::number(number);
-    for (qsizetype i = digits.size() - 3; i > 0; i -= 3)
-        digits.insert(i, NoBreak);
-    return digits;
-}
 
 QString twoDigits(qint64 number)
 {
@@ -31,8 +24,8 @@ QString rateText(double rate)
 {
     constexpr double Slow = 10;
     if (rate < Slow)
-        return QString::number(rate, 'f', 1) + QStringLiteral("/s");
-    return grouped(qRound64(rate)) + QStringLiteral("/s");
+        return QLocale().toString(rate, 'f', 1) + QStringLiteral("/s");
+    return countText(qRound64(rate)) + QStringLiteral("/s");
 }
 
 } // namespace
@@ -46,7 +39,7 @@ QString progressTime(qint64 milliseconds)
     const qint64 hours = minutes / 60;
     if (hours == 0)
         return unit(QString::number(minutes), "min") + u' ' + unit(twoDigits(seconds % 60), "s");
-    return unit(grouped(hours), "h") + u' ' + unit(twoDigits(minutes % 60), "min");
+    return unit(countText(hours), "h") + u' ' + unit(twoDigits(minutes % 60), "min");
 }
 
 QString progressDetails(const PProgressInfo &info)
@@ -54,9 +47,9 @@ QString progressDetails(const PProgressInfo &info)
     QStringList parts;
     if (info.total >= 0)
         parts.append(PString::translate("%1 von %2", "VelkGui")
-                         .arg(grouped(info.count), grouped(info.total)));
+                         .arg(countText(info.count), countText(info.total)));
     else
-        parts.append(grouped(info.count));
+        parts.append(countText(info.count));
     if (info.rate > 0)
         parts.append(rateText(info.rate));
     if (info.remaining > 0)

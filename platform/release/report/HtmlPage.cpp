@@ -113,7 +113,7 @@ void HtmlPage::number(const QString &text)
 
 void HtmlPage::number(int value)
 {
-    number(QString::number(value));
+    number(m_rows.number(value));
 }
 
 void HtmlPage::emptyCells(int columns)
@@ -130,7 +130,7 @@ void HtmlPage::rows(std::size_t count, int columns, const std::function<void(std
         endRow();
     }
     const QString last = count == 0     ? m_rows.nothing
-                         : count > most ? m_rows.more.arg(count - most)
+                         : count > most ? m_rows.more.arg(m_rows.number(int(count - most)))
                                         : QString();
     if (!last.isEmpty())
         m_html += QStringLiteral("<tr><td colspan=\"%1\">").arg(columns) + last.toHtmlEscaped() +

@@ -18,9 +18,10 @@ public:
     /// What becomes of the rows of long and of empty tables.
     struct Rows
     {
-        int most = -1;   ///< -1: all
-        QString nothing; ///< instead of rows if there are none
-        QString more;    ///< "and %1 more"
+        int most = -1;                      ///< -1: all
+        QString nothing;                    ///< instead of rows if there are none
+        QString more;                       ///< "and %1 more"
+        std::function<QString(int)> number; ///< a count for people
     };
     explicit HtmlPage(const Rows &rows);
 

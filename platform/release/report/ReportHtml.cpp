@@ -34,7 +34,8 @@ public:
     HtmlWriter(const ReleaseReport &report, const ReportForm &form)
         : m_report(report)
         , m_form(form)
-        , m_page({form.mostRows, form.text(ReportText::Nothing), form.text(ReportText::More)})
+        , m_page({form.mostRows, form.text(ReportText::Nothing), form.text(ReportText::More),
+                  form.number})
     {
     }
 
@@ -100,9 +101,8 @@ void HtmlWriter::writeHead()
     m_page.paragraph(rows);
     const ReportNumbers &numbers = m_report.total.numbers;
     m_page.strongParagraph(text(ReportText::Summary)
-                               .arg(QString::number(numbers.lines() - numbers.open()),
-                                    QString::number(numbers.lines()),
-                                    QString::number(numbers.open())));
+                               .arg(m_form.number(numbers.lines() - numbers.open()),
+                                    m_form.number(numbers.lines()), m_form.number(numbers.open())));
 }
 
 void HtmlWriter::writeTotal()

@@ -9,7 +9,7 @@ enum class ReportText : quint8 {
     Title,     ///< "Mapping report: %1", with the mapping's name
     Releases,  ///< "Release %1 to %2"
     Made,      ///< "Made on %1"
-    Summary,   ///< "Settled: %1 of %2 lines; open: %3"
+    Summary,   ///< "Settled lines: %1 of %2; open: %3"
     TotalHead, ///< a heading, as all that end so
     FolderHead,
     ProjectHead,
@@ -69,6 +69,10 @@ struct ReportForm
     GoneGroup::Words goneGroups;
     /// A time for people.
     std::function<QString(const QDateTime &)> time;
+    /// A count for people.
+    std::function<QString(int)> number = [](int count) {
+        return QString::number(count);
+    };
     QString language = QStringLiteral("en"); ///< a BCP 47 tag
     int mostRows = -1;                       ///< of a list of lines, patterns or decisions; -1: all
 };

@@ -61,6 +61,7 @@ WindowFixture::WindowFixture()
     PTranslateManager::registerModule("velkworkbench");
     PTranslateManager::registerLibraries();
     PTranslateManager::instance().setLanguage("de");
+    QLocale::setDefault(QLocale(QLocale::German));
     if (!plugin->load(QStringLiteral(VELK_BINARY_DIR "/lib/libVelkLinkDbGui.so")))
         fail(plugin->error());
     makeWindow();

@@ -160,7 +160,7 @@ void tst_ConflictWalk::listOfAllProjects()
     QCOMPARE(fixture.window->focusWidget(), fixture.view());
     QCOMPARE(fixture.list().count(), 2);
     QCOMPARE(fixture.list().openCount(), 2);
-    QCOMPARE(fixture.counter(), "2 von 2 Konflikten sind noch offen.");
+    QCOMPARE(fixture.counter(), "2 von 2 Konflikten noch offen.");
     QStringList first;
     for (int column = 0; column < ConflictModel::ColumnCount; ++column)
         first << fixture.view()->model()->index(0, column).data().toString();
@@ -228,7 +228,7 @@ void tst_ConflictWalk::keysDecide()
     fixture.press(Qt::Key_1, Qt::ControlModifier);
     QCOMPARE(fixture.line(Screws, 1), "7");
     QCOMPARE(fixture.document()->undoTexts().size(), steps + 1);
-    QCOMPARE(fixture.counter(), "2 von 3 Konflikten sind noch offen.");
+    QCOMPARE(fixture.counter(), "2 von 3 Konflikten noch offen.");
     // It goes on to the next one.
     QTRY_COMPARE(fixture.here().line, 3);
     QCOMPARE(fixture.window->status()->note(), "Konflikt 2 von 3, noch 2 offen");
@@ -268,7 +268,7 @@ void tst_ConflictWalk::oneQuestionForMany()
     }
     fixture.merge();
     QCOMPARE(fixture.counter(),
-             "4 von 4 Konflikten sind noch offen. 2 weitere Zeilen widersprechen sich wie diese.");
+             "4 von 4 Konflikten noch offen. 2 weitere Zeilen widersprechen sich wie diese.");
     fixture.script.texts.clear();
     fixture.script.thenClick("answerCancel");
     fixture.press(Qt::Key_1, Qt::ControlModifier);

@@ -31,6 +31,29 @@ private Q_SLOTS:
         QTEST(EditorLanguages::firstOn(desktop), "language");
     }
 
+    void localeIsTheDesktopsIfItFits_data()
+    {
+        QTest::addColumn<QLocale>("desktop");
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("locale");
+        QTest::newRow("German of Austria") << QLocale("de_AT") << "de"
+                                           << "de-AT";
+        QTest::newRow("another language") << QLocale("en_US") << "de"
+                                          << "de";
+        QTest::newRow("English of Britain") << QLocale("en_GB") << "en"
+                                            << "en-GB";
+        QTest::newRow("other signs") << QLocale("zh_CN") << "zh_CHT"
+                                     << "zh-TW";
+        QTest::newRow("none") << QLocale::c() << "fr"
+                              << "fr";
+    }
+    void localeIsTheDesktopsIfItFits()
+    {
+        QFETCH(QLocale, desktop);
+        QFETCH(QString, language);
+        QTEST(EditorLanguages::localeOn(desktop, language).bcp47Name(), "locale");
+    }
+
     void allHaveACatalog()
     {
         const QStringList all = EditorLanguages::all();

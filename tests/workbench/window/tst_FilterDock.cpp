@@ -28,10 +28,10 @@ namespace {
 const QString din933 = QStringLiteral("standardparts/screws/din933.prj");
 
 /// Digits are grouped as in the tool bar; -1 for any other sign between them.
-int numberIn(QString text)
+int numberIn(const QString &text)
 {
     bool isNumber = false;
-    const int number = text.remove(QChar(0x202f)).toInt(&isNumber);
+    const int number = QLocale().toInt(text, &isNumber);
     return isNumber ? number : -1;
 }
 
@@ -287,11 +287,20 @@ void tst_FilterDock::nothingFits()
     filters(fixture)->work()->setFilter(filter);
     QVERIFY(fixture.window->editor()->shownLines().isEmpty());
     QTRY_COMPARE(counter(fixture), "Filter: keine Zeile");
+    // The empty table says why and what to do.
+    const auto *const empty =
+        fixture.window->findChild<QWidget *>("sourceView")->findChild<QLabel *>("emptyTable");
+    QVERIFY(empty->isVisible() && empty->height() > empty->sizeHint().height() / 2);
+    QCOMPARE(empty->text(),
+             QString("Keine Zeile dieses Projekts ist im Filter.\n„Filter über alle Zeilen (%1)“ "
+                     "öffnen und „Filter aufheben“ wählen, um wieder alle Zeilen zu sehen.")
+                 .arg(QKeySequence("Ctrl+L").toString(QKeySequence::NativeText)));
     fixture.press(Qt::Key_F8);
     QCOMPARE(fixture.window->status()->note(), "Keine Zeile ist mehr im Filter");
     // It can be taken away where it stands.
     tick(fixture, LineTrait::Author, "nobody of this name");
     QVERIFY(!fixture.window->editor()->shownLines().isEmpty());
+    QVERIFY(!empty->isVisible());
 }
 
 void tst_FilterDock::isKept()

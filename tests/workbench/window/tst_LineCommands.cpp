@@ -275,10 +275,10 @@ private Q_SLOTS:
         script.then([&](QWidget *dialog) {
             script.note(dialog);
             const QString details = dialog->property("informativeText").toString();
-            QVERIFY2(details.contains(
-                         QStringLiteral("die %1 gezeigten von %2 Zeilen").arg(rows).arg(all)) &&
-                         details.contains("Filter: " + name + ": ="),
-                     qPrintable(details));
+            QVERIFY2(
+                details.contains(QStringLiteral("des Projekts: %1 von %2.").arg(rows).arg(all)) &&
+                    details.contains("Filter: " + name + ": ="),
+                qPrintable(details));
             // Nothing is selected: nobody may have meant all of them.
             QVERIFY(dialog->findChild<QPushButton *>("answerCancel")->isDefault());
             QTest::mouseClick(dialog->findChild<QPushButton *>("answerAccept"), Qt::LeftButton);

@@ -1,11 +1,14 @@
 #include "WindowFixture.h"
 
 #include <core/message/PStringMessageImpl.h>
+#include <core/plugin/PTranslateManager.h>
+#include <core/text/countText.h>
 #include <geomcore/records/MappingFile.h>
 #include <gui/progress/DefaultObserverDelegate.h>
 #include <gui/progress/ProgressDisplayI.h>
 #include <TestPaths.h>
 #include <workbench/window/MappingMaker.h>
+#include <workbench/window/useLanguage.h>
 
 #include <QFile>
 #include <QProcess>
@@ -75,6 +78,11 @@ class tst_MappingMaker : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase()
+    {
+        PTranslateManager::registerModule("velkworkbench");
+        useLanguage("de");
+    }
     void makesWhatTheBatchProgramMakes()
     {
         PStringMessageImpl messages(PMsgReply::Cancel, false);
@@ -87,10 +95,10 @@ private Q_SLOTS:
             counts.add(maker.release().mappingAt(i).lineCounts());
         QVERIFY(counts.assigned() > 0 && counts.unverified() > 0 && counts.notFound() > 0);
         QCOMPARE(maker.summary(),
-                 QStringLiteral("49 von 49 Projekten mit 1918 Zeilen, davon %1 zugeordnet, %2 zu "
+                 QStringLiteral("49 von 49 Projekten mit 1.918 Zeilen, davon %1 zugeordnet, %2 zu "
                                 "prüfen, %3 ohne Ziel")
-                     .arg(QString::number(counts.assigned()), QString::number(counts.unverified()),
-                          QString::number(counts.notFound())));
+                     .arg(countText(counts.assigned()), countText(counts.unverified()),
+                          countText(counts.notFound())));
 
         const QTemporaryDir directory;
         const QString file = directory.filePath("m.json");

@@ -109,6 +109,11 @@ void tst_RangeCommands::bar()
             .arg(values.size())
             .arg(values.at(0), values.at(1), values.at(2));
     QTRY_COMPARE(fixture.text(), expected);
+    VelkRelease::RangeCoverage many;
+    many.variables = QStringList{"D"};
+    many.values.resize(1234);
+    QVERIFY2(RangeDock::text(many).startsWith("D: 0 von 1.234 Werten zugeordnet"),
+             qPrintable(RangeDock::text(many)));
     QVERIFY(bar->isVisible());
     QCOMPARE(bar->accessibleDescription(), expected);
     // The first value is missing, the last one is covered: two colours.

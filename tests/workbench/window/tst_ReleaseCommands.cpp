@@ -4,6 +4,7 @@
 #include <core/files/EditLock.h>
 #include <core/json/PJsonValue.h>
 #include <core/progress/PProgress.h>
+#include <core/text/countText.h>
 #include <geomcore/records/MappingFile.h>
 #include <gui/progress/DefaultObserverDelegate.h>
 #include <gui/progress/ProgressDisplayI.h>
@@ -131,6 +132,7 @@ void tst_ReleaseCommands::everyTextIsThere()
     QVERIFY(!texts.contains(QString()));
     QCOMPARE(form.text(VelkRelease::ReportText::Title), "Mapping-Bericht: %1");
     QCOMPARE(form.text(VelkRelease::ReportText::More), "und %1 weitere");
+    QCOMPARE(form.number(12345), "12.345");
     QCOMPARE(form.reason(VelkRelease::OpenReason::Unconfirmed), "gleich, nur nicht bestätigt");
 }
 
@@ -178,8 +180,8 @@ void tst_ReleaseCommands::report()
     const LineCounts &counts = document->counts();
     QVERIFY(html.contains("<title>Mapping-Bericht: m.json</title>"));
     QVERIFY(html.contains("<html lang=\"de\">"));
-    QVERIFY(html.contains(
-        QString("<td>Zeilen</td><td class=\"n\" align=\"right\">%1</td>").arg(counts.lines())));
+    QVERIFY(html.contains(QString("<td>Zeilen</td><td class=\"n\" align=\"right\">%1</td>")
+                              .arg(countText(counts.lines()))));
     QVERIFY(html.contains("standardparts/screws/din933.prj:"));
     QVERIFY(html.contains("zu unähnlich"));
     // Each open line is in one row of these two lists, whose sums are said.
@@ -408,7 +410,7 @@ void tst_ReleaseCommands::importsAFolder()
     write(from + "/screws/a.csv", "Name,D\nB8,8\nB9,10\n");
     QVERIFY(commands->importFolder(from, into));
     QCOMPARE(noted.last().first().toString(),
-             "1 Tabellen mit 2 Zeilen: 0 neu, 1 geändert, 0 unverändert, 0 nicht importiert");
+             "1 Tabelle mit 2 Zeilen: 0 neu, 1 geändert, 0 unverändert, 0 nicht importiert");
     QVERIFY(fixture.window->log()->text().contains("b.prj hat keine CSV-Datei mehr"));
     QVERIFY(QFile::exists(into + "/b.prj"));
 }
@@ -427,7 +429,7 @@ void tst_ReleaseCommands::importFaults()
     write(from + "/torn.csv", "Name,D\n\"B8,8\n");
     QVERIFY(!commands->importFolder(from, into));
     QCOMPARE(noted.last().first().toString(),
-             "1 Tabellen mit 1 Zeilen: 1 neu, 0 geändert, 0 unverändert, 1 nicht importiert");
+             "1 Tabelle mit 1 Zeile: 1 neu, 0 geändert, 0 unverändert, 1 nicht importiert");
     QVERIFY(fixture.window->log()->text().contains("torn.csv"));
     // Where the catalog should be stands a file.
     write(fixture.directory.filePath("file"), "x");

@@ -339,7 +339,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("rows");
         QTest::addColumn<QString>("last");
         QTest::newRow("ten") << 10 << 10 << "";
-        QTest::newRow("eleven") << 11 << 11 << "und 1 weitere";
+        QTest::newRow("eleven") << 11 << 11 << "und 1 weiteres";
     }
     void namesTenProjectsInConflict()
     {

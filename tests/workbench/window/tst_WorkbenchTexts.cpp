@@ -18,7 +18,7 @@ namespace {
 QStringList fixedParts(const QString &text)
 {
     static const QRegularExpression parts(
-        R"(%(?:L?\d|n)|</?[a-z][^>]*>|\*\.[a-z]+|;;|--[a-z]+|svn://|->|→|\n)");
+        R"(%L?(?:\d|n)|</?[a-z][^>]*>|\*\.[a-z]+|;;|--[a-z]+|svn://|->|→|\n)");
     QStringList found;
     for (auto matches = parts.globalMatch(text); matches.hasNext();)
         found << matches.next().captured();
@@ -50,6 +50,16 @@ QString faultOf(const QString &source, const QString &translation)
             return "ends otherwise";
     }
     return {};
+}
+
+/// How many plural forms the language has.
+int formsOf(const QString &language)
+{
+    if (QStringList{"hu", "id", "ja", "ko", "tr", "zh", "zh_CHT"}.contains(language))
+        return 1;
+    if (QStringList{"cs", "pl", "ru"}.contains(language))
+        return 3;
+    return language == "sl" ? 4 : 2;
 }
 
 /// Sources, or translations with all their forms.
@@ -186,6 +196,7 @@ private Q_SLOTS:
         QCOMPARE(QCoreApplication::translate(context.constData(), text.constData()),
                  QString::fromUtf8(text));
     }
+    void countsBeforeWordsHaveForms();
     void numbersChooseTheForm_data();
     void numbersChooseTheForm();
 };
@@ -226,6 +237,8 @@ void tst_WorkbenchTexts::everyTextKeepsItsPlaces()
             xml.readNext();
         }
         QVERIFY2(!translations.isEmpty(), qPrintable(source));
+        QVERIFY2(!source.contains("%Ln") || translations.size() == formsOf(language),
+                 qPrintable(source));
         ++texts;
         for (const QString &translation : std::as_const(translations)) {
             const QString fault = faultOf(source, translation);
@@ -234,6 +247,27 @@ void tst_WorkbenchTexts::everyTextKeepsItsPlaces()
         }
     }
     QVERIFY(texts > (language == "de" ? 50 : 900));
+}
+
+/// "%1 Zeilen" would be said of one line, too; so a text with such a count is a plural one.
+void tst_WorkbenchTexts::countsBeforeWordsHaveForms()
+{
+    static const QRegularExpression counted(
+        R"(%L?\d (?!ohne |in |nach |von |mit )(?:[a-zäöüß]+ )?)"
+        R"((?:Zeile|Projekt|Tabelle|Schritt|Konflikt|Wert|Treffer|Link|)"
+        R"(Änderung|Muster|Fehler|Nummer|Ersetzung|Entscheidung|Ordner|Stelle)(?:e|n|en|s|)\b)",
+        QRegularExpression::UseUnicodePropertiesOption);
+    QVERIFY(counted.isValid());
+    QVERIFY(counted.match("Offen: %1 Zeilen").hasMatch());
+    const QStringList sources = textsOf(
+        QStringLiteral(VELK_SOURCE_DIR "/workbench/translations/velkworkbench_en.ts"), true);
+    QVERIFY(sources.size() > 900);
+    QStringList faults;
+    for (const QString &source : sources) {
+        if (counted.match(source).hasMatch())
+            faults += source;
+    }
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
 }
 
 void tst_WorkbenchTexts::numbersChooseTheForm_data()
@@ -265,7 +299,7 @@ void tst_WorkbenchTexts::numbersChooseTheForm()
     QFETCH(int, number);
     PTranslateManager::registerModule("velkworkbench");
     PTranslateManager::instance().setLanguage(language);
-    QTEST(QCoreApplication::translate("PatternModel", "%n Projekt(e)", nullptr, number), "text");
+    QTEST(QCoreApplication::translate("PatternModel", "%Ln Projekt(e)", nullptr, number), "text");
     PTranslateManager::instance().setLanguage("de");
 }
 

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <core/VelkCoreGlobal.h>
+
+#include <QLocale>
+#include <QString>
+
+/// A count as users read it, with its digits in groups: "1.304". QLocale's default is that of the
+/// program's language where there are windows; "%Ln" in a text gives the same. Ids of lines,
+/// revisions and what a program is to read again are no counts.
+[[nodiscard]] VELKCORE_EXPORT QString countText(qint64 count, const QLocale &locale = QLocale());

@@ -1,0 +1,36 @@
+#include <core/text/countText.h>
+
+#include <QTest>
+
+class tst_countText : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void groupsDigits_data()
+    {
+        QTest::addColumn<QLocale>("locale");
+        QTest::addColumn<qint64>("count");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("German") << QLocale(QLocale::German) << qint64(1234567) << "1.234.567";
+        QTest::newRow("English") << QLocale(QLocale::English) << qint64(1234567) << "1,234,567";
+        QTest::newRow("French") << QLocale(QLocale::French) << qint64(12345)
+                                << QStringLiteral("12\u202f345");
+        QTest::newRow("below a thousand") << QLocale(QLocale::German) << qint64(999) << "999";
+        QTest::newRow("for programs") << QLocale::c() << qint64(1234567) << "1234567";
+    }
+    void groupsDigits()
+    {
+        QFETCH(QLocale, locale);
+        QFETCH(qint64, count);
+        QTEST(countText(count, locale), "text");
+        const QLocale before;
+        QLocale::setDefault(locale);
+        const QString usual = countText(count);
+        QLocale::setDefault(before);
+        QCOMPARE(usual, countText(count, locale));
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_countText)
+#include "tst_countText.moc"
