@@ -162,8 +162,9 @@ void tst_EditorDialogs::fitsInEveryLanguage()
         const std::unique_ptr<QWidget> dialog(make());
         dialog->show();
         QVERIFY(QTest::qWaitForWindowExposed(dialog.get()));
-        const QStringList found =
-            ControlCheck::mnemonics(*dialog) + ControlCheck::cuts(dialog.get(), {950, 560});
+        const QStringList found = ControlCheck::mnemonics(*dialog) +
+                                  ControlCheck::cuts(dialog.get(), {950, 560}) +
+                                  ControlCheck::title(*dialog, language);
         for (const QString &fault : found)
             faults += language + ": " + fault;
         ControlCheck::picture(dialog.get(), QTest::currentDataTag() + ('-' + language));

@@ -9,6 +9,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
+#include <QHash>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -19,6 +20,7 @@
 #include <QPixmap>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QStyle>
 #include <QStyleOptionButton>
@@ -28,6 +30,7 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -170,6 +173,31 @@ QStringList ControlCheck::mnemonics(const QWidget &window)
         faults += rows.doubled(nameOf(*menu));
     }
     return faults;
+}
+
+QStringList ControlCheck::title(const QWidget &window, const QString &language)
+{
+    const QString title = window.windowTitle().remove(QStringLiteral("[*]"));
+    if (title.trimmed().isEmpty())
+        return {nameOf(window) + QStringLiteral(" has no title")};
+    // A plain word may be both: "Question".
+    static const QRegularExpression word(QStringLiteral("^[A-Z][a-z]+$"));
+    const bool isName =
+        title == window.objectName() || title == QLatin1String(window.metaObject()->className());
+    if (isName && !word.match(title).hasMatch())
+        return {title + QStringLiteral(" is the name of the window, no title")};
+    static const QHash<QString, QList<QChar::Script>> scripts = {
+        {QStringLiteral("ru"), {QChar::Script_Cyrillic}},
+        {QStringLiteral("ko"), {QChar::Script_Hangul}},
+        {QStringLiteral("ja"), {QChar::Script_Hiragana, QChar::Script_Katakana, QChar::Script_Han}},
+        {QStringLiteral("zh"), {QChar::Script_Han}},
+        {QStringLiteral("zh_CHT"), {QChar::Script_Han}}};
+    const QList<QChar::Script> wanted = scripts.value(language);
+    const bool isTranslated = wanted.isEmpty() || std::ranges::any_of(title, [&](QChar c) {
+                                  return wanted.contains(c.script());
+                              });
+    return isTranslated ? QStringList()
+                        : QStringList{title + QStringLiteral(" is not in the language")};
 }
 
 QStringList ControlCheck::keys(const QWidget &window)

@@ -14,6 +14,9 @@ public:
     /// Marked keys that lead nowhere or to several places: labels without a field that takes the
     /// keys, the same letter twice in one window or one menu.
     [[nodiscard]] static QStringList mnemonics(const QWidget &window);
+    /// A title that is empty, the name of the object, or not in the letters of the language if that
+    /// has letters of its own. Titles of documents are not asked for.
+    [[nodiscard]] static QStringList title(const QWidget &window, const QString &language);
     /// Keys of commands and buttons that lead to several: then they do nothing at all.
     [[nodiscard]] static QStringList keys(const QWidget &window);
     /// Controls without a name or role, and those that the keyboard does not reach.

@@ -19,12 +19,14 @@ struct Window
     QByteArray name;
     Show show;
     bool isMainWindow = false; ///< the one of the fixture, in some state
+    bool isOfQt = false;       ///< only what it is given is ours: its title and names of files
+    bool isTitledByFile = false;
 };
 
 /// All of them. A mapping that is open already is not opened again, so that one fixture can show
 /// them one after another.
 [[nodiscard]] QList<Window> all();
-/// A row each, with the column "show".
+/// A row each, with the column "show"; without the dialogs of Qt.
 void addRows();
 
 } // namespace EveryWindow
