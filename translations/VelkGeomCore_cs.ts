@@ -506,8 +506,20 @@
   Bez protějšku: %1</translation>
     </message>
     <message>
+        <source>das Dezimalzeichen ist „.“ oder „,“</source>
+        <translation>desetinný znak je „.“ nebo „,“</translation>
+    </message>
+    <message>
         <source>das Ende</source>
         <translation>konec</translation>
+    </message>
+    <message>
+        <source>das Feld hat keinen Namen</source>
+        <translation>pole nemá název</translation>
+    </message>
+    <message>
+        <source>das Feld „%1“ gibt es zweimal</source>
+        <translation>pole „%1“ je tu dvakrát</translation>
     </message>
     <message>
         <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
@@ -518,8 +530,24 @@
         <translation>projekt nebyl načten</translation>
     </message>
     <message>
+        <source>das berechnete Feld „%1“ hat keine Formel</source>
+        <translation>vypočítané pole „%1“ nemá vzorec</translation>
+    </message>
+    <message>
+        <source>das ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>to je adresa; čtou se jen soubory</translation>
+    </message>
+    <message>
         <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
         <translation>deskriptor má lineSubIdField bez lineIdField</translation>
+    </message>
+    <message>
+        <source>der Eintrag „%1“ steht zweimal da</source>
+        <translation>položka „%1“ je tu dvakrát</translation>
+    </message>
+    <message>
+        <source>der Name der Datei enthält ein NUL-Zeichen</source>
+        <translation>název souboru obsahuje znak NUL</translation>
     </message>
     <message>
         <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
@@ -528,6 +556,10 @@
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
         <translation>uvozovky buňky netvoří páry</translation>
+    </message>
+    <message>
+        <source>die Bedingung hat keinen Namen</source>
+        <translation>podmínka nemá název</translation>
     </message>
     <message>
         <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
@@ -566,6 +598,10 @@
         <translation>sloupec „%1“ je tam dvakrát</translation>
     </message>
     <message>
+        <source>die Sperrdatei daneben lässt sich nicht schreiben</source>
+        <translation>soubor zámku vedle nelze zapsat</translation>
+    </message>
+    <message>
         <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
         <translation>čísla v „%1“ mají příliš mnoho číslic</translation>
     </message>
@@ -586,8 +622,28 @@
         <translation>uvozovka není uzavřena</translation>
     </message>
     <message>
+        <source>ein Feld wird erwartet, also ein Objekt</source>
+        <translation>očekává se pole, tedy objekt</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit Texten wird erwartet</source>
+        <translation>očekává se objekt s texty</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit einem Eintrag für jede Sprache wird erwartet</source>
+        <translation>očekává se objekt s položkou pro každý jazyk</translation>
+    </message>
+    <message>
+        <source>ein Objekt wird erwartet</source>
+        <translation>očekává se objekt</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>operátor nebo konec</translation>
+    </message>
+    <message>
+        <source>ein Text wird erwartet</source>
+        <translation>očekává se text</translation>
     </message>
     <message>
         <source>ein Variablenname</source>
@@ -602,6 +658,30 @@
         <translation>hodnota mezi středníky je prázdná</translation>
     </message>
     <message>
+        <source>eine Bedingung wird erwartet, also ein Objekt</source>
+        <translation>očekává se podmínka, tedy objekt</translation>
+    </message>
+    <message>
+        <source>eine Liste von Bedingungen wird erwartet</source>
+        <translation>očekává se seznam podmínek</translation>
+    </message>
+    <message>
+        <source>eine Liste von Feldern wird erwartet</source>
+        <translation>očekává se seznam polí</translation>
+    </message>
+    <message>
+        <source>eine Liste von Texten wird erwartet</source>
+        <translation>očekává se seznam textů</translation>
+    </message>
+    <message>
+        <source>eine Zahl wird erwartet</source>
+        <translation>očekává se číslo</translation>
+    </message>
+    <message>
+        <source>eine ganze Zahl von 0 bis 2147483647 wird erwartet</source>
+        <translation>očekává se celé číslo od 0 do 2147483647</translation>
+    </message>
+    <message>
         <source>eine schließende Klammer</source>
         <translation>uzavírací závorka</translation>
     </message>
@@ -614,12 +694,20 @@
         <translation>nahrazeno: %1</translation>
     </message>
     <message>
+        <source>gesperrt von %1 auf %2 (Prozess %3)</source>
+        <translation>uzamčeno: %1 na %2 (proces %3)</translation>
+    </message>
+    <message>
         <source>gleich: %1</source>
         <translation>stejné: %1</translation>
     </message>
     <message>
         <source>kein Wert</source>
         <translation>žádná hodnota</translation>
+    </message>
+    <message>
+        <source>kein gültiges JSON: %1</source>
+        <translation>neplatný JSON: %1</translation>
     </message>
     <message>
         <source>lässt sich nicht lesen: %1</source>
@@ -634,6 +722,10 @@
         <translation>více řádků, než tabulka pojme</translation>
     </message>
     <message>
+        <source>mehr als 64 Ebenen tief</source>
+        <translation>hlouběji než 64 úrovní</translation>
+    </message>
+    <message>
         <source>ohne Gegenstück: %1</source>
         <translation>bez protějšku: %1</translation>
     </message>
@@ -644,6 +736,18 @@
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>
         <translation>sslmode "%1" neexistuje; možné jsou: %2</translation>
+    </message>
+    <message>
+        <source>true oder false wird erwartet</source>
+        <translation>očekává se true nebo false</translation>
+    </message>
+    <message>
+        <source>unbekannte Art „%1“; bekannt sind %2</source>
+        <translation>neznámý druh „%1“; známé jsou %2</translation>
+    </message>
+    <message>
+        <source>unbekannter Typ „%1“; bekannt sind %2</source>
+        <translation>neznámý typ „%1“; známé jsou %2</translation>
     </message>
     <message>
         <source>verschieden: %1</source>
@@ -670,12 +774,28 @@
         <translation>„%1“ nemá krok; zapište jako 10..50/5</translation>
     </message>
     <message>
+        <source>„%1“ ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>„%1“ je adresa; čtou se jen soubory</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Datum; schreiben Sie es wie 2026-01-31T12:00:00Z</source>
+        <translation>„%1“ není datum; pište je jako 2026-01-31T12:00:00Z</translation>
+    </message>
+    <message>
         <source>„%1“ ist kein Wertebereich von %2: %3</source>
         <translation>„%1“ není rozsah hodnot pro %2: %3</translation>
     </message>
     <message>
         <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
         <translation>„%1“ není číslo řádku, tedy celé číslo od 0 do 2147483647</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb der Kataloge; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>„%1“ leží mimo katalogy; přesuňte to tam, nebo povolte příslušný adresář</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>„%1“ leží mimo „%2“; přesuňte to tam, nebo povolte příslušný adresář</translation>
     </message>
 </context>
 </TS>

@@ -506,8 +506,20 @@
   Uden modpart: %1</translation>
     </message>
     <message>
+        <source>das Dezimalzeichen ist „.“ oder „,“</source>
+        <translation>decimaltegnet er „.“ eller „,“</translation>
+    </message>
+    <message>
         <source>das Ende</source>
         <translation>slutningen</translation>
+    </message>
+    <message>
+        <source>das Feld hat keinen Namen</source>
+        <translation>feltet har intet navn</translation>
+    </message>
+    <message>
+        <source>das Feld „%1“ gibt es zweimal</source>
+        <translation>feltet „%1“ findes to gange</translation>
     </message>
     <message>
         <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
@@ -518,8 +530,24 @@
         <translation>projektet blev ikke læst</translation>
     </message>
     <message>
+        <source>das berechnete Feld „%1“ hat keine Formel</source>
+        <translation>det beregnede felt „%1“ har ingen formel</translation>
+    </message>
+    <message>
+        <source>das ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>det er en adresse; kun filer læses</translation>
+    </message>
+    <message>
         <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
         <translation>deskriptoren har et lineSubIdField uden lineIdField</translation>
+    </message>
+    <message>
+        <source>der Eintrag „%1“ steht zweimal da</source>
+        <translation>posten „%1“ står to gange</translation>
+    </message>
+    <message>
+        <source>der Name der Datei enthält ein NUL-Zeichen</source>
+        <translation>filens navn indeholder et NUL-tegn</translation>
     </message>
     <message>
         <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
@@ -528,6 +556,10 @@
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
         <translation>cellens anførselstegn passer ikke sammen</translation>
+    </message>
+    <message>
+        <source>die Bedingung hat keinen Namen</source>
+        <translation>betingelsen har intet navn</translation>
     </message>
     <message>
         <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
@@ -566,6 +598,10 @@
         <translation>kolonnen "%1" findes to gange</translation>
     </message>
     <message>
+        <source>die Sperrdatei daneben lässt sich nicht schreiben</source>
+        <translation>låsefilen ved siden af kan ikke skrives</translation>
+    </message>
+    <message>
         <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
         <translation>tallene i "%1" har for mange cifre</translation>
     </message>
@@ -586,8 +622,28 @@
         <translation>et anførselstegn lukkes ikke</translation>
     </message>
     <message>
+        <source>ein Feld wird erwartet, also ein Objekt</source>
+        <translation>et felt ventes, altså et objekt</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit Texten wird erwartet</source>
+        <translation>et objekt med tekster ventes</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit einem Eintrag für jede Sprache wird erwartet</source>
+        <translation>et objekt med en post for hvert sprog ventes</translation>
+    </message>
+    <message>
+        <source>ein Objekt wird erwartet</source>
+        <translation>et objekt ventes</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>en operator eller slutningen</translation>
+    </message>
+    <message>
+        <source>ein Text wird erwartet</source>
+        <translation>en tekst ventes</translation>
     </message>
     <message>
         <source>ein Variablenname</source>
@@ -602,6 +658,30 @@
         <translation>en værdi mellem semikolonerne er tom</translation>
     </message>
     <message>
+        <source>eine Bedingung wird erwartet, also ein Objekt</source>
+        <translation>en betingelse ventes, altså et objekt</translation>
+    </message>
+    <message>
+        <source>eine Liste von Bedingungen wird erwartet</source>
+        <translation>en liste af betingelser ventes</translation>
+    </message>
+    <message>
+        <source>eine Liste von Feldern wird erwartet</source>
+        <translation>en liste af felter ventes</translation>
+    </message>
+    <message>
+        <source>eine Liste von Texten wird erwartet</source>
+        <translation>en liste af tekster ventes</translation>
+    </message>
+    <message>
+        <source>eine Zahl wird erwartet</source>
+        <translation>et tal ventes</translation>
+    </message>
+    <message>
+        <source>eine ganze Zahl von 0 bis 2147483647 wird erwartet</source>
+        <translation>et helt tal fra 0 til 2147483647 ventes</translation>
+    </message>
+    <message>
         <source>eine schließende Klammer</source>
         <translation>en afsluttende parentes</translation>
     </message>
@@ -614,12 +694,20 @@
         <translation>erstattet: %1</translation>
     </message>
     <message>
+        <source>gesperrt von %1 auf %2 (Prozess %3)</source>
+        <translation>låst af %1 på %2 (proces %3)</translation>
+    </message>
+    <message>
         <source>gleich: %1</source>
         <translation>ens: %1</translation>
     </message>
     <message>
         <source>kein Wert</source>
         <translation>ingen værdi</translation>
+    </message>
+    <message>
+        <source>kein gültiges JSON: %1</source>
+        <translation>ikke gyldig JSON: %1</translation>
     </message>
     <message>
         <source>lässt sich nicht lesen: %1</source>
@@ -634,6 +722,10 @@
         <translation>flere linjer, end en tabel kan rumme</translation>
     </message>
     <message>
+        <source>mehr als 64 Ebenen tief</source>
+        <translation>mere end 64 niveauer dybt</translation>
+    </message>
+    <message>
         <source>ohne Gegenstück: %1</source>
         <translation>uden modstykke: %1</translation>
     </message>
@@ -644,6 +736,18 @@
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>
         <translation>sslmode "%1" findes ikke; mulige er: %2</translation>
+    </message>
+    <message>
+        <source>true oder false wird erwartet</source>
+        <translation>true eller false ventes</translation>
+    </message>
+    <message>
+        <source>unbekannte Art „%1“; bekannt sind %2</source>
+        <translation>ukendt art „%1“; kendte er %2</translation>
+    </message>
+    <message>
+        <source>unbekannter Typ „%1“; bekannt sind %2</source>
+        <translation>ukendt type „%1“; kendte er %2</translation>
     </message>
     <message>
         <source>verschieden: %1</source>
@@ -670,12 +774,28 @@
         <translation>"%1" har intet trin; skriv det som 10..50/5</translation>
     </message>
     <message>
+        <source>„%1“ ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>„%1“ er en adresse; kun filer læses</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Datum; schreiben Sie es wie 2026-01-31T12:00:00Z</source>
+        <translation>„%1“ er ingen dato; skriv den som 2026-01-31T12:00:00Z</translation>
+    </message>
+    <message>
         <source>„%1“ ist kein Wertebereich von %2: %3</source>
         <translation>"%1" er intet værdiområde for %2: %3</translation>
     </message>
     <message>
         <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
         <translation>"%1" er intet linjenummer, altså intet heltal fra 0 til 2147483647</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb der Kataloge; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>„%1“ ligger uden for katalogerne; flyt den dertil, eller tillad dens mappe</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>„%1“ ligger uden for „%2“; flyt den dertil, eller tillad dens mappe</translation>
     </message>
 </context>
 </TS>

@@ -506,8 +506,20 @@
   Ohne Entsprechung: %1</translation>
     </message>
     <message>
+        <source>das Dezimalzeichen ist „.“ oder „,“</source>
+        <translation>das Dezimalzeichen ist „.“ oder „,“</translation>
+    </message>
+    <message>
         <source>das Ende</source>
         <translation>das Ende</translation>
+    </message>
+    <message>
+        <source>das Feld hat keinen Namen</source>
+        <translation>das Feld hat keinen Namen</translation>
+    </message>
+    <message>
+        <source>das Feld „%1“ gibt es zweimal</source>
+        <translation>das Feld „%1“ gibt es zweimal</translation>
     </message>
     <message>
         <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
@@ -518,8 +530,24 @@
         <translation>das Projekt wurde nicht gelesen</translation>
     </message>
     <message>
+        <source>das berechnete Feld „%1“ hat keine Formel</source>
+        <translation>das berechnete Feld „%1“ hat keine Formel</translation>
+    </message>
+    <message>
+        <source>das ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>das ist eine Adresse; nur Dateien werden gelesen</translation>
+    </message>
+    <message>
         <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
         <translation>der Deskriptor hat ein lineSubIdField ohne lineIdField</translation>
+    </message>
+    <message>
+        <source>der Eintrag „%1“ steht zweimal da</source>
+        <translation>der Eintrag „%1“ steht zweimal da</translation>
+    </message>
+    <message>
+        <source>der Name der Datei enthält ein NUL-Zeichen</source>
+        <translation>der Name der Datei enthält ein NUL-Zeichen</translation>
     </message>
     <message>
         <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
@@ -528,6 +556,10 @@
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
         <translation>die Anführungszeichen der Zelle passen nicht zueinander</translation>
+    </message>
+    <message>
+        <source>die Bedingung hat keinen Namen</source>
+        <translation>die Bedingung hat keinen Namen</translation>
     </message>
     <message>
         <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
@@ -566,6 +598,10 @@
         <translation>die Spalte „%1“ gibt es zweimal</translation>
     </message>
     <message>
+        <source>die Sperrdatei daneben lässt sich nicht schreiben</source>
+        <translation>die Sperrdatei daneben lässt sich nicht schreiben</translation>
+    </message>
+    <message>
         <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
         <translation>die Zahlen von „%1“ haben zu viele Ziffern</translation>
     </message>
@@ -586,8 +622,28 @@
         <translation>ein Anführungszeichen wird nicht geschlossen</translation>
     </message>
     <message>
+        <source>ein Feld wird erwartet, also ein Objekt</source>
+        <translation>ein Feld wird erwartet, also ein Objekt</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit Texten wird erwartet</source>
+        <translation>ein Objekt mit Texten wird erwartet</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit einem Eintrag für jede Sprache wird erwartet</source>
+        <translation>ein Objekt mit einem Eintrag für jede Sprache wird erwartet</translation>
+    </message>
+    <message>
+        <source>ein Objekt wird erwartet</source>
+        <translation>ein Objekt wird erwartet</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>ein Operator oder das Ende</translation>
+    </message>
+    <message>
+        <source>ein Text wird erwartet</source>
+        <translation>ein Text wird erwartet</translation>
     </message>
     <message>
         <source>ein Variablenname</source>
@@ -602,6 +658,30 @@
         <translation>ein Wert zwischen den Semikolons ist leer</translation>
     </message>
     <message>
+        <source>eine Bedingung wird erwartet, also ein Objekt</source>
+        <translation>eine Bedingung wird erwartet, also ein Objekt</translation>
+    </message>
+    <message>
+        <source>eine Liste von Bedingungen wird erwartet</source>
+        <translation>eine Liste von Bedingungen wird erwartet</translation>
+    </message>
+    <message>
+        <source>eine Liste von Feldern wird erwartet</source>
+        <translation>eine Liste von Feldern wird erwartet</translation>
+    </message>
+    <message>
+        <source>eine Liste von Texten wird erwartet</source>
+        <translation>eine Liste von Texten wird erwartet</translation>
+    </message>
+    <message>
+        <source>eine Zahl wird erwartet</source>
+        <translation>eine Zahl wird erwartet</translation>
+    </message>
+    <message>
+        <source>eine ganze Zahl von 0 bis 2147483647 wird erwartet</source>
+        <translation>eine ganze Zahl von 0 bis 2147483647 wird erwartet</translation>
+    </message>
+    <message>
         <source>eine schließende Klammer</source>
         <translation>eine schließende Klammer</translation>
     </message>
@@ -614,12 +694,20 @@
         <translation>ersetzt: %1</translation>
     </message>
     <message>
+        <source>gesperrt von %1 auf %2 (Prozess %3)</source>
+        <translation>gesperrt von %1 auf %2 (Prozess %3)</translation>
+    </message>
+    <message>
         <source>gleich: %1</source>
         <translation>gleich: %1</translation>
     </message>
     <message>
         <source>kein Wert</source>
         <translation>kein Wert</translation>
+    </message>
+    <message>
+        <source>kein gültiges JSON: %1</source>
+        <translation>kein gültiges JSON: %1</translation>
     </message>
     <message>
         <source>lässt sich nicht lesen: %1</source>
@@ -634,6 +722,10 @@
         <translation>mehr Zeilen, als eine Tabelle fassen kann</translation>
     </message>
     <message>
+        <source>mehr als 64 Ebenen tief</source>
+        <translation>mehr als 64 Ebenen tief</translation>
+    </message>
+    <message>
         <source>ohne Gegenstück: %1</source>
         <translation>ohne Gegenstück: %1</translation>
     </message>
@@ -644,6 +736,18 @@
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>
         <translation>sslmode "%1" gibt es nicht; möglich sind: %2</translation>
+    </message>
+    <message>
+        <source>true oder false wird erwartet</source>
+        <translation>true oder false wird erwartet</translation>
+    </message>
+    <message>
+        <source>unbekannte Art „%1“; bekannt sind %2</source>
+        <translation>unbekannte Art „%1“; bekannt sind %2</translation>
+    </message>
+    <message>
+        <source>unbekannter Typ „%1“; bekannt sind %2</source>
+        <translation>unbekannter Typ „%1“; bekannt sind %2</translation>
     </message>
     <message>
         <source>verschieden: %1</source>
@@ -670,12 +774,28 @@
         <translation>„%1“ hat keine Schrittweite; schreiben Sie es wie 10..50/5</translation>
     </message>
     <message>
+        <source>„%1“ ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>„%1“ ist eine Adresse; nur Dateien werden gelesen</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Datum; schreiben Sie es wie 2026-01-31T12:00:00Z</source>
+        <translation>„%1“ ist kein Datum; schreiben Sie es wie 2026-01-31T12:00:00Z</translation>
+    </message>
+    <message>
         <source>„%1“ ist kein Wertebereich von %2: %3</source>
         <translation>„%1“ ist kein Wertebereich von %2: %3</translation>
     </message>
     <message>
         <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
         <translation>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb der Kataloge; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>„%1“ liegt außerhalb der Kataloge; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</translation>
     </message>
 </context>
 </TS>

@@ -506,8 +506,20 @@
   Without counterpart: %1</translation>
     </message>
     <message>
+        <source>das Dezimalzeichen ist „.“ oder „,“</source>
+        <translation>the decimal character is "." or ","</translation>
+    </message>
+    <message>
         <source>das Ende</source>
         <translation>the end</translation>
+    </message>
+    <message>
+        <source>das Feld hat keinen Namen</source>
+        <translation>the field has no name</translation>
+    </message>
+    <message>
+        <source>das Feld „%1“ gibt es zweimal</source>
+        <translation>the field "%1" stands twice</translation>
     </message>
     <message>
         <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
@@ -518,8 +530,24 @@
         <translation>the project was not read</translation>
     </message>
     <message>
+        <source>das berechnete Feld „%1“ hat keine Formel</source>
+        <translation>the computed field "%1" has no formula</translation>
+    </message>
+    <message>
+        <source>das ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>is an address; only files are read</translation>
+    </message>
+    <message>
         <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
         <translation>the descriptor has a lineSubIdField without a lineIdField</translation>
+    </message>
+    <message>
+        <source>der Eintrag „%1“ steht zweimal da</source>
+        <translation>the member "%1" stands twice</translation>
+    </message>
+    <message>
+        <source>der Name der Datei enthält ein NUL-Zeichen</source>
+        <translation>the name of the file has a NUL in it</translation>
     </message>
     <message>
         <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
@@ -528,6 +556,10 @@
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
         <translation>the quotes of the cell do not pair</translation>
+    </message>
+    <message>
+        <source>die Bedingung hat keinen Namen</source>
+        <translation>the condition has no name</translation>
     </message>
     <message>
         <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
@@ -566,6 +598,10 @@
         <translation>the column "%1" stands twice</translation>
     </message>
     <message>
+        <source>die Sperrdatei daneben lässt sich nicht schreiben</source>
+        <translation>the lock file beside it cannot be written</translation>
+    </message>
+    <message>
         <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
         <translation>the numbers of "%1" have too many digits</translation>
     </message>
@@ -586,8 +622,28 @@
         <translation>a quote is left open</translation>
     </message>
     <message>
+        <source>ein Feld wird erwartet, also ein Objekt</source>
+        <translation>expected a field, which is an object</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit Texten wird erwartet</source>
+        <translation>expected an object of texts</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit einem Eintrag für jede Sprache wird erwartet</source>
+        <translation>expected an object with a member for each language</translation>
+    </message>
+    <message>
+        <source>ein Objekt wird erwartet</source>
+        <translation>expected an object</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>an operator or the end</translation>
+    </message>
+    <message>
+        <source>ein Text wird erwartet</source>
+        <translation>expected a text</translation>
     </message>
     <message>
         <source>ein Variablenname</source>
@@ -602,6 +658,30 @@
         <translation>a value between the semicolons is empty</translation>
     </message>
     <message>
+        <source>eine Bedingung wird erwartet, also ein Objekt</source>
+        <translation>expected a condition, which is an object</translation>
+    </message>
+    <message>
+        <source>eine Liste von Bedingungen wird erwartet</source>
+        <translation>expected a list of conditions</translation>
+    </message>
+    <message>
+        <source>eine Liste von Feldern wird erwartet</source>
+        <translation>expected a list of fields</translation>
+    </message>
+    <message>
+        <source>eine Liste von Texten wird erwartet</source>
+        <translation>expected a list of texts</translation>
+    </message>
+    <message>
+        <source>eine Zahl wird erwartet</source>
+        <translation>expected a number</translation>
+    </message>
+    <message>
+        <source>eine ganze Zahl von 0 bis 2147483647 wird erwartet</source>
+        <translation>expected an integer from 0 to 2147483647</translation>
+    </message>
+    <message>
         <source>eine schließende Klammer</source>
         <translation>a closing parenthesis</translation>
     </message>
@@ -614,12 +694,20 @@
         <translation>replaced: %1</translation>
     </message>
     <message>
+        <source>gesperrt von %1 auf %2 (Prozess %3)</source>
+        <translation>is locked by %1 on %2 (process %3)</translation>
+    </message>
+    <message>
         <source>gleich: %1</source>
         <translation>equal: %1</translation>
     </message>
     <message>
         <source>kein Wert</source>
         <translation>no value</translation>
+    </message>
+    <message>
+        <source>kein gültiges JSON: %1</source>
+        <translation>no valid JSON: %1</translation>
     </message>
     <message>
         <source>lässt sich nicht lesen: %1</source>
@@ -634,6 +722,10 @@
         <translation>more lines than a table can hold</translation>
     </message>
     <message>
+        <source>mehr als 64 Ebenen tief</source>
+        <translation>more than 64 levels deep</translation>
+    </message>
+    <message>
         <source>ohne Gegenstück: %1</source>
         <translation>without counterpart: %1</translation>
     </message>
@@ -644,6 +736,18 @@
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>
         <translation>There is no sslmode "%1"; possible are: %2</translation>
+    </message>
+    <message>
+        <source>true oder false wird erwartet</source>
+        <translation>expected true or false</translation>
+    </message>
+    <message>
+        <source>unbekannte Art „%1“; bekannt sind %2</source>
+        <translation>unknown kind "%1"; known are %2</translation>
+    </message>
+    <message>
+        <source>unbekannter Typ „%1“; bekannt sind %2</source>
+        <translation>unknown type "%1"; known are %2</translation>
     </message>
     <message>
         <source>verschieden: %1</source>
@@ -670,12 +774,28 @@
         <translation>"%1" has no step; write it as 10..50/5</translation>
     </message>
     <message>
+        <source>„%1“ ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>"%1" is an address; only files are read</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Datum; schreiben Sie es wie 2026-01-31T12:00:00Z</source>
+        <translation>"%1" is no date; write it as 2026-01-31T12:00:00Z</translation>
+    </message>
+    <message>
         <source>„%1“ ist kein Wertebereich von %2: %3</source>
         <translation>"%1" is no value range of %2: %3</translation>
     </message>
     <message>
         <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
         <translation>"%1" is no line id, which is an integer from 0 to 2147483647</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb der Kataloge; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>"%1" lies outside of the catalogs; move it there, or allow its directory</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>"%1" lies outside of "%2"; move it there, or allow its directory</translation>
     </message>
 </context>
 </TS>

@@ -506,8 +506,20 @@
   Sin equivalente: %1</translation>
     </message>
     <message>
+        <source>das Dezimalzeichen ist „.“ oder „,“</source>
+        <translation>el carácter decimal es «.» o «,»</translation>
+    </message>
+    <message>
         <source>das Ende</source>
         <translation>el final</translation>
+    </message>
+    <message>
+        <source>das Feld hat keinen Namen</source>
+        <translation>el campo no tiene nombre</translation>
+    </message>
+    <message>
+        <source>das Feld „%1“ gibt es zweimal</source>
+        <translation>el campo «%1» está dos veces</translation>
     </message>
     <message>
         <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
@@ -518,8 +530,24 @@
         <translation>el proyecto no se ha leído</translation>
     </message>
     <message>
+        <source>das berechnete Feld „%1“ hat keine Formel</source>
+        <translation>el campo calculado «%1» no tiene fórmula</translation>
+    </message>
+    <message>
+        <source>das ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>es una dirección; solo se leen archivos</translation>
+    </message>
+    <message>
         <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
         <translation>el descriptor tiene lineSubIdField sin lineIdField</translation>
+    </message>
+    <message>
+        <source>der Eintrag „%1“ steht zweimal da</source>
+        <translation>la entrada «%1» está dos veces</translation>
+    </message>
+    <message>
+        <source>der Name der Datei enthält ein NUL-Zeichen</source>
+        <translation>el nombre del archivo contiene un carácter NUL</translation>
     </message>
     <message>
         <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
@@ -528,6 +556,10 @@
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
         <translation>las comillas de la celda no forman pares</translation>
+    </message>
+    <message>
+        <source>die Bedingung hat keinen Namen</source>
+        <translation>la condición no tiene nombre</translation>
     </message>
     <message>
         <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
@@ -566,6 +598,10 @@
         <translation>la columna «%1» aparece dos veces</translation>
     </message>
     <message>
+        <source>die Sperrdatei daneben lässt sich nicht schreiben</source>
+        <translation>no se puede escribir el archivo de bloqueo de al lado</translation>
+    </message>
+    <message>
         <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
         <translation>los números de «%1» tienen demasiadas cifras</translation>
     </message>
@@ -586,8 +622,28 @@
         <translation>unas comillas no se cierran</translation>
     </message>
     <message>
+        <source>ein Feld wird erwartet, also ein Objekt</source>
+        <translation>se espera un campo, es decir, un objeto</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit Texten wird erwartet</source>
+        <translation>se espera un objeto con textos</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit einem Eintrag für jede Sprache wird erwartet</source>
+        <translation>se espera un objeto con una entrada para cada idioma</translation>
+    </message>
+    <message>
+        <source>ein Objekt wird erwartet</source>
+        <translation>se espera un objeto</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>un operador o el final</translation>
+    </message>
+    <message>
+        <source>ein Text wird erwartet</source>
+        <translation>se espera un texto</translation>
     </message>
     <message>
         <source>ein Variablenname</source>
@@ -602,6 +658,30 @@
         <translation>un valor entre los puntos y coma está vacío</translation>
     </message>
     <message>
+        <source>eine Bedingung wird erwartet, also ein Objekt</source>
+        <translation>se espera una condición, es decir, un objeto</translation>
+    </message>
+    <message>
+        <source>eine Liste von Bedingungen wird erwartet</source>
+        <translation>se espera una lista de condiciones</translation>
+    </message>
+    <message>
+        <source>eine Liste von Feldern wird erwartet</source>
+        <translation>se espera una lista de campos</translation>
+    </message>
+    <message>
+        <source>eine Liste von Texten wird erwartet</source>
+        <translation>se espera una lista de textos</translation>
+    </message>
+    <message>
+        <source>eine Zahl wird erwartet</source>
+        <translation>se espera un número</translation>
+    </message>
+    <message>
+        <source>eine ganze Zahl von 0 bis 2147483647 wird erwartet</source>
+        <translation>se espera un número entero de 0 a 2147483647</translation>
+    </message>
+    <message>
         <source>eine schließende Klammer</source>
         <translation>un paréntesis de cierre</translation>
     </message>
@@ -614,12 +694,20 @@
         <translation>sustituido: %1</translation>
     </message>
     <message>
+        <source>gesperrt von %1 auf %2 (Prozess %3)</source>
+        <translation>bloqueado por %1 en %2 (proceso %3)</translation>
+    </message>
+    <message>
         <source>gleich: %1</source>
         <translation>igual: %1</translation>
     </message>
     <message>
         <source>kein Wert</source>
         <translation>ningún valor</translation>
+    </message>
+    <message>
+        <source>kein gültiges JSON: %1</source>
+        <translation>JSON no válido: %1</translation>
     </message>
     <message>
         <source>lässt sich nicht lesen: %1</source>
@@ -634,6 +722,10 @@
         <translation>más filas de las que caben en una tabla</translation>
     </message>
     <message>
+        <source>mehr als 64 Ebenen tief</source>
+        <translation>más de 64 niveles de profundidad</translation>
+    </message>
+    <message>
         <source>ohne Gegenstück: %1</source>
         <translation>sin correspondencia: %1</translation>
     </message>
@@ -644,6 +736,18 @@
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>
         <translation>sslmode "%1" no existe; son posibles: %2</translation>
+    </message>
+    <message>
+        <source>true oder false wird erwartet</source>
+        <translation>se espera true o false</translation>
+    </message>
+    <message>
+        <source>unbekannte Art „%1“; bekannt sind %2</source>
+        <translation>clase desconocida «%1»; se conocen %2</translation>
+    </message>
+    <message>
+        <source>unbekannter Typ „%1“; bekannt sind %2</source>
+        <translation>tipo desconocido «%1»; se conocen %2</translation>
     </message>
     <message>
         <source>verschieden: %1</source>
@@ -670,12 +774,28 @@
         <translation>«%1» no tiene paso; escríbalo como 10..50/5</translation>
     </message>
     <message>
+        <source>„%1“ ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>«%1» es una dirección; solo se leen archivos</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Datum; schreiben Sie es wie 2026-01-31T12:00:00Z</source>
+        <translation>«%1» no es una fecha; escríbala como 2026-01-31T12:00:00Z</translation>
+    </message>
+    <message>
         <source>„%1“ ist kein Wertebereich von %2: %3</source>
         <translation>«%1» no es un rango de valores de %2: %3</translation>
     </message>
     <message>
         <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
         <translation>«%1» no es un número de fila, es decir, un entero de 0 a 2147483647</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb der Kataloge; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>«%1» está fuera de los catálogos; muévalo allí o permita su directorio</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>«%1» está fuera de «%2»; muévalo allí o permita su directorio</translation>
     </message>
 </context>
 </TS>

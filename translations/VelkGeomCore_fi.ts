@@ -506,8 +506,20 @@
   Ilman vastinetta: %1</translation>
     </message>
     <message>
+        <source>das Dezimalzeichen ist „.“ oder „,“</source>
+        <translation>desimaalimerkki on ”.” tai ”,”</translation>
+    </message>
+    <message>
         <source>das Ende</source>
         <translation>loppu</translation>
+    </message>
+    <message>
+        <source>das Feld hat keinen Namen</source>
+        <translation>kentällä ei ole nimeä</translation>
+    </message>
+    <message>
+        <source>das Feld „%1“ gibt es zweimal</source>
+        <translation>kenttä ”%1” on kahdesti</translation>
     </message>
     <message>
         <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
@@ -518,8 +530,24 @@
         <translation>projektia ei luettu</translation>
     </message>
     <message>
+        <source>das berechnete Feld „%1“ hat keine Formel</source>
+        <translation>lasketulla kentällä ”%1” ei ole kaavaa</translation>
+    </message>
+    <message>
+        <source>das ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>se on osoite; vain tiedostoja luetaan</translation>
+    </message>
+    <message>
         <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
         <translation>kuvaustiedostossa on lineSubIdField ilman lineIdField-kenttää</translation>
+    </message>
+    <message>
+        <source>der Eintrag „%1“ steht zweimal da</source>
+        <translation>jäsen ”%1” on kahdesti</translation>
+    </message>
+    <message>
+        <source>der Name der Datei enthält ein NUL-Zeichen</source>
+        <translation>tiedoston nimessä on NUL-merkki</translation>
     </message>
     <message>
         <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
@@ -528,6 +556,10 @@
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
         <translation>solun lainausmerkit eivät muodosta pareja</translation>
+    </message>
+    <message>
+        <source>die Bedingung hat keinen Namen</source>
+        <translation>ehdolla ei ole nimeä</translation>
     </message>
     <message>
         <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
@@ -566,6 +598,10 @@
         <translation>sarake "%1" esiintyy kahdesti</translation>
     </message>
     <message>
+        <source>die Sperrdatei daneben lässt sich nicht schreiben</source>
+        <translation>viereistä lukitustiedostoa ei voi kirjoittaa</translation>
+    </message>
+    <message>
         <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
         <translation>kohteen "%1" luvuissa on liian monta numeroa</translation>
     </message>
@@ -586,8 +622,28 @@
         <translation>lainausmerkkiä ei suljeta</translation>
     </message>
     <message>
+        <source>ein Feld wird erwartet, also ein Objekt</source>
+        <translation>odotetaan kenttää eli objektia</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit Texten wird erwartet</source>
+        <translation>odotetaan tekstien objektia</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit einem Eintrag für jede Sprache wird erwartet</source>
+        <translation>odotetaan objektia, jossa on jäsen kullekin kielelle</translation>
+    </message>
+    <message>
+        <source>ein Objekt wird erwartet</source>
+        <translation>odotetaan objektia</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>operaattori tai loppu</translation>
+    </message>
+    <message>
+        <source>ein Text wird erwartet</source>
+        <translation>odotetaan tekstiä</translation>
     </message>
     <message>
         <source>ein Variablenname</source>
@@ -602,6 +658,30 @@
         <translation>puolipisteiden välinen arvo on tyhjä</translation>
     </message>
     <message>
+        <source>eine Bedingung wird erwartet, also ein Objekt</source>
+        <translation>odotetaan ehtoa eli objektia</translation>
+    </message>
+    <message>
+        <source>eine Liste von Bedingungen wird erwartet</source>
+        <translation>odotetaan ehtojen luetteloa</translation>
+    </message>
+    <message>
+        <source>eine Liste von Feldern wird erwartet</source>
+        <translation>odotetaan kenttien luetteloa</translation>
+    </message>
+    <message>
+        <source>eine Liste von Texten wird erwartet</source>
+        <translation>odotetaan tekstien luetteloa</translation>
+    </message>
+    <message>
+        <source>eine Zahl wird erwartet</source>
+        <translation>odotetaan lukua</translation>
+    </message>
+    <message>
+        <source>eine ganze Zahl von 0 bis 2147483647 wird erwartet</source>
+        <translation>odotetaan kokonaislukua 0–2147483647</translation>
+    </message>
+    <message>
         <source>eine schließende Klammer</source>
         <translation>sulkeva sulje</translation>
     </message>
@@ -614,12 +694,20 @@
         <translation>korvattu: %1</translation>
     </message>
     <message>
+        <source>gesperrt von %1 auf %2 (Prozess %3)</source>
+        <translation>lukinnut %1 koneella %2 (prosessi %3)</translation>
+    </message>
+    <message>
         <source>gleich: %1</source>
         <translation>sama: %1</translation>
     </message>
     <message>
         <source>kein Wert</source>
         <translation>ei arvoa</translation>
+    </message>
+    <message>
+        <source>kein gültiges JSON: %1</source>
+        <translation>ei kelvollista JSONia: %1</translation>
     </message>
     <message>
         <source>lässt sich nicht lesen: %1</source>
@@ -634,6 +722,10 @@
         <translation>enemmän rivejä kuin taulukkoon mahtuu</translation>
     </message>
     <message>
+        <source>mehr als 64 Ebenen tief</source>
+        <translation>yli 64 tasoa syvä</translation>
+    </message>
+    <message>
         <source>ohne Gegenstück: %1</source>
         <translation>ilman vastinetta: %1</translation>
     </message>
@@ -644,6 +736,18 @@
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>
         <translation>Tilaa sslmode "%1" ei ole; mahdollisia ovat: %2</translation>
+    </message>
+    <message>
+        <source>true oder false wird erwartet</source>
+        <translation>odotetaan arvoa true tai false</translation>
+    </message>
+    <message>
+        <source>unbekannte Art „%1“; bekannt sind %2</source>
+        <translation>tuntematon laji ”%1”; tunnetaan %2</translation>
+    </message>
+    <message>
+        <source>unbekannter Typ „%1“; bekannt sind %2</source>
+        <translation>tuntematon tyyppi ”%1”; tunnetaan %2</translation>
     </message>
     <message>
         <source>verschieden: %1</source>
@@ -670,12 +774,28 @@
         <translation>"%1": askel puuttuu; kirjoita kuten 10..50/5</translation>
     </message>
     <message>
+        <source>„%1“ ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>”%1” on osoite; vain tiedostoja luetaan</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Datum; schreiben Sie es wie 2026-01-31T12:00:00Z</source>
+        <translation>”%1” ei ole päiväys; kirjoita se kuten 2026-01-31T12:00:00Z</translation>
+    </message>
+    <message>
         <source>„%1“ ist kein Wertebereich von %2: %3</source>
         <translation>"%1" ei ole muuttujan %2 arvoalue: %3</translation>
     </message>
     <message>
         <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
         <translation>"%1" ei ole rivinumero eli kokonaisluku väliltä 0–2147483647</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb der Kataloge; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>”%1” on luetteloiden ulkopuolella; siirrä se sinne tai salli sen hakemisto</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>”%1” on paikan ”%2” ulkopuolella; siirrä se sinne tai salli sen hakemisto</translation>
     </message>
 </context>
 </TS>

@@ -506,8 +506,20 @@
   Sans équivalent : %1</translation>
     </message>
     <message>
+        <source>das Dezimalzeichen ist „.“ oder „,“</source>
+        <translation>le caractère décimal est « . » ou « , »</translation>
+    </message>
+    <message>
         <source>das Ende</source>
         <translation>la fin</translation>
+    </message>
+    <message>
+        <source>das Feld hat keinen Namen</source>
+        <translation>le champ n'a pas de nom</translation>
+    </message>
+    <message>
+        <source>das Feld „%1“ gibt es zweimal</source>
+        <translation>le champ « %1 » figure deux fois</translation>
     </message>
     <message>
         <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
@@ -518,8 +530,24 @@
         <translation>le projet n'a pas été lu</translation>
     </message>
     <message>
+        <source>das berechnete Feld „%1“ hat keine Formel</source>
+        <translation>le champ calculé « %1 » n'a pas de formule</translation>
+    </message>
+    <message>
+        <source>das ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>c'est une adresse ; seuls les fichiers sont lus</translation>
+    </message>
+    <message>
         <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
         <translation>le descripteur a un lineSubIdField sans lineIdField</translation>
+    </message>
+    <message>
+        <source>der Eintrag „%1“ steht zweimal da</source>
+        <translation>l'entrée « %1 » figure deux fois</translation>
+    </message>
+    <message>
+        <source>der Name der Datei enthält ein NUL-Zeichen</source>
+        <translation>le nom du fichier contient un caractère NUL</translation>
     </message>
     <message>
         <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
@@ -528,6 +556,10 @@
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
         <translation>les guillemets de la cellule ne vont pas par paires</translation>
+    </message>
+    <message>
+        <source>die Bedingung hat keinen Namen</source>
+        <translation>la condition n'a pas de nom</translation>
     </message>
     <message>
         <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
@@ -566,6 +598,10 @@
         <translation>la colonne « %1 » figure deux fois</translation>
     </message>
     <message>
+        <source>die Sperrdatei daneben lässt sich nicht schreiben</source>
+        <translation>le fichier de verrou à côté ne peut pas être écrit</translation>
+    </message>
+    <message>
         <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
         <translation>les nombres de « %1 » ont trop de chiffres</translation>
     </message>
@@ -586,8 +622,28 @@
         <translation>un guillemet n'est pas fermé</translation>
     </message>
     <message>
+        <source>ein Feld wird erwartet, also ein Objekt</source>
+        <translation>un champ est attendu, donc un objet</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit Texten wird erwartet</source>
+        <translation>un objet de textes est attendu</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit einem Eintrag für jede Sprache wird erwartet</source>
+        <translation>un objet avec une entrée pour chaque langue est attendu</translation>
+    </message>
+    <message>
+        <source>ein Objekt wird erwartet</source>
+        <translation>un objet est attendu</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>un opérateur ou la fin</translation>
+    </message>
+    <message>
+        <source>ein Text wird erwartet</source>
+        <translation>un texte est attendu</translation>
     </message>
     <message>
         <source>ein Variablenname</source>
@@ -602,6 +658,30 @@
         <translation>une valeur entre les points-virgules est vide</translation>
     </message>
     <message>
+        <source>eine Bedingung wird erwartet, also ein Objekt</source>
+        <translation>une condition est attendue, donc un objet</translation>
+    </message>
+    <message>
+        <source>eine Liste von Bedingungen wird erwartet</source>
+        <translation>une liste de conditions est attendue</translation>
+    </message>
+    <message>
+        <source>eine Liste von Feldern wird erwartet</source>
+        <translation>une liste de champs est attendue</translation>
+    </message>
+    <message>
+        <source>eine Liste von Texten wird erwartet</source>
+        <translation>une liste de textes est attendue</translation>
+    </message>
+    <message>
+        <source>eine Zahl wird erwartet</source>
+        <translation>un nombre est attendu</translation>
+    </message>
+    <message>
+        <source>eine ganze Zahl von 0 bis 2147483647 wird erwartet</source>
+        <translation>un entier de 0 à 2147483647 est attendu</translation>
+    </message>
+    <message>
         <source>eine schließende Klammer</source>
         <translation>une parenthèse fermante</translation>
     </message>
@@ -614,12 +694,20 @@
         <translation>remplacé : %1</translation>
     </message>
     <message>
+        <source>gesperrt von %1 auf %2 (Prozess %3)</source>
+        <translation>verrouillé par %1 sur %2 (processus %3)</translation>
+    </message>
+    <message>
         <source>gleich: %1</source>
         <translation>identique : %1</translation>
     </message>
     <message>
         <source>kein Wert</source>
         <translation>aucune valeur</translation>
+    </message>
+    <message>
+        <source>kein gültiges JSON: %1</source>
+        <translation>JSON non valide : %1</translation>
     </message>
     <message>
         <source>lässt sich nicht lesen: %1</source>
@@ -634,6 +722,10 @@
         <translation>plus de lignes qu'un tableau ne peut en contenir</translation>
     </message>
     <message>
+        <source>mehr als 64 Ebenen tief</source>
+        <translation>plus de 64 niveaux de profondeur</translation>
+    </message>
+    <message>
         <source>ohne Gegenstück: %1</source>
         <translation>sans équivalent : %1</translation>
     </message>
@@ -644,6 +736,18 @@
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>
         <translation>sslmode "%1" n'existe pas ; possibles : %2</translation>
+    </message>
+    <message>
+        <source>true oder false wird erwartet</source>
+        <translation>true ou false est attendu</translation>
+    </message>
+    <message>
+        <source>unbekannte Art „%1“; bekannt sind %2</source>
+        <translation>genre inconnu « %1 » ; connus : %2</translation>
+    </message>
+    <message>
+        <source>unbekannter Typ „%1“; bekannt sind %2</source>
+        <translation>type inconnu « %1 » ; connus : %2</translation>
     </message>
     <message>
         <source>verschieden: %1</source>
@@ -670,12 +774,28 @@
         <translation>« %1 » n'a pas de pas ; écrivez-le comme 10..50/5</translation>
     </message>
     <message>
+        <source>„%1“ ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>« %1 » est une adresse ; seuls les fichiers sont lus</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Datum; schreiben Sie es wie 2026-01-31T12:00:00Z</source>
+        <translation>« %1 » n'est pas une date ; écrivez-la comme 2026-01-31T12:00:00Z</translation>
+    </message>
+    <message>
         <source>„%1“ ist kein Wertebereich von %2: %3</source>
         <translation>« %1 » n'est pas une plage de valeurs de %2 : %3</translation>
     </message>
     <message>
         <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
         <translation>« %1 » n'est pas un numéro de ligne, c'est-à-dire un entier de 0 à 2147483647</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb der Kataloge; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>« %1 » se trouve hors des catalogues ; déplacez-le ou autorisez son répertoire</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>« %1 » se trouve hors de « %2 » ; déplacez-le ou autorisez son répertoire</translation>
     </message>
 </context>
 </TS>

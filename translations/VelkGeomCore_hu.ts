@@ -506,8 +506,20 @@
   Megfelelő nélkül: %1</translation>
     </message>
     <message>
+        <source>das Dezimalzeichen ist „.“ oder „,“</source>
+        <translation>a tizedesjel „.” vagy „,”</translation>
+    </message>
+    <message>
         <source>das Ende</source>
         <translation>a vége</translation>
+    </message>
+    <message>
+        <source>das Feld hat keinen Namen</source>
+        <translation>a mezőnek nincs neve</translation>
+    </message>
+    <message>
+        <source>das Feld „%1“ gibt es zweimal</source>
+        <translation>a(z) „%1” mező kétszer szerepel</translation>
     </message>
     <message>
         <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
@@ -518,8 +530,24 @@
         <translation>a projekt nem lett beolvasva</translation>
     </message>
     <message>
+        <source>das berechnete Feld „%1“ hat keine Formel</source>
+        <translation>a számított „%1” mezőnek nincs képlete</translation>
+    </message>
+    <message>
+        <source>das ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>ez egy cím; csak fájlok olvashatók</translation>
+    </message>
+    <message>
         <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
         <translation>a leíróban lineSubIdField van lineIdField nélkül</translation>
+    </message>
+    <message>
+        <source>der Eintrag „%1“ steht zweimal da</source>
+        <translation>a(z) „%1” bejegyzés kétszer szerepel</translation>
+    </message>
+    <message>
+        <source>der Name der Datei enthält ein NUL-Zeichen</source>
+        <translation>a fájl neve NUL karaktert tartalmaz</translation>
     </message>
     <message>
         <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
@@ -528,6 +556,10 @@
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
         <translation>a cella idézőjelei nem alkotnak párt</translation>
+    </message>
+    <message>
+        <source>die Bedingung hat keinen Namen</source>
+        <translation>a feltételnek nincs neve</translation>
     </message>
     <message>
         <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
@@ -566,6 +598,10 @@
         <translation>a(z) „%1” oszlop kétszer szerepel</translation>
     </message>
     <message>
+        <source>die Sperrdatei daneben lässt sich nicht schreiben</source>
+        <translation>a mellette lévő zárolófájl nem írható</translation>
+    </message>
+    <message>
         <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
         <translation>„%1” számai túl sok jegyűek</translation>
     </message>
@@ -586,8 +622,28 @@
         <translation>egy idézőjel nincs lezárva</translation>
     </message>
     <message>
+        <source>ein Feld wird erwartet, also ein Objekt</source>
+        <translation>mező szükséges, azaz objektum</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit Texten wird erwartet</source>
+        <translation>szövegek objektuma szükséges</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit einem Eintrag für jede Sprache wird erwartet</source>
+        <translation>objektum szükséges, minden nyelvhez egy bejegyzéssel</translation>
+    </message>
+    <message>
+        <source>ein Objekt wird erwartet</source>
+        <translation>objektum szükséges</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>műveleti jel vagy a vége</translation>
+    </message>
+    <message>
+        <source>ein Text wird erwartet</source>
+        <translation>szöveg szükséges</translation>
     </message>
     <message>
         <source>ein Variablenname</source>
@@ -602,6 +658,30 @@
         <translation>egy érték a pontosvesszők között üres</translation>
     </message>
     <message>
+        <source>eine Bedingung wird erwartet, also ein Objekt</source>
+        <translation>feltétel szükséges, azaz objektum</translation>
+    </message>
+    <message>
+        <source>eine Liste von Bedingungen wird erwartet</source>
+        <translation>feltételek listája szükséges</translation>
+    </message>
+    <message>
+        <source>eine Liste von Feldern wird erwartet</source>
+        <translation>mezők listája szükséges</translation>
+    </message>
+    <message>
+        <source>eine Liste von Texten wird erwartet</source>
+        <translation>szövegek listája szükséges</translation>
+    </message>
+    <message>
+        <source>eine Zahl wird erwartet</source>
+        <translation>szám szükséges</translation>
+    </message>
+    <message>
+        <source>eine ganze Zahl von 0 bis 2147483647 wird erwartet</source>
+        <translation>0 és 2147483647 közötti egész szám szükséges</translation>
+    </message>
+    <message>
         <source>eine schließende Klammer</source>
         <translation>záró zárójel</translation>
     </message>
@@ -614,12 +694,20 @@
         <translation>lecserélve: %1</translation>
     </message>
     <message>
+        <source>gesperrt von %1 auf %2 (Prozess %3)</source>
+        <translation>zárolta: %1, itt: %2 (folyamat: %3)</translation>
+    </message>
+    <message>
         <source>gleich: %1</source>
         <translation>azonos: %1</translation>
     </message>
     <message>
         <source>kein Wert</source>
         <translation>nincs érték</translation>
+    </message>
+    <message>
+        <source>kein gültiges JSON: %1</source>
+        <translation>érvénytelen JSON: %1</translation>
     </message>
     <message>
         <source>lässt sich nicht lesen: %1</source>
@@ -634,6 +722,10 @@
         <translation>több sor, mint amennyi egy táblázatba fér</translation>
     </message>
     <message>
+        <source>mehr als 64 Ebenen tief</source>
+        <translation>64 szintnél mélyebb</translation>
+    </message>
+    <message>
         <source>ohne Gegenstück: %1</source>
         <translation>pár nélkül: %1</translation>
     </message>
@@ -644,6 +736,18 @@
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>
         <translation>Nincs "%1" sslmode; lehetséges: %2</translation>
+    </message>
+    <message>
+        <source>true oder false wird erwartet</source>
+        <translation>true vagy false szükséges</translation>
+    </message>
+    <message>
+        <source>unbekannte Art „%1“; bekannt sind %2</source>
+        <translation>ismeretlen fajta: „%1”; ismertek: %2</translation>
+    </message>
+    <message>
+        <source>unbekannter Typ „%1“; bekannt sind %2</source>
+        <translation>ismeretlen típus: „%1”; ismertek: %2</translation>
     </message>
     <message>
         <source>verschieden: %1</source>
@@ -670,12 +774,28 @@
         <translation>„%1” lépésköz nélküli; írja így: 10..50/5</translation>
     </message>
     <message>
+        <source>„%1“ ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>a(z) „%1” cím; csak fájlok olvashatók</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Datum; schreiben Sie es wie 2026-01-31T12:00:00Z</source>
+        <translation>a(z) „%1” nem dátum; írja így: 2026-01-31T12:00:00Z</translation>
+    </message>
+    <message>
         <source>„%1“ ist kein Wertebereich von %2: %3</source>
         <translation>„%1” nem értéktartománya ennek: %2: %3</translation>
     </message>
     <message>
         <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
         <translation>„%1” nem sorszám, vagyis nem 0 és 2147483647 közötti egész</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb der Kataloge; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>a(z) „%1” a katalógusokon kívül van; helyezze át oda, vagy engedélyezze a könyvtárát</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>a(z) „%1” ezen kívül van: „%2”; helyezze át oda, vagy engedélyezze a könyvtárát</translation>
     </message>
 </context>
 </TS>

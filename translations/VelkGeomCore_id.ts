@@ -506,8 +506,20 @@
   Tanpa padanan: %1</translation>
     </message>
     <message>
+        <source>das Dezimalzeichen ist „.“ oder „,“</source>
+        <translation>karakter desimal adalah “.” atau “,”</translation>
+    </message>
+    <message>
         <source>das Ende</source>
         <translation>akhir</translation>
+    </message>
+    <message>
+        <source>das Feld hat keinen Namen</source>
+        <translation>kolom tidak memiliki nama</translation>
+    </message>
+    <message>
+        <source>das Feld „%1“ gibt es zweimal</source>
+        <translation>kolom “%1” ada dua kali</translation>
     </message>
     <message>
         <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
@@ -518,8 +530,24 @@
         <translation>proyek tidak dibaca</translation>
     </message>
     <message>
+        <source>das berechnete Feld „%1“ hat keine Formel</source>
+        <translation>kolom hitungan “%1” tidak memiliki rumus</translation>
+    </message>
+    <message>
+        <source>das ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>itu adalah alamat; hanya berkas yang dibaca</translation>
+    </message>
+    <message>
         <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
         <translation>deskriptor memiliki lineSubIdField tanpa lineIdField</translation>
+    </message>
+    <message>
+        <source>der Eintrag „%1“ steht zweimal da</source>
+        <translation>entri “%1” ada dua kali</translation>
+    </message>
+    <message>
+        <source>der Name der Datei enthält ein NUL-Zeichen</source>
+        <translation>nama berkas berisi karakter NUL</translation>
     </message>
     <message>
         <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
@@ -528,6 +556,10 @@
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
         <translation>tanda kutip sel tidak berpasangan</translation>
+    </message>
+    <message>
+        <source>die Bedingung hat keinen Namen</source>
+        <translation>kondisi tidak memiliki nama</translation>
     </message>
     <message>
         <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
@@ -566,6 +598,10 @@
         <translation>kolom "%1" ada dua kali</translation>
     </message>
     <message>
+        <source>die Sperrdatei daneben lässt sich nicht schreiben</source>
+        <translation>berkas kunci di sebelahnya tidak dapat ditulis</translation>
+    </message>
+    <message>
         <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
         <translation>bilangan "%1" terlalu banyak digit</translation>
     </message>
@@ -586,8 +622,28 @@
         <translation>sebuah tanda kutip tidak ditutup</translation>
     </message>
     <message>
+        <source>ein Feld wird erwartet, also ein Objekt</source>
+        <translation>diharapkan sebuah kolom, yaitu objek</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit Texten wird erwartet</source>
+        <translation>diharapkan objek berisi teks</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit einem Eintrag für jede Sprache wird erwartet</source>
+        <translation>diharapkan objek dengan entri untuk setiap bahasa</translation>
+    </message>
+    <message>
+        <source>ein Objekt wird erwartet</source>
+        <translation>diharapkan sebuah objek</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>operator atau akhir</translation>
+    </message>
+    <message>
+        <source>ein Text wird erwartet</source>
+        <translation>diharapkan sebuah teks</translation>
     </message>
     <message>
         <source>ein Variablenname</source>
@@ -602,6 +658,30 @@
         <translation>sebuah nilai di antara titik koma kosong</translation>
     </message>
     <message>
+        <source>eine Bedingung wird erwartet, also ein Objekt</source>
+        <translation>diharapkan sebuah kondisi, yaitu objek</translation>
+    </message>
+    <message>
+        <source>eine Liste von Bedingungen wird erwartet</source>
+        <translation>diharapkan daftar kondisi</translation>
+    </message>
+    <message>
+        <source>eine Liste von Feldern wird erwartet</source>
+        <translation>diharapkan daftar kolom</translation>
+    </message>
+    <message>
+        <source>eine Liste von Texten wird erwartet</source>
+        <translation>diharapkan daftar teks</translation>
+    </message>
+    <message>
+        <source>eine Zahl wird erwartet</source>
+        <translation>diharapkan sebuah bilangan</translation>
+    </message>
+    <message>
+        <source>eine ganze Zahl von 0 bis 2147483647 wird erwartet</source>
+        <translation>diharapkan bilangan bulat dari 0 sampai 2147483647</translation>
+    </message>
+    <message>
         <source>eine schließende Klammer</source>
         <translation>kurung tutup</translation>
     </message>
@@ -614,12 +694,20 @@
         <translation>diganti: %1</translation>
     </message>
     <message>
+        <source>gesperrt von %1 auf %2 (Prozess %3)</source>
+        <translation>dikunci oleh %1 di %2 (proses %3)</translation>
+    </message>
+    <message>
         <source>gleich: %1</source>
         <translation>sama: %1</translation>
     </message>
     <message>
         <source>kein Wert</source>
         <translation>tanpa nilai</translation>
+    </message>
+    <message>
+        <source>kein gültiges JSON: %1</source>
+        <translation>JSON tidak sah: %1</translation>
     </message>
     <message>
         <source>lässt sich nicht lesen: %1</source>
@@ -634,6 +722,10 @@
         <translation>baris lebih banyak daripada yang dapat dimuat tabel</translation>
     </message>
     <message>
+        <source>mehr als 64 Ebenen tief</source>
+        <translation>lebih dari 64 tingkat</translation>
+    </message>
+    <message>
         <source>ohne Gegenstück: %1</source>
         <translation>tanpa padanan: %1</translation>
     </message>
@@ -644,6 +736,18 @@
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>
         <translation>sslmode "%1" tidak ada; yang mungkin: %2</translation>
+    </message>
+    <message>
+        <source>true oder false wird erwartet</source>
+        <translation>diharapkan true atau false</translation>
+    </message>
+    <message>
+        <source>unbekannte Art „%1“; bekannt sind %2</source>
+        <translation>jenis “%1” tidak dikenal; yang dikenal: %2</translation>
+    </message>
+    <message>
+        <source>unbekannter Typ „%1“; bekannt sind %2</source>
+        <translation>tipe “%1” tidak dikenal; yang dikenal: %2</translation>
     </message>
     <message>
         <source>verschieden: %1</source>
@@ -670,12 +774,28 @@
         <translation>"%1" tidak memiliki langkah; tulis seperti 10..50/5</translation>
     </message>
     <message>
+        <source>„%1“ ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>“%1” adalah alamat; hanya berkas yang dibaca</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Datum; schreiben Sie es wie 2026-01-31T12:00:00Z</source>
+        <translation>“%1” bukan tanggal; tulis seperti 2026-01-31T12:00:00Z</translation>
+    </message>
+    <message>
         <source>„%1“ ist kein Wertebereich von %2: %3</source>
         <translation>"%1" bukan rentang nilai %2: %3</translation>
     </message>
     <message>
         <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
         <translation>"%1" bukan nomor baris, yaitu bilangan bulat dari 0 sampai 2147483647</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb der Kataloge; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>“%1” berada di luar katalog; pindahkan ke sana, atau izinkan direktorinya</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>“%1” berada di luar “%2”; pindahkan ke sana, atau izinkan direktorinya</translation>
     </message>
 </context>
 </TS>

@@ -506,8 +506,20 @@
   Senza corrispondente: %1</translation>
     </message>
     <message>
+        <source>das Dezimalzeichen ist „.“ oder „,“</source>
+        <translation>il carattere decimale è «.» o «,»</translation>
+    </message>
+    <message>
         <source>das Ende</source>
         <translation>la fine</translation>
+    </message>
+    <message>
+        <source>das Feld hat keinen Namen</source>
+        <translation>il campo non ha nome</translation>
+    </message>
+    <message>
+        <source>das Feld „%1“ gibt es zweimal</source>
+        <translation>il campo «%1» compare due volte</translation>
     </message>
     <message>
         <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
@@ -518,8 +530,24 @@
         <translation>il progetto non è stato letto</translation>
     </message>
     <message>
+        <source>das berechnete Feld „%1“ hat keine Formel</source>
+        <translation>il campo calcolato «%1» non ha formula</translation>
+    </message>
+    <message>
+        <source>das ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>è un indirizzo; si leggono solo file</translation>
+    </message>
+    <message>
         <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
         <translation>il descrittore ha un lineSubIdField senza lineIdField</translation>
+    </message>
+    <message>
+        <source>der Eintrag „%1“ steht zweimal da</source>
+        <translation>la voce «%1» compare due volte</translation>
+    </message>
+    <message>
+        <source>der Name der Datei enthält ein NUL-Zeichen</source>
+        <translation>il nome del file contiene un carattere NUL</translation>
     </message>
     <message>
         <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
@@ -528,6 +556,10 @@
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
         <translation>le virgolette della cella non sono appaiate</translation>
+    </message>
+    <message>
+        <source>die Bedingung hat keinen Namen</source>
+        <translation>la condizione non ha nome</translation>
     </message>
     <message>
         <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
@@ -566,6 +598,10 @@
         <translation>la colonna "%1" compare due volte</translation>
     </message>
     <message>
+        <source>die Sperrdatei daneben lässt sich nicht schreiben</source>
+        <translation>il file di blocco accanto non può essere scritto</translation>
+    </message>
+    <message>
         <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
         <translation>i numeri di "%1" hanno troppe cifre</translation>
     </message>
@@ -586,8 +622,28 @@
         <translation>le virgolette non vengono chiuse</translation>
     </message>
     <message>
+        <source>ein Feld wird erwartet, also ein Objekt</source>
+        <translation>si attende un campo, cioè un oggetto</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit Texten wird erwartet</source>
+        <translation>si attende un oggetto di testi</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit einem Eintrag für jede Sprache wird erwartet</source>
+        <translation>si attende un oggetto con una voce per ogni lingua</translation>
+    </message>
+    <message>
+        <source>ein Objekt wird erwartet</source>
+        <translation>si attende un oggetto</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>un operatore o la fine</translation>
+    </message>
+    <message>
+        <source>ein Text wird erwartet</source>
+        <translation>si attende un testo</translation>
     </message>
     <message>
         <source>ein Variablenname</source>
@@ -602,6 +658,30 @@
         <translation>un valore tra i punti e virgola è vuoto</translation>
     </message>
     <message>
+        <source>eine Bedingung wird erwartet, also ein Objekt</source>
+        <translation>si attende una condizione, cioè un oggetto</translation>
+    </message>
+    <message>
+        <source>eine Liste von Bedingungen wird erwartet</source>
+        <translation>si attende un elenco di condizioni</translation>
+    </message>
+    <message>
+        <source>eine Liste von Feldern wird erwartet</source>
+        <translation>si attende un elenco di campi</translation>
+    </message>
+    <message>
+        <source>eine Liste von Texten wird erwartet</source>
+        <translation>si attende un elenco di testi</translation>
+    </message>
+    <message>
+        <source>eine Zahl wird erwartet</source>
+        <translation>si attende un numero</translation>
+    </message>
+    <message>
+        <source>eine ganze Zahl von 0 bis 2147483647 wird erwartet</source>
+        <translation>si attende un numero intero da 0 a 2147483647</translation>
+    </message>
+    <message>
         <source>eine schließende Klammer</source>
         <translation>una parentesi chiusa</translation>
     </message>
@@ -614,12 +694,20 @@
         <translation>sostituito: %1</translation>
     </message>
     <message>
+        <source>gesperrt von %1 auf %2 (Prozess %3)</source>
+        <translation>bloccato da %1 su %2 (processo %3)</translation>
+    </message>
+    <message>
         <source>gleich: %1</source>
         <translation>uguale: %1</translation>
     </message>
     <message>
         <source>kein Wert</source>
         <translation>nessun valore</translation>
+    </message>
+    <message>
+        <source>kein gültiges JSON: %1</source>
+        <translation>JSON non valido: %1</translation>
     </message>
     <message>
         <source>lässt sich nicht lesen: %1</source>
@@ -634,6 +722,10 @@
         <translation>più righe di quante ne contenga una tabella</translation>
     </message>
     <message>
+        <source>mehr als 64 Ebenen tief</source>
+        <translation>oltre 64 livelli di profondità</translation>
+    </message>
+    <message>
         <source>ohne Gegenstück: %1</source>
         <translation>senza corrispondente: %1</translation>
     </message>
@@ -644,6 +736,18 @@
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>
         <translation>sslmode "%1" non esiste; possibili: %2</translation>
+    </message>
+    <message>
+        <source>true oder false wird erwartet</source>
+        <translation>si attende true o false</translation>
+    </message>
+    <message>
+        <source>unbekannte Art „%1“; bekannt sind %2</source>
+        <translation>genere sconosciuto «%1»; noti: %2</translation>
+    </message>
+    <message>
+        <source>unbekannter Typ „%1“; bekannt sind %2</source>
+        <translation>tipo sconosciuto «%1»; noti: %2</translation>
     </message>
     <message>
         <source>verschieden: %1</source>
@@ -670,12 +774,28 @@
         <translation>"%1" non ha un passo; scriverlo come 10..50/5</translation>
     </message>
     <message>
+        <source>„%1“ ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>«%1» è un indirizzo; si leggono solo file</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Datum; schreiben Sie es wie 2026-01-31T12:00:00Z</source>
+        <translation>«%1» non è una data; scriverla come 2026-01-31T12:00:00Z</translation>
+    </message>
+    <message>
         <source>„%1“ ist kein Wertebereich von %2: %3</source>
         <translation>"%1" non è un intervallo di valori di %2: %3</translation>
     </message>
     <message>
         <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
         <translation>"%1" non è un numero di riga, cioè un intero da 0 a 2147483647</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb der Kataloge; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>«%1» si trova fuori dai cataloghi; spostarlo lì, o consentirne la cartella</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>«%1» si trova fuori da «%2»; spostarlo lì, o consentirne la cartella</translation>
     </message>
 </context>
 </TS>

@@ -506,8 +506,20 @@
   対応なし: %1</translation>
     </message>
     <message>
+        <source>das Dezimalzeichen ist „.“ oder „,“</source>
+        <translation>小数点の文字は「.」または「,」です</translation>
+    </message>
+    <message>
         <source>das Ende</source>
         <translation>末尾</translation>
+    </message>
+    <message>
+        <source>das Feld hat keinen Namen</source>
+        <translation>フィールドに名前がありません</translation>
+    </message>
+    <message>
+        <source>das Feld „%1“ gibt es zweimal</source>
+        <translation>フィールド「%1」が2回あります</translation>
     </message>
     <message>
         <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
@@ -518,8 +530,24 @@
         <translation>プロジェクトは読み取られませんでした</translation>
     </message>
     <message>
+        <source>das berechnete Feld „%1“ hat keine Formel</source>
+        <translation>計算フィールド「%1」に式がありません</translation>
+    </message>
+    <message>
+        <source>das ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>アドレスです。ファイルだけが読み込まれます</translation>
+    </message>
+    <message>
         <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
         <translation>記述子に lineIdField のない lineSubIdField があります</translation>
+    </message>
+    <message>
+        <source>der Eintrag „%1“ steht zweimal da</source>
+        <translation>項目「%1」が2回あります</translation>
+    </message>
+    <message>
+        <source>der Name der Datei enthält ein NUL-Zeichen</source>
+        <translation>ファイル名に NUL 文字が含まれています</translation>
     </message>
     <message>
         <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
@@ -528,6 +556,10 @@
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
         <translation>セルの引用符が対になっていません</translation>
+    </message>
+    <message>
+        <source>die Bedingung hat keinen Namen</source>
+        <translation>条件に名前がありません</translation>
     </message>
     <message>
         <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
@@ -566,6 +598,10 @@
         <translation>列「%1」が二つあります</translation>
     </message>
     <message>
+        <source>die Sperrdatei daneben lässt sich nicht schreiben</source>
+        <translation>隣のロックファイルに書き込めません</translation>
+    </message>
+    <message>
         <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
         <translation>「%1」の数の桁が多すぎます</translation>
     </message>
@@ -586,8 +622,28 @@
         <translation>引用符が閉じられていません</translation>
     </message>
     <message>
+        <source>ein Feld wird erwartet, also ein Objekt</source>
+        <translation>フィールド（オブジェクト）が必要です</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit Texten wird erwartet</source>
+        <translation>テキストのオブジェクトが必要です</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit einem Eintrag für jede Sprache wird erwartet</source>
+        <translation>言語ごとの項目を持つオブジェクトが必要です</translation>
+    </message>
+    <message>
+        <source>ein Objekt wird erwartet</source>
+        <translation>オブジェクトが必要です</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>演算子または末尾</translation>
+    </message>
+    <message>
+        <source>ein Text wird erwartet</source>
+        <translation>テキストが必要です</translation>
     </message>
     <message>
         <source>ein Variablenname</source>
@@ -602,6 +658,30 @@
         <translation>セミコロンの間の値が空です</translation>
     </message>
     <message>
+        <source>eine Bedingung wird erwartet, also ein Objekt</source>
+        <translation>条件（オブジェクト）が必要です</translation>
+    </message>
+    <message>
+        <source>eine Liste von Bedingungen wird erwartet</source>
+        <translation>条件のリストが必要です</translation>
+    </message>
+    <message>
+        <source>eine Liste von Feldern wird erwartet</source>
+        <translation>フィールドのリストが必要です</translation>
+    </message>
+    <message>
+        <source>eine Liste von Texten wird erwartet</source>
+        <translation>テキストのリストが必要です</translation>
+    </message>
+    <message>
+        <source>eine Zahl wird erwartet</source>
+        <translation>数値が必要です</translation>
+    </message>
+    <message>
+        <source>eine ganze Zahl von 0 bis 2147483647 wird erwartet</source>
+        <translation>0 から 2147483647 までの整数が必要です</translation>
+    </message>
+    <message>
         <source>eine schließende Klammer</source>
         <translation>閉じ括弧</translation>
     </message>
@@ -614,12 +694,20 @@
         <translation>置換: %1</translation>
     </message>
     <message>
+        <source>gesperrt von %1 auf %2 (Prozess %3)</source>
+        <translation>%2 の %1 がロックしています（プロセス %3）</translation>
+    </message>
+    <message>
         <source>gleich: %1</source>
         <translation>同じ: %1</translation>
     </message>
     <message>
         <source>kein Wert</source>
         <translation>値なし</translation>
+    </message>
+    <message>
+        <source>kein gültiges JSON: %1</source>
+        <translation>有効な JSON ではありません: %1</translation>
     </message>
     <message>
         <source>lässt sich nicht lesen: %1</source>
@@ -634,6 +722,10 @@
         <translation>表に収まる数より行が多すぎます</translation>
     </message>
     <message>
+        <source>mehr als 64 Ebenen tief</source>
+        <translation>64 階層より深くなっています</translation>
+    </message>
+    <message>
         <source>ohne Gegenstück: %1</source>
         <translation>対応なし: %1</translation>
     </message>
@@ -644,6 +736,18 @@
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>
         <translation>sslmode "%1" はありません。使えるもの: %2</translation>
+    </message>
+    <message>
+        <source>true oder false wird erwartet</source>
+        <translation>true または false が必要です</translation>
+    </message>
+    <message>
+        <source>unbekannte Art „%1“; bekannt sind %2</source>
+        <translation>不明な種類「%1」です。使えるのは %2 です</translation>
+    </message>
+    <message>
+        <source>unbekannter Typ „%1“; bekannt sind %2</source>
+        <translation>不明な型「%1」です。使えるのは %2 です</translation>
     </message>
     <message>
         <source>verschieden: %1</source>
@@ -670,12 +774,28 @@
         <translation>「%1」に刻みがありません。10..50/5 のように書いてください</translation>
     </message>
     <message>
+        <source>„%1“ ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>「%1」はアドレスです。ファイルだけが読み込まれます</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Datum; schreiben Sie es wie 2026-01-31T12:00:00Z</source>
+        <translation>「%1」は日付ではありません。2026-01-31T12:00:00Z のように書いてください</translation>
+    </message>
+    <message>
         <source>„%1“ ist kein Wertebereich von %2: %3</source>
         <translation>「%1」は %2 の値範囲ではありません: %3</translation>
     </message>
     <message>
         <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
         <translation>「%1」は行番号 (0 から 2147483647 の整数) ではありません</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb der Kataloge; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>「%1」はカタログの外にあります。カタログに移すか、そのディレクトリを許可してください</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>「%1」は「%2」の外にあります。そこに移すか、そのディレクトリを許可してください</translation>
     </message>
 </context>
 </TS>

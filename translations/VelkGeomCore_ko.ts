@@ -506,8 +506,20 @@
   대응 없음: %1</translation>
     </message>
     <message>
+        <source>das Dezimalzeichen ist „.“ oder „,“</source>
+        <translation>소수점 문자는 ‘.’ 또는 ‘,’입니다</translation>
+    </message>
+    <message>
         <source>das Ende</source>
         <translation>끝</translation>
+    </message>
+    <message>
+        <source>das Feld hat keinen Namen</source>
+        <translation>필드에 이름이 없습니다</translation>
+    </message>
+    <message>
+        <source>das Feld „%1“ gibt es zweimal</source>
+        <translation>필드 ‘%1’이(가) 두 번 있습니다</translation>
     </message>
     <message>
         <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
@@ -518,8 +530,24 @@
         <translation>프로젝트를 읽지 않았습니다</translation>
     </message>
     <message>
+        <source>das berechnete Feld „%1“ hat keine Formel</source>
+        <translation>계산 필드 ‘%1’에 수식이 없습니다</translation>
+    </message>
+    <message>
+        <source>das ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>주소입니다. 파일만 읽습니다</translation>
+    </message>
+    <message>
         <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
         <translation>설명자에 lineIdField 없이 lineSubIdField가 있습니다</translation>
+    </message>
+    <message>
+        <source>der Eintrag „%1“ steht zweimal da</source>
+        <translation>항목 ‘%1’이(가) 두 번 있습니다</translation>
+    </message>
+    <message>
+        <source>der Name der Datei enthält ein NUL-Zeichen</source>
+        <translation>파일 이름에 NUL 문자가 있습니다</translation>
     </message>
     <message>
         <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
@@ -528,6 +556,10 @@
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
         <translation>셀의 따옴표가 짝이 맞지 않습니다</translation>
+    </message>
+    <message>
+        <source>die Bedingung hat keinen Namen</source>
+        <translation>조건에 이름이 없습니다</translation>
     </message>
     <message>
         <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
@@ -566,6 +598,10 @@
         <translation>열 "%1"이(가) 두 번 있습니다</translation>
     </message>
     <message>
+        <source>die Sperrdatei daneben lässt sich nicht schreiben</source>
+        <translation>옆의 잠금 파일에 쓸 수 없습니다</translation>
+    </message>
+    <message>
         <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
         <translation>"%1"의 숫자 자릿수가 너무 많습니다</translation>
     </message>
@@ -586,8 +622,28 @@
         <translation>따옴표가 닫히지 않았습니다</translation>
     </message>
     <message>
+        <source>ein Feld wird erwartet, also ein Objekt</source>
+        <translation>필드, 즉 객체가 필요합니다</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit Texten wird erwartet</source>
+        <translation>텍스트의 객체가 필요합니다</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit einem Eintrag für jede Sprache wird erwartet</source>
+        <translation>언어마다 항목이 있는 객체가 필요합니다</translation>
+    </message>
+    <message>
+        <source>ein Objekt wird erwartet</source>
+        <translation>객체가 필요합니다</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>연산자 또는 끝</translation>
+    </message>
+    <message>
+        <source>ein Text wird erwartet</source>
+        <translation>텍스트가 필요합니다</translation>
     </message>
     <message>
         <source>ein Variablenname</source>
@@ -602,6 +658,30 @@
         <translation>세미콜론 사이의 값이 비어 있습니다</translation>
     </message>
     <message>
+        <source>eine Bedingung wird erwartet, also ein Objekt</source>
+        <translation>조건, 즉 객체가 필요합니다</translation>
+    </message>
+    <message>
+        <source>eine Liste von Bedingungen wird erwartet</source>
+        <translation>조건 목록이 필요합니다</translation>
+    </message>
+    <message>
+        <source>eine Liste von Feldern wird erwartet</source>
+        <translation>필드 목록이 필요합니다</translation>
+    </message>
+    <message>
+        <source>eine Liste von Texten wird erwartet</source>
+        <translation>텍스트 목록이 필요합니다</translation>
+    </message>
+    <message>
+        <source>eine Zahl wird erwartet</source>
+        <translation>숫자가 필요합니다</translation>
+    </message>
+    <message>
+        <source>eine ganze Zahl von 0 bis 2147483647 wird erwartet</source>
+        <translation>0에서 2147483647까지의 정수가 필요합니다</translation>
+    </message>
+    <message>
         <source>eine schließende Klammer</source>
         <translation>닫는 괄호</translation>
     </message>
@@ -614,12 +694,20 @@
         <translation>대체됨: %1</translation>
     </message>
     <message>
+        <source>gesperrt von %1 auf %2 (Prozess %3)</source>
+        <translation>%2의 %1이(가) 잠갔습니다(프로세스 %3)</translation>
+    </message>
+    <message>
         <source>gleich: %1</source>
         <translation>같음: %1</translation>
     </message>
     <message>
         <source>kein Wert</source>
         <translation>값 없음</translation>
+    </message>
+    <message>
+        <source>kein gültiges JSON: %1</source>
+        <translation>유효한 JSON이 아님: %1</translation>
     </message>
     <message>
         <source>lässt sich nicht lesen: %1</source>
@@ -634,6 +722,10 @@
         <translation>표가 담을 수 있는 것보다 행이 많습니다</translation>
     </message>
     <message>
+        <source>mehr als 64 Ebenen tief</source>
+        <translation>64단계보다 깊음</translation>
+    </message>
+    <message>
         <source>ohne Gegenstück: %1</source>
         <translation>대응 없음: %1</translation>
     </message>
@@ -644,6 +736,18 @@
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>
         <translation>sslmode "%1"은(는) 없습니다. 가능한 값: %2</translation>
+    </message>
+    <message>
+        <source>true oder false wird erwartet</source>
+        <translation>true 또는 false가 필요합니다</translation>
+    </message>
+    <message>
+        <source>unbekannte Art „%1“; bekannt sind %2</source>
+        <translation>알 수 없는 종류 ‘%1’. 알려진 것: %2</translation>
+    </message>
+    <message>
+        <source>unbekannter Typ „%1“; bekannt sind %2</source>
+        <translation>알 수 없는 유형 ‘%1’. 알려진 것: %2</translation>
     </message>
     <message>
         <source>verschieden: %1</source>
@@ -670,12 +774,28 @@
         <translation>"%1"에 간격이 없습니다. 10..50/5처럼 쓰십시오</translation>
     </message>
     <message>
+        <source>„%1“ ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>‘%1’은(는) 주소입니다. 파일만 읽습니다</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Datum; schreiben Sie es wie 2026-01-31T12:00:00Z</source>
+        <translation>‘%1’은(는) 날짜가 아닙니다. 2026-01-31T12:00:00Z처럼 쓰십시오</translation>
+    </message>
+    <message>
         <source>„%1“ ist kein Wertebereich von %2: %3</source>
         <translation>"%1"은(는) %2의 값 범위가 아닙니다: %3</translation>
     </message>
     <message>
         <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
         <translation>"%1"은(는) 행 번호(0에서 2147483647까지의 정수)가 아닙니다</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb der Kataloge; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>‘%1’은(는) 카탈로그 밖에 있습니다. 그리로 옮기거나 그 디렉터리를 허용하십시오</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>‘%1’은(는) ‘%2’ 밖에 있습니다. 그리로 옮기거나 그 디렉터리를 허용하십시오</translation>
     </message>
 </context>
 </TS>

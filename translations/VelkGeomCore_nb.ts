@@ -506,8 +506,20 @@
   Uten motpart: %1</translation>
     </message>
     <message>
+        <source>das Dezimalzeichen ist „.“ oder „,“</source>
+        <translation>desimaltegnet er «.» eller «,»</translation>
+    </message>
+    <message>
         <source>das Ende</source>
         <translation>slutten</translation>
+    </message>
+    <message>
+        <source>das Feld hat keinen Namen</source>
+        <translation>feltet har ikke noe navn</translation>
+    </message>
+    <message>
+        <source>das Feld „%1“ gibt es zweimal</source>
+        <translation>feltet «%1» finnes to ganger</translation>
     </message>
     <message>
         <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
@@ -518,8 +530,24 @@
         <translation>prosjektet ble ikke lest</translation>
     </message>
     <message>
+        <source>das berechnete Feld „%1“ hat keine Formel</source>
+        <translation>det beregnede feltet «%1» har ingen formel</translation>
+    </message>
+    <message>
+        <source>das ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>det er en adresse; bare filer leses</translation>
+    </message>
+    <message>
         <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
         <translation>deskriptoren har et lineSubIdField uten lineIdField</translation>
+    </message>
+    <message>
+        <source>der Eintrag „%1“ steht zweimal da</source>
+        <translation>oppføringen «%1» står to ganger</translation>
+    </message>
+    <message>
+        <source>der Name der Datei enthält ein NUL-Zeichen</source>
+        <translation>filnavnet inneholder et NUL-tegn</translation>
     </message>
     <message>
         <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
@@ -528,6 +556,10 @@
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
         <translation>cellens anførselstegn passer ikke sammen</translation>
+    </message>
+    <message>
+        <source>die Bedingung hat keinen Namen</source>
+        <translation>betingelsen har ikke noe navn</translation>
     </message>
     <message>
         <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
@@ -566,6 +598,10 @@
         <translation>kolonnen "%1" finnes to ganger</translation>
     </message>
     <message>
+        <source>die Sperrdatei daneben lässt sich nicht schreiben</source>
+        <translation>låsefilen ved siden av kan ikke skrives</translation>
+    </message>
+    <message>
         <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
         <translation>tallene i "%1" har for mange siffer</translation>
     </message>
@@ -586,8 +622,28 @@
         <translation>et anførselstegn lukkes ikke</translation>
     </message>
     <message>
+        <source>ein Feld wird erwartet, also ein Objekt</source>
+        <translation>et felt ventes, altså et objekt</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit Texten wird erwartet</source>
+        <translation>et objekt med tekster ventes</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit einem Eintrag für jede Sprache wird erwartet</source>
+        <translation>et objekt med en oppføring for hvert språk ventes</translation>
+    </message>
+    <message>
+        <source>ein Objekt wird erwartet</source>
+        <translation>et objekt ventes</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>en operator eller slutten</translation>
+    </message>
+    <message>
+        <source>ein Text wird erwartet</source>
+        <translation>en tekst ventes</translation>
     </message>
     <message>
         <source>ein Variablenname</source>
@@ -602,6 +658,30 @@
         <translation>en verdi mellom semikolonene er tom</translation>
     </message>
     <message>
+        <source>eine Bedingung wird erwartet, also ein Objekt</source>
+        <translation>en betingelse ventes, altså et objekt</translation>
+    </message>
+    <message>
+        <source>eine Liste von Bedingungen wird erwartet</source>
+        <translation>en liste med betingelser ventes</translation>
+    </message>
+    <message>
+        <source>eine Liste von Feldern wird erwartet</source>
+        <translation>en liste med felt ventes</translation>
+    </message>
+    <message>
+        <source>eine Liste von Texten wird erwartet</source>
+        <translation>en liste med tekster ventes</translation>
+    </message>
+    <message>
+        <source>eine Zahl wird erwartet</source>
+        <translation>et tall ventes</translation>
+    </message>
+    <message>
+        <source>eine ganze Zahl von 0 bis 2147483647 wird erwartet</source>
+        <translation>et heltall fra 0 til 2147483647 ventes</translation>
+    </message>
+    <message>
         <source>eine schließende Klammer</source>
         <translation>en avsluttende parentes</translation>
     </message>
@@ -614,12 +694,20 @@
         <translation>erstattet: %1</translation>
     </message>
     <message>
+        <source>gesperrt von %1 auf %2 (Prozess %3)</source>
+        <translation>låst av %1 på %2 (prosess %3)</translation>
+    </message>
+    <message>
         <source>gleich: %1</source>
         <translation>lik: %1</translation>
     </message>
     <message>
         <source>kein Wert</source>
         <translation>ingen verdi</translation>
+    </message>
+    <message>
+        <source>kein gültiges JSON: %1</source>
+        <translation>ikke gyldig JSON: %1</translation>
     </message>
     <message>
         <source>lässt sich nicht lesen: %1</source>
@@ -634,6 +722,10 @@
         <translation>flere linjer enn en tabell kan romme</translation>
     </message>
     <message>
+        <source>mehr als 64 Ebenen tief</source>
+        <translation>mer enn 64 nivåer dypt</translation>
+    </message>
+    <message>
         <source>ohne Gegenstück: %1</source>
         <translation>uten motstykke: %1</translation>
     </message>
@@ -644,6 +736,18 @@
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>
         <translation>sslmode "%1" finnes ikke; mulige er: %2</translation>
+    </message>
+    <message>
+        <source>true oder false wird erwartet</source>
+        <translation>true eller false ventes</translation>
+    </message>
+    <message>
+        <source>unbekannte Art „%1“; bekannt sind %2</source>
+        <translation>ukjent slag «%1»; kjente er %2</translation>
+    </message>
+    <message>
+        <source>unbekannter Typ „%1“; bekannt sind %2</source>
+        <translation>ukjent type «%1»; kjente er %2</translation>
     </message>
     <message>
         <source>verschieden: %1</source>
@@ -670,12 +774,28 @@
         <translation>"%1" har ikke noe trinn; skriv det som 10..50/5</translation>
     </message>
     <message>
+        <source>„%1“ ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>«%1» er en adresse; bare filer leses</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Datum; schreiben Sie es wie 2026-01-31T12:00:00Z</source>
+        <translation>«%1» er ingen dato; skriv den som 2026-01-31T12:00:00Z</translation>
+    </message>
+    <message>
         <source>„%1“ ist kein Wertebereich von %2: %3</source>
         <translation>"%1" er ikke et verdiområde for %2: %3</translation>
     </message>
     <message>
         <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
         <translation>"%1" er ikke et linjenummer, altså et heltall fra 0 til 2147483647</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb der Kataloge; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>«%1» ligger utenfor katalogene; flytt den dit, eller tillat mappen</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>«%1» ligger utenfor «%2»; flytt den dit, eller tillat mappen</translation>
     </message>
 </context>
 </TS>

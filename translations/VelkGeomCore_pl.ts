@@ -506,8 +506,20 @@
   Bez odpowiednika: %1</translation>
     </message>
     <message>
+        <source>das Dezimalzeichen ist „.“ oder „,“</source>
+        <translation>znak dziesiętny to „.” lub „,”</translation>
+    </message>
+    <message>
         <source>das Ende</source>
         <translation>koniec</translation>
+    </message>
+    <message>
+        <source>das Feld hat keinen Namen</source>
+        <translation>pole nie ma nazwy</translation>
+    </message>
+    <message>
+        <source>das Feld „%1“ gibt es zweimal</source>
+        <translation>pole „%1” występuje dwa razy</translation>
     </message>
     <message>
         <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
@@ -518,8 +530,24 @@
         <translation>projekt nie został wczytany</translation>
     </message>
     <message>
+        <source>das berechnete Feld „%1“ hat keine Formel</source>
+        <translation>pole obliczane „%1” nie ma formuły</translation>
+    </message>
+    <message>
+        <source>das ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>to jest adres; czytane są tylko pliki</translation>
+    </message>
+    <message>
         <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
         <translation>deskryptor ma lineSubIdField bez lineIdField</translation>
+    </message>
+    <message>
+        <source>der Eintrag „%1“ steht zweimal da</source>
+        <translation>wpis „%1” występuje dwa razy</translation>
+    </message>
+    <message>
+        <source>der Name der Datei enthält ein NUL-Zeichen</source>
+        <translation>nazwa pliku zawiera znak NUL</translation>
     </message>
     <message>
         <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
@@ -528,6 +556,10 @@
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
         <translation>cudzysłowy komórki nie tworzą par</translation>
+    </message>
+    <message>
+        <source>die Bedingung hat keinen Namen</source>
+        <translation>warunek nie ma nazwy</translation>
     </message>
     <message>
         <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
@@ -566,6 +598,10 @@
         <translation>kolumna „%1” występuje dwukrotnie</translation>
     </message>
     <message>
+        <source>die Sperrdatei daneben lässt sich nicht schreiben</source>
+        <translation>nie można zapisać pliku blokady obok</translation>
+    </message>
+    <message>
         <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
         <translation>liczby w „%1” mają za dużo cyfr</translation>
     </message>
@@ -586,8 +622,28 @@
         <translation>cudzysłów nie jest zamknięty</translation>
     </message>
     <message>
+        <source>ein Feld wird erwartet, also ein Objekt</source>
+        <translation>oczekiwano pola, czyli obiektu</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit Texten wird erwartet</source>
+        <translation>oczekiwano obiektu z tekstami</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit einem Eintrag für jede Sprache wird erwartet</source>
+        <translation>oczekiwano obiektu z wpisem dla każdego języka</translation>
+    </message>
+    <message>
+        <source>ein Objekt wird erwartet</source>
+        <translation>oczekiwano obiektu</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>operator lub koniec</translation>
+    </message>
+    <message>
+        <source>ein Text wird erwartet</source>
+        <translation>oczekiwano tekstu</translation>
     </message>
     <message>
         <source>ein Variablenname</source>
@@ -602,6 +658,30 @@
         <translation>wartość między średnikami jest pusta</translation>
     </message>
     <message>
+        <source>eine Bedingung wird erwartet, also ein Objekt</source>
+        <translation>oczekiwano warunku, czyli obiektu</translation>
+    </message>
+    <message>
+        <source>eine Liste von Bedingungen wird erwartet</source>
+        <translation>oczekiwano listy warunków</translation>
+    </message>
+    <message>
+        <source>eine Liste von Feldern wird erwartet</source>
+        <translation>oczekiwano listy pól</translation>
+    </message>
+    <message>
+        <source>eine Liste von Texten wird erwartet</source>
+        <translation>oczekiwano listy tekstów</translation>
+    </message>
+    <message>
+        <source>eine Zahl wird erwartet</source>
+        <translation>oczekiwano liczby</translation>
+    </message>
+    <message>
+        <source>eine ganze Zahl von 0 bis 2147483647 wird erwartet</source>
+        <translation>oczekiwano liczby całkowitej od 0 do 2147483647</translation>
+    </message>
+    <message>
         <source>eine schließende Klammer</source>
         <translation>nawias zamykający</translation>
     </message>
@@ -614,12 +694,20 @@
         <translation>zastąpione: %1</translation>
     </message>
     <message>
+        <source>gesperrt von %1 auf %2 (Prozess %3)</source>
+        <translation>zablokowane przez %1 na %2 (proces %3)</translation>
+    </message>
+    <message>
         <source>gleich: %1</source>
         <translation>równe: %1</translation>
     </message>
     <message>
         <source>kein Wert</source>
         <translation>brak wartości</translation>
+    </message>
+    <message>
+        <source>kein gültiges JSON: %1</source>
+        <translation>niepoprawny JSON: %1</translation>
     </message>
     <message>
         <source>lässt sich nicht lesen: %1</source>
@@ -634,6 +722,10 @@
         <translation>więcej wierszy, niż mieści tabela</translation>
     </message>
     <message>
+        <source>mehr als 64 Ebenen tief</source>
+        <translation>ponad 64 poziomy w głąb</translation>
+    </message>
+    <message>
         <source>ohne Gegenstück: %1</source>
         <translation>bez odpowiednika: %1</translation>
     </message>
@@ -644,6 +736,18 @@
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>
         <translation>Nie ma sslmode "%1"; możliwe są: %2</translation>
+    </message>
+    <message>
+        <source>true oder false wird erwartet</source>
+        <translation>oczekiwano true lub false</translation>
+    </message>
+    <message>
+        <source>unbekannte Art „%1“; bekannt sind %2</source>
+        <translation>nieznany rodzaj „%1”; znane: %2</translation>
+    </message>
+    <message>
+        <source>unbekannter Typ „%1“; bekannt sind %2</source>
+        <translation>nieznany typ „%1”; znane: %2</translation>
     </message>
     <message>
         <source>verschieden: %1</source>
@@ -670,12 +774,28 @@
         <translation>„%1” nie ma kroku; zapisz jak 10..50/5</translation>
     </message>
     <message>
+        <source>„%1“ ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>„%1” jest adresem; czytane są tylko pliki</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Datum; schreiben Sie es wie 2026-01-31T12:00:00Z</source>
+        <translation>„%1” nie jest datą; zapisz ją jak 2026-01-31T12:00:00Z</translation>
+    </message>
+    <message>
         <source>„%1“ ist kein Wertebereich von %2: %3</source>
         <translation>„%1” nie jest zakresem wartości %2: %3</translation>
     </message>
     <message>
         <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
         <translation>„%1” nie jest numerem wiersza, czyli liczbą całkowitą od 0 do 2147483647</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb der Kataloge; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>„%1” leży poza katalogami; przenieś to tam albo zezwól na ten folder</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>„%1” leży poza „%2”; przenieś to tam albo zezwól na ten folder</translation>
     </message>
 </context>
 </TS>

@@ -506,8 +506,20 @@
   Sem correspondência: %1</translation>
     </message>
     <message>
+        <source>das Dezimalzeichen ist „.“ oder „,“</source>
+        <translation>o carácter decimal é «.» ou «,»</translation>
+    </message>
+    <message>
         <source>das Ende</source>
         <translation>o fim</translation>
+    </message>
+    <message>
+        <source>das Feld hat keinen Namen</source>
+        <translation>o campo não tem nome</translation>
+    </message>
+    <message>
+        <source>das Feld „%1“ gibt es zweimal</source>
+        <translation>o campo «%1» aparece duas vezes</translation>
     </message>
     <message>
         <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
@@ -518,8 +530,24 @@
         <translation>o projeto não foi lido</translation>
     </message>
     <message>
+        <source>das berechnete Feld „%1“ hat keine Formel</source>
+        <translation>o campo calculado «%1» não tem fórmula</translation>
+    </message>
+    <message>
+        <source>das ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>é um endereço; só se leem ficheiros</translation>
+    </message>
+    <message>
         <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
         <translation>o descritor tem lineSubIdField sem lineIdField</translation>
+    </message>
+    <message>
+        <source>der Eintrag „%1“ steht zweimal da</source>
+        <translation>a entrada «%1» aparece duas vezes</translation>
+    </message>
+    <message>
+        <source>der Name der Datei enthält ein NUL-Zeichen</source>
+        <translation>o nome do ficheiro contém um carácter NUL</translation>
     </message>
     <message>
         <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
@@ -528,6 +556,10 @@
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
         <translation>as aspas da célula não formam pares</translation>
+    </message>
+    <message>
+        <source>die Bedingung hat keinen Namen</source>
+        <translation>a condição não tem nome</translation>
     </message>
     <message>
         <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
@@ -566,6 +598,10 @@
         <translation>a coluna "%1" aparece duas vezes</translation>
     </message>
     <message>
+        <source>die Sperrdatei daneben lässt sich nicht schreiben</source>
+        <translation>não é possível escrever o ficheiro de bloqueio ao lado</translation>
+    </message>
+    <message>
         <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
         <translation>os números de "%1" têm algarismos a mais</translation>
     </message>
@@ -586,8 +622,28 @@
         <translation>umas aspas não são fechadas</translation>
     </message>
     <message>
+        <source>ein Feld wird erwartet, also ein Objekt</source>
+        <translation>espera-se um campo, ou seja, um objeto</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit Texten wird erwartet</source>
+        <translation>espera-se um objeto de textos</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit einem Eintrag für jede Sprache wird erwartet</source>
+        <translation>espera-se um objeto com uma entrada para cada língua</translation>
+    </message>
+    <message>
+        <source>ein Objekt wird erwartet</source>
+        <translation>espera-se um objeto</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>um operador ou o fim</translation>
+    </message>
+    <message>
+        <source>ein Text wird erwartet</source>
+        <translation>espera-se um texto</translation>
     </message>
     <message>
         <source>ein Variablenname</source>
@@ -602,6 +658,30 @@
         <translation>um valor entre os pontos e vírgulas está vazio</translation>
     </message>
     <message>
+        <source>eine Bedingung wird erwartet, also ein Objekt</source>
+        <translation>espera-se uma condição, ou seja, um objeto</translation>
+    </message>
+    <message>
+        <source>eine Liste von Bedingungen wird erwartet</source>
+        <translation>espera-se uma lista de condições</translation>
+    </message>
+    <message>
+        <source>eine Liste von Feldern wird erwartet</source>
+        <translation>espera-se uma lista de campos</translation>
+    </message>
+    <message>
+        <source>eine Liste von Texten wird erwartet</source>
+        <translation>espera-se uma lista de textos</translation>
+    </message>
+    <message>
+        <source>eine Zahl wird erwartet</source>
+        <translation>espera-se um número</translation>
+    </message>
+    <message>
+        <source>eine ganze Zahl von 0 bis 2147483647 wird erwartet</source>
+        <translation>espera-se um número inteiro de 0 a 2147483647</translation>
+    </message>
+    <message>
         <source>eine schließende Klammer</source>
         <translation>um parêntese de fecho</translation>
     </message>
@@ -614,12 +694,20 @@
         <translation>substituído: %1</translation>
     </message>
     <message>
+        <source>gesperrt von %1 auf %2 (Prozess %3)</source>
+        <translation>bloqueado por %1 em %2 (processo %3)</translation>
+    </message>
+    <message>
         <source>gleich: %1</source>
         <translation>igual: %1</translation>
     </message>
     <message>
         <source>kein Wert</source>
         <translation>nenhum valor</translation>
+    </message>
+    <message>
+        <source>kein gültiges JSON: %1</source>
+        <translation>JSON inválido: %1</translation>
     </message>
     <message>
         <source>lässt sich nicht lesen: %1</source>
@@ -634,6 +722,10 @@
         <translation>mais linhas do que cabem numa tabela</translation>
     </message>
     <message>
+        <source>mehr als 64 Ebenen tief</source>
+        <translation>mais de 64 níveis de profundidade</translation>
+    </message>
+    <message>
         <source>ohne Gegenstück: %1</source>
         <translation>sem correspondente: %1</translation>
     </message>
@@ -644,6 +736,18 @@
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>
         <translation>sslmode "%1" não existe; são possíveis: %2</translation>
+    </message>
+    <message>
+        <source>true oder false wird erwartet</source>
+        <translation>espera-se true ou false</translation>
+    </message>
+    <message>
+        <source>unbekannte Art „%1“; bekannt sind %2</source>
+        <translation>espécie desconhecida «%1»; conhecidas: %2</translation>
+    </message>
+    <message>
+        <source>unbekannter Typ „%1“; bekannt sind %2</source>
+        <translation>tipo desconhecido «%1»; conhecidos: %2</translation>
     </message>
     <message>
         <source>verschieden: %1</source>
@@ -670,12 +774,28 @@
         <translation>"%1" não tem passo; escreva como 10..50/5</translation>
     </message>
     <message>
+        <source>„%1“ ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>«%1» é um endereço; só se leem ficheiros</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Datum; schreiben Sie es wie 2026-01-31T12:00:00Z</source>
+        <translation>«%1» não é uma data; escreva-a como 2026-01-31T12:00:00Z</translation>
+    </message>
+    <message>
         <source>„%1“ ist kein Wertebereich von %2: %3</source>
         <translation>"%1" não é um intervalo de valores de %2: %3</translation>
     </message>
     <message>
         <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
         <translation>"%1" não é um número de linha, isto é, um inteiro de 0 a 2147483647</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb der Kataloge; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>«%1» está fora dos catálogos; mova-o para lá ou permita o seu diretório</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>«%1» está fora de «%2»; mova-o para lá ou permita o seu diretório</translation>
     </message>
 </context>
 </TS>

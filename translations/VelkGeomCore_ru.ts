@@ -506,8 +506,20 @@
   Без соответствия: %1</translation>
     </message>
     <message>
+        <source>das Dezimalzeichen ist „.“ oder „,“</source>
+        <translation>десятичный знак — «.» или «,»</translation>
+    </message>
+    <message>
         <source>das Ende</source>
         <translation>конец</translation>
+    </message>
+    <message>
+        <source>das Feld hat keinen Namen</source>
+        <translation>у поля нет имени</translation>
+    </message>
+    <message>
+        <source>das Feld „%1“ gibt es zweimal</source>
+        <translation>поле «%1» встречается дважды</translation>
     </message>
     <message>
         <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
@@ -518,8 +530,24 @@
         <translation>проект не прочитан</translation>
     </message>
     <message>
+        <source>das berechnete Feld „%1“ hat keine Formel</source>
+        <translation>у вычисляемого поля «%1» нет формулы</translation>
+    </message>
+    <message>
+        <source>das ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>это адрес; читаются только файлы</translation>
+    </message>
+    <message>
         <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
         <translation>в дескрипторе есть lineSubIdField без lineIdField</translation>
+    </message>
+    <message>
+        <source>der Eintrag „%1“ steht zweimal da</source>
+        <translation>элемент «%1» встречается дважды</translation>
+    </message>
+    <message>
+        <source>der Name der Datei enthält ein NUL-Zeichen</source>
+        <translation>имя файла содержит символ NUL</translation>
     </message>
     <message>
         <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
@@ -528,6 +556,10 @@
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
         <translation>кавычки ячейки не парные</translation>
+    </message>
+    <message>
+        <source>die Bedingung hat keinen Namen</source>
+        <translation>у условия нет имени</translation>
     </message>
     <message>
         <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
@@ -566,6 +598,10 @@
         <translation>столбец «%1» встречается дважды</translation>
     </message>
     <message>
+        <source>die Sperrdatei daneben lässt sich nicht schreiben</source>
+        <translation>файл блокировки рядом нельзя записать</translation>
+    </message>
+    <message>
         <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
         <translation>в числах «%1» слишком много цифр</translation>
     </message>
@@ -586,8 +622,28 @@
         <translation>кавычка не закрыта</translation>
     </message>
     <message>
+        <source>ein Feld wird erwartet, also ein Objekt</source>
+        <translation>ожидается поле, то есть объект</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit Texten wird erwartet</source>
+        <translation>ожидается объект с текстами</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit einem Eintrag für jede Sprache wird erwartet</source>
+        <translation>ожидается объект с элементом для каждого языка</translation>
+    </message>
+    <message>
+        <source>ein Objekt wird erwartet</source>
+        <translation>ожидается объект</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>оператор или конец</translation>
+    </message>
+    <message>
+        <source>ein Text wird erwartet</source>
+        <translation>ожидается текст</translation>
     </message>
     <message>
         <source>ein Variablenname</source>
@@ -602,6 +658,30 @@
         <translation>значение между точками с запятой пусто</translation>
     </message>
     <message>
+        <source>eine Bedingung wird erwartet, also ein Objekt</source>
+        <translation>ожидается условие, то есть объект</translation>
+    </message>
+    <message>
+        <source>eine Liste von Bedingungen wird erwartet</source>
+        <translation>ожидается список условий</translation>
+    </message>
+    <message>
+        <source>eine Liste von Feldern wird erwartet</source>
+        <translation>ожидается список полей</translation>
+    </message>
+    <message>
+        <source>eine Liste von Texten wird erwartet</source>
+        <translation>ожидается список текстов</translation>
+    </message>
+    <message>
+        <source>eine Zahl wird erwartet</source>
+        <translation>ожидается число</translation>
+    </message>
+    <message>
+        <source>eine ganze Zahl von 0 bis 2147483647 wird erwartet</source>
+        <translation>ожидается целое число от 0 до 2147483647</translation>
+    </message>
+    <message>
         <source>eine schließende Klammer</source>
         <translation>закрывающая скобка</translation>
     </message>
@@ -614,12 +694,20 @@
         <translation>заменено: %1</translation>
     </message>
     <message>
+        <source>gesperrt von %1 auf %2 (Prozess %3)</source>
+        <translation>заблокировано: %1 на %2 (процесс %3)</translation>
+    </message>
+    <message>
         <source>gleich: %1</source>
         <translation>равно: %1</translation>
     </message>
     <message>
         <source>kein Wert</source>
         <translation>нет значения</translation>
+    </message>
+    <message>
+        <source>kein gültiges JSON: %1</source>
+        <translation>недействительный JSON: %1</translation>
     </message>
     <message>
         <source>lässt sich nicht lesen: %1</source>
@@ -634,6 +722,10 @@
         <translation>строк больше, чем вмещает таблица</translation>
     </message>
     <message>
+        <source>mehr als 64 Ebenen tief</source>
+        <translation>глубже 64 уровней</translation>
+    </message>
+    <message>
         <source>ohne Gegenstück: %1</source>
         <translation>без соответствия: %1</translation>
     </message>
@@ -644,6 +736,18 @@
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>
         <translation>sslmode "%1" не существует; возможны: %2</translation>
+    </message>
+    <message>
+        <source>true oder false wird erwartet</source>
+        <translation>ожидается true или false</translation>
+    </message>
+    <message>
+        <source>unbekannte Art „%1“; bekannt sind %2</source>
+        <translation>неизвестный вид «%1»; известны %2</translation>
+    </message>
+    <message>
+        <source>unbekannter Typ „%1“; bekannt sind %2</source>
+        <translation>неизвестный тип «%1»; известны %2</translation>
     </message>
     <message>
         <source>verschieden: %1</source>
@@ -670,12 +774,28 @@
         <translation>у «%1» нет шага; запишите как 10..50/5</translation>
     </message>
     <message>
+        <source>„%1“ ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>«%1» — адрес; читаются только файлы</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Datum; schreiben Sie es wie 2026-01-31T12:00:00Z</source>
+        <translation>«%1» — не дата; пишите её как 2026-01-31T12:00:00Z</translation>
+    </message>
+    <message>
         <source>„%1“ ist kein Wertebereich von %2: %3</source>
         <translation>«%1» — не диапазон значений %2: %3</translation>
     </message>
     <message>
         <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
         <translation>«%1» — не номер строки, то есть не целое число от 0 до 2147483647</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb der Kataloge; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>«%1» лежит вне каталогов; переместите туда или разрешите его папку</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>«%1» лежит вне «%2»; переместите туда или разрешите его папку</translation>
     </message>
 </context>
 </TS>

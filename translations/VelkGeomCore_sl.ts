@@ -506,8 +506,20 @@
   Brez para: %1</translation>
     </message>
     <message>
+        <source>das Dezimalzeichen ist „.“ oder „,“</source>
+        <translation>decimalni znak je ».« ali »,«</translation>
+    </message>
+    <message>
         <source>das Ende</source>
         <translation>konec</translation>
+    </message>
+    <message>
+        <source>das Feld hat keinen Namen</source>
+        <translation>polje nima imena</translation>
+    </message>
+    <message>
+        <source>das Feld „%1“ gibt es zweimal</source>
+        <translation>polje »%1« je navedeno dvakrat</translation>
     </message>
     <message>
         <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
@@ -518,8 +530,24 @@
         <translation>projekt ni bil prebran</translation>
     </message>
     <message>
+        <source>das berechnete Feld „%1“ hat keine Formel</source>
+        <translation>izračunano polje »%1« nima formule</translation>
+    </message>
+    <message>
+        <source>das ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>to je naslov; berejo se samo datoteke</translation>
+    </message>
+    <message>
         <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
         <translation>deskriptor ima lineSubIdField brez lineIdField</translation>
+    </message>
+    <message>
+        <source>der Eintrag „%1“ steht zweimal da</source>
+        <translation>vnos »%1« je naveden dvakrat</translation>
+    </message>
+    <message>
+        <source>der Name der Datei enthält ein NUL-Zeichen</source>
+        <translation>ime datoteke vsebuje znak NUL</translation>
     </message>
     <message>
         <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
@@ -528,6 +556,10 @@
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
         <translation>narekovaji celice se ne ujemajo</translation>
+    </message>
+    <message>
+        <source>die Bedingung hat keinen Namen</source>
+        <translation>pogoj nima imena</translation>
     </message>
     <message>
         <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
@@ -566,6 +598,10 @@
         <translation>stolpec »%1« je naveden dvakrat</translation>
     </message>
     <message>
+        <source>die Sperrdatei daneben lässt sich nicht schreiben</source>
+        <translation>datoteke zaklepa poleg ni mogoče zapisati</translation>
+    </message>
+    <message>
         <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
         <translation>števila v »%1« imajo preveč števk</translation>
     </message>
@@ -586,8 +622,28 @@
         <translation>narekovaj ni zaprt</translation>
     </message>
     <message>
+        <source>ein Feld wird erwartet, also ein Objekt</source>
+        <translation>pričakovano je polje, torej objekt</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit Texten wird erwartet</source>
+        <translation>pričakovan je objekt z besedili</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit einem Eintrag für jede Sprache wird erwartet</source>
+        <translation>pričakovan je objekt z vnosom za vsak jezik</translation>
+    </message>
+    <message>
+        <source>ein Objekt wird erwartet</source>
+        <translation>pričakovan je objekt</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>operator ali konec</translation>
+    </message>
+    <message>
+        <source>ein Text wird erwartet</source>
+        <translation>pričakovano je besedilo</translation>
     </message>
     <message>
         <source>ein Variablenname</source>
@@ -602,6 +658,30 @@
         <translation>vrednost med podpičji je prazna</translation>
     </message>
     <message>
+        <source>eine Bedingung wird erwartet, also ein Objekt</source>
+        <translation>pričakovan je pogoj, torej objekt</translation>
+    </message>
+    <message>
+        <source>eine Liste von Bedingungen wird erwartet</source>
+        <translation>pričakovan je seznam pogojev</translation>
+    </message>
+    <message>
+        <source>eine Liste von Feldern wird erwartet</source>
+        <translation>pričakovan je seznam polj</translation>
+    </message>
+    <message>
+        <source>eine Liste von Texten wird erwartet</source>
+        <translation>pričakovan je seznam besedil</translation>
+    </message>
+    <message>
+        <source>eine Zahl wird erwartet</source>
+        <translation>pričakovano je število</translation>
+    </message>
+    <message>
+        <source>eine ganze Zahl von 0 bis 2147483647 wird erwartet</source>
+        <translation>pričakovano je celo število od 0 do 2147483647</translation>
+    </message>
+    <message>
         <source>eine schließende Klammer</source>
         <translation>zaklepaj</translation>
     </message>
@@ -614,12 +694,20 @@
         <translation>zamenjano: %1</translation>
     </message>
     <message>
+        <source>gesperrt von %1 auf %2 (Prozess %3)</source>
+        <translation>zaklenjeno: %1 na %2 (proces %3)</translation>
+    </message>
+    <message>
         <source>gleich: %1</source>
         <translation>enako: %1</translation>
     </message>
     <message>
         <source>kein Wert</source>
         <translation>brez vrednosti</translation>
+    </message>
+    <message>
+        <source>kein gültiges JSON: %1</source>
+        <translation>neveljaven JSON: %1</translation>
     </message>
     <message>
         <source>lässt sich nicht lesen: %1</source>
@@ -634,6 +722,10 @@
         <translation>več vrstic, kot jih tabela lahko sprejme</translation>
     </message>
     <message>
+        <source>mehr als 64 Ebenen tief</source>
+        <translation>globlje od 64 ravni</translation>
+    </message>
+    <message>
         <source>ohne Gegenstück: %1</source>
         <translation>brez ustreznika: %1</translation>
     </message>
@@ -644,6 +736,18 @@
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>
         <translation>sslmode "%1" ne obstaja; možni so: %2</translation>
+    </message>
+    <message>
+        <source>true oder false wird erwartet</source>
+        <translation>pričakovano je true ali false</translation>
+    </message>
+    <message>
+        <source>unbekannte Art „%1“; bekannt sind %2</source>
+        <translation>neznana vrsta »%1«; znane so %2</translation>
+    </message>
+    <message>
+        <source>unbekannter Typ „%1“; bekannt sind %2</source>
+        <translation>neznan tip »%1«; znani so %2</translation>
     </message>
     <message>
         <source>verschieden: %1</source>
@@ -670,12 +774,28 @@
         <translation>»%1« nima koraka; zapišite kot 10..50/5</translation>
     </message>
     <message>
+        <source>„%1“ ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>»%1« je naslov; berejo se samo datoteke</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Datum; schreiben Sie es wie 2026-01-31T12:00:00Z</source>
+        <translation>»%1« ni datum; zapišite ga kot 2026-01-31T12:00:00Z</translation>
+    </message>
+    <message>
         <source>„%1“ ist kein Wertebereich von %2: %3</source>
         <translation>»%1« ni območje vrednosti za %2: %3</translation>
     </message>
     <message>
         <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
         <translation>»%1« ni številka vrstice, torej celo število od 0 do 2147483647</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb der Kataloge; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>»%1« leži zunaj katalogov; premaknite to tja ali dovolite imenik</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>»%1« leži zunaj »%2«; premaknite to tja ali dovolite imenik</translation>
     </message>
 </context>
 </TS>

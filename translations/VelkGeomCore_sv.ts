@@ -506,8 +506,20 @@
   Utan motsvarighet: %1</translation>
     </message>
     <message>
+        <source>das Dezimalzeichen ist „.“ oder „,“</source>
+        <translation>decimaltecknet är ”.” eller ”,”</translation>
+    </message>
+    <message>
         <source>das Ende</source>
         <translation>slutet</translation>
+    </message>
+    <message>
+        <source>das Feld hat keinen Namen</source>
+        <translation>fältet har inget namn</translation>
+    </message>
+    <message>
+        <source>das Feld „%1“ gibt es zweimal</source>
+        <translation>fältet ”%1” finns två gånger</translation>
     </message>
     <message>
         <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
@@ -518,8 +530,24 @@
         <translation>projektet lästes inte</translation>
     </message>
     <message>
+        <source>das berechnete Feld „%1“ hat keine Formel</source>
+        <translation>det beräknade fältet ”%1” har ingen formel</translation>
+    </message>
+    <message>
+        <source>das ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>det är en adress; bara filer läses</translation>
+    </message>
+    <message>
         <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
         <translation>deskriptorn har ett lineSubIdField utan lineIdField</translation>
+    </message>
+    <message>
+        <source>der Eintrag „%1“ steht zweimal da</source>
+        <translation>posten ”%1” står två gånger</translation>
+    </message>
+    <message>
+        <source>der Name der Datei enthält ein NUL-Zeichen</source>
+        <translation>filens namn innehåller ett NUL-tecken</translation>
     </message>
     <message>
         <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
@@ -528,6 +556,10 @@
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
         <translation>cellens citattecken bildar inga par</translation>
+    </message>
+    <message>
+        <source>die Bedingung hat keinen Namen</source>
+        <translation>villkoret har inget namn</translation>
     </message>
     <message>
         <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
@@ -566,6 +598,10 @@
         <translation>kolumnen "%1" finns två gånger</translation>
     </message>
     <message>
+        <source>die Sperrdatei daneben lässt sich nicht schreiben</source>
+        <translation>låsfilen bredvid kan inte skrivas</translation>
+    </message>
+    <message>
         <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
         <translation>talen i "%1" har för många siffror</translation>
     </message>
@@ -586,8 +622,28 @@
         <translation>ett citattecken stängs inte</translation>
     </message>
     <message>
+        <source>ein Feld wird erwartet, also ein Objekt</source>
+        <translation>ett fält väntas, alltså ett objekt</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit Texten wird erwartet</source>
+        <translation>ett objekt med texter väntas</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit einem Eintrag für jede Sprache wird erwartet</source>
+        <translation>ett objekt med en post för varje språk väntas</translation>
+    </message>
+    <message>
+        <source>ein Objekt wird erwartet</source>
+        <translation>ett objekt väntas</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>en operator eller slutet</translation>
+    </message>
+    <message>
+        <source>ein Text wird erwartet</source>
+        <translation>en text väntas</translation>
     </message>
     <message>
         <source>ein Variablenname</source>
@@ -602,6 +658,30 @@
         <translation>ett värde mellan semikolonen är tomt</translation>
     </message>
     <message>
+        <source>eine Bedingung wird erwartet, also ein Objekt</source>
+        <translation>ett villkor väntas, alltså ett objekt</translation>
+    </message>
+    <message>
+        <source>eine Liste von Bedingungen wird erwartet</source>
+        <translation>en lista med villkor väntas</translation>
+    </message>
+    <message>
+        <source>eine Liste von Feldern wird erwartet</source>
+        <translation>en lista med fält väntas</translation>
+    </message>
+    <message>
+        <source>eine Liste von Texten wird erwartet</source>
+        <translation>en lista med texter väntas</translation>
+    </message>
+    <message>
+        <source>eine Zahl wird erwartet</source>
+        <translation>ett tal väntas</translation>
+    </message>
+    <message>
+        <source>eine ganze Zahl von 0 bis 2147483647 wird erwartet</source>
+        <translation>ett heltal från 0 till 2147483647 väntas</translation>
+    </message>
+    <message>
         <source>eine schließende Klammer</source>
         <translation>en avslutande parentes</translation>
     </message>
@@ -614,12 +694,20 @@
         <translation>ersatt: %1</translation>
     </message>
     <message>
+        <source>gesperrt von %1 auf %2 (Prozess %3)</source>
+        <translation>låst av %1 på %2 (process %3)</translation>
+    </message>
+    <message>
         <source>gleich: %1</source>
         <translation>lika: %1</translation>
     </message>
     <message>
         <source>kein Wert</source>
         <translation>inget värde</translation>
+    </message>
+    <message>
+        <source>kein gültiges JSON: %1</source>
+        <translation>ogiltig JSON: %1</translation>
     </message>
     <message>
         <source>lässt sich nicht lesen: %1</source>
@@ -634,6 +722,10 @@
         <translation>fler rader än en tabell rymmer</translation>
     </message>
     <message>
+        <source>mehr als 64 Ebenen tief</source>
+        <translation>mer än 64 nivåer djupt</translation>
+    </message>
+    <message>
         <source>ohne Gegenstück: %1</source>
         <translation>utan motsvarighet: %1</translation>
     </message>
@@ -644,6 +736,18 @@
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>
         <translation>sslmode "%1" finns inte; möjliga är: %2</translation>
+    </message>
+    <message>
+        <source>true oder false wird erwartet</source>
+        <translation>true eller false väntas</translation>
+    </message>
+    <message>
+        <source>unbekannte Art „%1“; bekannt sind %2</source>
+        <translation>okänt slag ”%1”; kända är %2</translation>
+    </message>
+    <message>
+        <source>unbekannter Typ „%1“; bekannt sind %2</source>
+        <translation>okänd typ ”%1”; kända är %2</translation>
     </message>
     <message>
         <source>verschieden: %1</source>
@@ -670,12 +774,28 @@
         <translation>"%1" har inget steg; skriv som 10..50/5</translation>
     </message>
     <message>
+        <source>„%1“ ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>”%1” är en adress; bara filer läses</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Datum; schreiben Sie es wie 2026-01-31T12:00:00Z</source>
+        <translation>”%1” är inget datum; skriv det som 2026-01-31T12:00:00Z</translation>
+    </message>
+    <message>
         <source>„%1“ ist kein Wertebereich von %2: %3</source>
         <translation>"%1" är inget värdeområde för %2: %3</translation>
     </message>
     <message>
         <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
         <translation>"%1" är inget radnummer, alltså inget heltal från 0 till 2147483647</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb der Kataloge; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>”%1” ligger utanför katalogerna; flytta det dit, eller tillåt dess katalog</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>”%1” ligger utanför ”%2”; flytta det dit, eller tillåt dess katalog</translation>
     </message>
 </context>
 </TS>

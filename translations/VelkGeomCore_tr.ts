@@ -506,8 +506,20 @@
   Karşılığı olmayan: %1</translation>
     </message>
     <message>
+        <source>das Dezimalzeichen ist „.“ oder „,“</source>
+        <translation>ondalık karakter “.” veya “,” olur</translation>
+    </message>
+    <message>
         <source>das Ende</source>
         <translation>son</translation>
+    </message>
+    <message>
+        <source>das Feld hat keinen Namen</source>
+        <translation>alanın adı yok</translation>
+    </message>
+    <message>
+        <source>das Feld „%1“ gibt es zweimal</source>
+        <translation>“%1” alanı iki kez var</translation>
     </message>
     <message>
         <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
@@ -518,8 +530,24 @@
         <translation>proje okunmadı</translation>
     </message>
     <message>
+        <source>das berechnete Feld „%1“ hat keine Formel</source>
+        <translation>hesaplanan “%1” alanının formülü yok</translation>
+    </message>
+    <message>
+        <source>das ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>bu bir adres; yalnızca dosyalar okunur</translation>
+    </message>
+    <message>
         <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
         <translation>tanımlayıcıda lineIdField olmadan lineSubIdField var</translation>
+    </message>
+    <message>
+        <source>der Eintrag „%1“ steht zweimal da</source>
+        <translation>“%1” girdisi iki kez var</translation>
+    </message>
+    <message>
+        <source>der Name der Datei enthält ein NUL-Zeichen</source>
+        <translation>dosyanın adı bir NUL karakteri içeriyor</translation>
     </message>
     <message>
         <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
@@ -528,6 +556,10 @@
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
         <translation>hücrenin tırnakları eşleşmiyor</translation>
+    </message>
+    <message>
+        <source>die Bedingung hat keinen Namen</source>
+        <translation>koşulun adı yok</translation>
     </message>
     <message>
         <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
@@ -566,6 +598,10 @@
         <translation>"%1" sütunu iki kez var</translation>
     </message>
     <message>
+        <source>die Sperrdatei daneben lässt sich nicht schreiben</source>
+        <translation>yanındaki kilit dosyasına yazılamıyor</translation>
+    </message>
+    <message>
         <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
         <translation>"%1" sayıları çok fazla basamaklı</translation>
     </message>
@@ -586,8 +622,28 @@
         <translation>bir tırnak kapatılmamış</translation>
     </message>
     <message>
+        <source>ein Feld wird erwartet, also ein Objekt</source>
+        <translation>bir alan, yani bir nesne bekleniyor</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit Texten wird erwartet</source>
+        <translation>metinlerden oluşan bir nesne bekleniyor</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit einem Eintrag für jede Sprache wird erwartet</source>
+        <translation>her dil için bir girdisi olan bir nesne bekleniyor</translation>
+    </message>
+    <message>
+        <source>ein Objekt wird erwartet</source>
+        <translation>bir nesne bekleniyor</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>bir işleç veya son</translation>
+    </message>
+    <message>
+        <source>ein Text wird erwartet</source>
+        <translation>bir metin bekleniyor</translation>
     </message>
     <message>
         <source>ein Variablenname</source>
@@ -602,6 +658,30 @@
         <translation>noktalı virgüller arasındaki bir değer boş</translation>
     </message>
     <message>
+        <source>eine Bedingung wird erwartet, also ein Objekt</source>
+        <translation>bir koşul, yani bir nesne bekleniyor</translation>
+    </message>
+    <message>
+        <source>eine Liste von Bedingungen wird erwartet</source>
+        <translation>bir koşul listesi bekleniyor</translation>
+    </message>
+    <message>
+        <source>eine Liste von Feldern wird erwartet</source>
+        <translation>bir alan listesi bekleniyor</translation>
+    </message>
+    <message>
+        <source>eine Liste von Texten wird erwartet</source>
+        <translation>bir metin listesi bekleniyor</translation>
+    </message>
+    <message>
+        <source>eine Zahl wird erwartet</source>
+        <translation>bir sayı bekleniyor</translation>
+    </message>
+    <message>
+        <source>eine ganze Zahl von 0 bis 2147483647 wird erwartet</source>
+        <translation>0 ile 2147483647 arasında bir tam sayı bekleniyor</translation>
+    </message>
+    <message>
         <source>eine schließende Klammer</source>
         <translation>kapanış parantezi</translation>
     </message>
@@ -614,12 +694,20 @@
         <translation>değiştirilmiş: %1</translation>
     </message>
     <message>
+        <source>gesperrt von %1 auf %2 (Prozess %3)</source>
+        <translation>%2 üzerinde %1 tarafından kilitli (işlem %3)</translation>
+    </message>
+    <message>
         <source>gleich: %1</source>
         <translation>eşit: %1</translation>
     </message>
     <message>
         <source>kein Wert</source>
         <translation>değer yok</translation>
+    </message>
+    <message>
+        <source>kein gültiges JSON: %1</source>
+        <translation>geçerli JSON değil: %1</translation>
     </message>
     <message>
         <source>lässt sich nicht lesen: %1</source>
@@ -634,6 +722,10 @@
         <translation>tablonun alabileceğinden fazla satır</translation>
     </message>
     <message>
+        <source>mehr als 64 Ebenen tief</source>
+        <translation>64 düzeyden derin</translation>
+    </message>
+    <message>
         <source>ohne Gegenstück: %1</source>
         <translation>karşılıksız: %1</translation>
     </message>
@@ -644,6 +736,18 @@
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>
         <translation>sslmode "%1" yok; olası olanlar: %2</translation>
+    </message>
+    <message>
+        <source>true oder false wird erwartet</source>
+        <translation>true veya false bekleniyor</translation>
+    </message>
+    <message>
+        <source>unbekannte Art „%1“; bekannt sind %2</source>
+        <translation>bilinmeyen tür “%1”; bilinenler: %2</translation>
+    </message>
+    <message>
+        <source>unbekannter Typ „%1“; bekannt sind %2</source>
+        <translation>bilinmeyen tip “%1”; bilinenler: %2</translation>
     </message>
     <message>
         <source>verschieden: %1</source>
@@ -670,12 +774,28 @@
         <translation>"%1" adımsız; 10..50/5 gibi yazın</translation>
     </message>
     <message>
+        <source>„%1“ ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>“%1” bir adres; yalnızca dosyalar okunur</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Datum; schreiben Sie es wie 2026-01-31T12:00:00Z</source>
+        <translation>“%1” tarih değil; 2026-01-31T12:00:00Z gibi yazın</translation>
+    </message>
+    <message>
         <source>„%1“ ist kein Wertebereich von %2: %3</source>
         <translation>"%1", %2 için bir değer aralığı değil: %3</translation>
     </message>
     <message>
         <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
         <translation>"%1" bir satır numarası, yani 0 ile 2147483647 arasında bir tam sayı değil</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb der Kataloge; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>“%1” katalogların dışında; oraya taşıyın veya dizinine izin verin</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>“%1”, “%2” dışında; oraya taşıyın veya dizinine izin verin</translation>
     </message>
 </context>
 </TS>

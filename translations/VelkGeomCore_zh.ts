@@ -506,8 +506,20 @@
   无对应：%1</translation>
     </message>
     <message>
+        <source>das Dezimalzeichen ist „.“ oder „,“</source>
+        <translation>小数点字符是“.”或“,”</translation>
+    </message>
+    <message>
         <source>das Ende</source>
         <translation>结尾</translation>
+    </message>
+    <message>
+        <source>das Feld hat keinen Namen</source>
+        <translation>字段没有名称</translation>
+    </message>
+    <message>
+        <source>das Feld „%1“ gibt es zweimal</source>
+        <translation>字段“%1”出现了两次</translation>
     </message>
     <message>
         <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
@@ -518,8 +530,24 @@
         <translation>项目未读取</translation>
     </message>
     <message>
+        <source>das berechnete Feld „%1“ hat keine Formel</source>
+        <translation>计算字段“%1”没有公式</translation>
+    </message>
+    <message>
+        <source>das ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>这是地址；只读取文件</translation>
+    </message>
+    <message>
         <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
         <translation>描述符有 lineSubIdField 而没有 lineIdField</translation>
+    </message>
+    <message>
+        <source>der Eintrag „%1“ steht zweimal da</source>
+        <translation>条目“%1”出现了两次</translation>
+    </message>
+    <message>
+        <source>der Name der Datei enthält ein NUL-Zeichen</source>
+        <translation>文件名含有 NUL 字符</translation>
     </message>
     <message>
         <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
@@ -528,6 +556,10 @@
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
         <translation>单元格的引号不成对</translation>
+    </message>
+    <message>
+        <source>die Bedingung hat keinen Namen</source>
+        <translation>条件没有名称</translation>
     </message>
     <message>
         <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
@@ -566,6 +598,10 @@
         <translation>列“%1”出现两次</translation>
     </message>
     <message>
+        <source>die Sperrdatei daneben lässt sich nicht schreiben</source>
+        <translation>无法写入旁边的锁文件</translation>
+    </message>
+    <message>
         <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
         <translation>“%1”中的数位数过多</translation>
     </message>
@@ -586,8 +622,28 @@
         <translation>引号没有闭合</translation>
     </message>
     <message>
+        <source>ein Feld wird erwartet, also ein Objekt</source>
+        <translation>应为字段，即对象</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit Texten wird erwartet</source>
+        <translation>应为文本的对象</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit einem Eintrag für jede Sprache wird erwartet</source>
+        <translation>应为每种语言有一个条目的对象</translation>
+    </message>
+    <message>
+        <source>ein Objekt wird erwartet</source>
+        <translation>应为对象</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>运算符或结尾</translation>
+    </message>
+    <message>
+        <source>ein Text wird erwartet</source>
+        <translation>应为文本</translation>
     </message>
     <message>
         <source>ein Variablenname</source>
@@ -602,6 +658,30 @@
         <translation>分号之间有空值</translation>
     </message>
     <message>
+        <source>eine Bedingung wird erwartet, also ein Objekt</source>
+        <translation>应为条件，即对象</translation>
+    </message>
+    <message>
+        <source>eine Liste von Bedingungen wird erwartet</source>
+        <translation>应为条件列表</translation>
+    </message>
+    <message>
+        <source>eine Liste von Feldern wird erwartet</source>
+        <translation>应为字段列表</translation>
+    </message>
+    <message>
+        <source>eine Liste von Texten wird erwartet</source>
+        <translation>应为文本列表</translation>
+    </message>
+    <message>
+        <source>eine Zahl wird erwartet</source>
+        <translation>应为数字</translation>
+    </message>
+    <message>
+        <source>eine ganze Zahl von 0 bis 2147483647 wird erwartet</source>
+        <translation>应为 0 到 2147483647 的整数</translation>
+    </message>
+    <message>
         <source>eine schließende Klammer</source>
         <translation>右括号</translation>
     </message>
@@ -614,12 +694,20 @@
         <translation>已替换：%1</translation>
     </message>
     <message>
+        <source>gesperrt von %1 auf %2 (Prozess %3)</source>
+        <translation>已被 %2 上的 %1 锁定（进程 %3）</translation>
+    </message>
+    <message>
         <source>gleich: %1</source>
         <translation>相同：%1</translation>
     </message>
     <message>
         <source>kein Wert</source>
         <translation>无值</translation>
+    </message>
+    <message>
+        <source>kein gültiges JSON: %1</source>
+        <translation>不是有效的 JSON：%1</translation>
     </message>
     <message>
         <source>lässt sich nicht lesen: %1</source>
@@ -634,6 +722,10 @@
         <translation>行数超出表的容量</translation>
     </message>
     <message>
+        <source>mehr als 64 Ebenen tief</source>
+        <translation>深度超过 64 层</translation>
+    </message>
+    <message>
         <source>ohne Gegenstück: %1</source>
         <translation>无对应值：%1</translation>
     </message>
@@ -644,6 +736,18 @@
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>
         <translation>没有 sslmode "%1"；可用的有：%2</translation>
+    </message>
+    <message>
+        <source>true oder false wird erwartet</source>
+        <translation>应为 true 或 false</translation>
+    </message>
+    <message>
+        <source>unbekannte Art „%1“; bekannt sind %2</source>
+        <translation>未知的种类“%1”；已知的有 %2</translation>
+    </message>
+    <message>
+        <source>unbekannter Typ „%1“; bekannt sind %2</source>
+        <translation>未知的类型“%1”；已知的有 %2</translation>
     </message>
     <message>
         <source>verschieden: %1</source>
@@ -670,12 +774,28 @@
         <translation>“%1”没有步长；请写成 10..50/5</translation>
     </message>
     <message>
+        <source>„%1“ ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>“%1”是地址；只读取文件</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Datum; schreiben Sie es wie 2026-01-31T12:00:00Z</source>
+        <translation>“%1”不是日期；请写成 2026-01-31T12:00:00Z 这样</translation>
+    </message>
+    <message>
         <source>„%1“ ist kein Wertebereich von %2: %3</source>
         <translation>“%1”不是 %2 的值范围：%3</translation>
     </message>
     <message>
         <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
         <translation>“%1”不是行号，行号是 0 到 2147483647 的整数</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb der Kataloge; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>“%1”位于目录册之外；请移到那里，或允许其目录</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>“%1”位于“%2”之外；请移到那里，或允许其目录</translation>
     </message>
 </context>
 </TS>

@@ -506,8 +506,20 @@
   無對應：%1</translation>
     </message>
     <message>
+        <source>das Dezimalzeichen ist „.“ oder „,“</source>
+        <translation>小數點字元是「.」或「,」</translation>
+    </message>
+    <message>
         <source>das Ende</source>
         <translation>結尾</translation>
+    </message>
+    <message>
+        <source>das Feld hat keinen Namen</source>
+        <translation>欄位沒有名稱</translation>
+    </message>
+    <message>
+        <source>das Feld „%1“ gibt es zweimal</source>
+        <translation>欄位「%1」出現了兩次</translation>
     </message>
     <message>
         <source>das Projekt hat keine Tabelle; sein Lexem SACHM muss eine nennen</source>
@@ -518,8 +530,24 @@
         <translation>專案未讀取</translation>
     </message>
     <message>
+        <source>das berechnete Feld „%1“ hat keine Formel</source>
+        <translation>計算欄位「%1」沒有公式</translation>
+    </message>
+    <message>
+        <source>das ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>這是位址；只讀取檔案</translation>
+    </message>
+    <message>
         <source>der Deskriptor hat ein lineSubIdField ohne lineIdField</source>
         <translation>描述檔有 lineSubIdField 而沒有 lineIdField</translation>
+    </message>
+    <message>
+        <source>der Eintrag „%1“ steht zweimal da</source>
+        <translation>項目「%1」出現了兩次</translation>
+    </message>
+    <message>
+        <source>der Name der Datei enthält ein NUL-Zeichen</source>
+        <translation>檔名含有 NUL 字元</translation>
     </message>
     <message>
         <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
@@ -528,6 +556,10 @@
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
         <translation>儲存格的引號不成對</translation>
+    </message>
+    <message>
+        <source>die Bedingung hat keinen Namen</source>
+        <translation>條件沒有名稱</translation>
     </message>
     <message>
         <source>die Bytes sind kein UTF-8; speichern Sie die Datei als UTF-8</source>
@@ -566,6 +598,10 @@
         <translation>欄「%1」出現兩次</translation>
     </message>
     <message>
+        <source>die Sperrdatei daneben lässt sich nicht schreiben</source>
+        <translation>無法寫入旁邊的鎖定檔</translation>
+    </message>
+    <message>
         <source>die Zahlen von „%1“ haben zu viele Ziffern</source>
         <translation>「%1」中的數位數過多</translation>
     </message>
@@ -586,8 +622,28 @@
         <translation>引號沒有閉合</translation>
     </message>
     <message>
+        <source>ein Feld wird erwartet, also ein Objekt</source>
+        <translation>應為欄位，即物件</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit Texten wird erwartet</source>
+        <translation>應為文字的物件</translation>
+    </message>
+    <message>
+        <source>ein Objekt mit einem Eintrag für jede Sprache wird erwartet</source>
+        <translation>應為每種語言有一個項目的物件</translation>
+    </message>
+    <message>
+        <source>ein Objekt wird erwartet</source>
+        <translation>應為物件</translation>
+    </message>
+    <message>
         <source>ein Operator oder das Ende</source>
         <translation>運算子或結尾</translation>
+    </message>
+    <message>
+        <source>ein Text wird erwartet</source>
+        <translation>應為文字</translation>
     </message>
     <message>
         <source>ein Variablenname</source>
@@ -602,6 +658,30 @@
         <translation>分號之間有空值</translation>
     </message>
     <message>
+        <source>eine Bedingung wird erwartet, also ein Objekt</source>
+        <translation>應為條件，即物件</translation>
+    </message>
+    <message>
+        <source>eine Liste von Bedingungen wird erwartet</source>
+        <translation>應為條件清單</translation>
+    </message>
+    <message>
+        <source>eine Liste von Feldern wird erwartet</source>
+        <translation>應為欄位清單</translation>
+    </message>
+    <message>
+        <source>eine Liste von Texten wird erwartet</source>
+        <translation>應為文字清單</translation>
+    </message>
+    <message>
+        <source>eine Zahl wird erwartet</source>
+        <translation>應為數字</translation>
+    </message>
+    <message>
+        <source>eine ganze Zahl von 0 bis 2147483647 wird erwartet</source>
+        <translation>應為 0 到 2147483647 的整數</translation>
+    </message>
+    <message>
         <source>eine schließende Klammer</source>
         <translation>右括號</translation>
     </message>
@@ -614,12 +694,20 @@
         <translation>已取代：%1</translation>
     </message>
     <message>
+        <source>gesperrt von %1 auf %2 (Prozess %3)</source>
+        <translation>已被 %2 上的 %1 鎖定（處理程序 %3）</translation>
+    </message>
+    <message>
         <source>gleich: %1</source>
         <translation>相同：%1</translation>
     </message>
     <message>
         <source>kein Wert</source>
         <translation>無值</translation>
+    </message>
+    <message>
+        <source>kein gültiges JSON: %1</source>
+        <translation>不是有效的 JSON：%1</translation>
     </message>
     <message>
         <source>lässt sich nicht lesen: %1</source>
@@ -634,6 +722,10 @@
         <translation>列數超出表的容量</translation>
     </message>
     <message>
+        <source>mehr als 64 Ebenen tief</source>
+        <translation>深度超過 64 層</translation>
+    </message>
+    <message>
         <source>ohne Gegenstück: %1</source>
         <translation>無對應值：%1</translation>
     </message>
@@ -644,6 +736,18 @@
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>
         <translation>沒有 sslmode "%1"；可用的有：%2</translation>
+    </message>
+    <message>
+        <source>true oder false wird erwartet</source>
+        <translation>應為 true 或 false</translation>
+    </message>
+    <message>
+        <source>unbekannte Art „%1“; bekannt sind %2</source>
+        <translation>未知的種類「%1」；已知的有 %2</translation>
+    </message>
+    <message>
+        <source>unbekannter Typ „%1“; bekannt sind %2</source>
+        <translation>未知的類型「%1」；已知的有 %2</translation>
     </message>
     <message>
         <source>verschieden: %1</source>
@@ -670,12 +774,28 @@
         <translation>「%1」沒有步長；請寫成 10..50/5</translation>
     </message>
     <message>
+        <source>„%1“ ist eine Adresse; nur Dateien werden gelesen</source>
+        <translation>「%1」是位址；只讀取檔案</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Datum; schreiben Sie es wie 2026-01-31T12:00:00Z</source>
+        <translation>「%1」不是日期；請寫成 2026-01-31T12:00:00Z 這樣</translation>
+    </message>
+    <message>
         <source>„%1“ ist kein Wertebereich von %2: %3</source>
         <translation>「%1」不是 %2 的值範圍：%3</translation>
     </message>
     <message>
         <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
         <translation>「%1」不是列號，列號是 0 到 2147483647 的整數</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb der Kataloge; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>「%1」位於型錄之外；請移到那裡，或允許其目錄</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
+        <translation>「%1」位於「%2」之外；請移到那裡，或允許其目錄</translation>
     </message>
 </context>
 </TS>

@@ -1,3 +1,4 @@
+#include "../support/EnglishTexts.h"
 #include "../support/ForeignLocale.h"
 
 #include <core/config/PConfigInst.h>

@@ -1,3 +1,5 @@
+#include "../support/EnglishTexts.h"
+
 #include <core/config/PIniFile.h>
 
 #include <QRandomGenerator>

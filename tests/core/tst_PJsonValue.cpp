@@ -1,3 +1,5 @@
+#include "../support/EnglishTexts.h"
+
 #include <core/json/JsonText.h>
 #include <core/json/JsonWriter.h>
 #include <core/json/PJsonValue.h>

@@ -1,3 +1,4 @@
+#include "../support/EnglishTexts.h"
 #include "MappingFileSample.h"
 
 #include <core/json/PJsonValue.h>
@@ -118,9 +119,9 @@ private Q_SLOTS:
             << "nested too deeply";
         QTest::newRow("comma missing")
             << QByteArray("[1,10,1],") << QByteArray("[1,10,1]")
-            << "line 27, column 8: Missing a comma or ']' after an array";
+            << "line 27, column 8: A comma or ] is missing behind an element.";
         QTest::newRow("invalid UTF-8")
-            << QByteArray("cat/a") << QByteArray("cat/\xFF") << "Invalid encoding in string";
+            << QByteArray("cat/a") << QByteArray("cat/\xFF") << "A text is no UTF-8.";
         QTest::newRow("something behind")
             << QByteArray("\n }\n}\n") << QByteArray("\n }\n}\nx") << "line 35, column 1: ";
         QTest::newRow("byte 0 behind")

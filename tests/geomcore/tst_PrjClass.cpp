@@ -1,3 +1,5 @@
+#include "../support/EnglishTexts.h"
+
 #include <geomcore/project/CatalogPlaces.h>
 #include <geomcore/project/PrjClass.h>
 #include <geomcore/project/PrjFile.h>

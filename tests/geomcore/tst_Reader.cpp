@@ -228,9 +228,9 @@ void tst_Reader::fails_data()
     QTest::newRow("table with a NUL")
         << "p.prj" << QByteArray("[PROJECT]\nSACHM=\"t.json\\u0000x\"\n") << "has a NUL in it";
     QTest::newRow("missing descriptor") << "t.json" << QByteArray() << "t.json: cannot be opened: ";
-    QTest::newRow("descriptor no JSON")
-        << "t.json" << QByteArray("{\n\"name\"}")
-        << "t.json: row 2, column 7: no valid JSON: Missing a colon after a name of object member.";
+    QTest::newRow("descriptor no JSON") << "t.json" << QByteArray("{\n\"name\"}")
+                                        << "t.json: row 2, column 7: no valid JSON: A colon is "
+                                           "missing behind the name of a member.";
     QTest::newRow("missing lines") << "t.csv" << QByteArray() << "t.csv: cannot be opened: ";
     QTest::newRow("quote left open") << "t.csv" << QByteArray("Dia,L,Id\n8,\"10,70\n")
                                      << "t.csv: row 2, column 2: a quote is left open";

@@ -190,22 +190,21 @@ void tst_TableDescriptor::refuses_data()
     QTest::addColumn<QString>("message");
 
     QTest::newRow("empty") << QByteArray()
-                           << "t.json: row 1, column 1: no valid JSON: The document is "
-                              "empty.";
+                           << "t.json: row 1, column 1: no valid JSON: The document has "
+                              "no value.";
     QTest::newRow("no JSON") << QByteArray("name = x\n")
-                             << "t.json: row 1, column 2: no valid JSON: Invalid value.";
+                             << "t.json: row 1, column 2: no valid JSON: A value is missing.";
     QTest::newRow("comma missing")
         << QByteArray("{\n  \"name\": \"a\"\n  \"title\": \"b\"\n}")
-        << "t.json: row 3, column 3: no valid JSON: Missing a comma or '}' after an object member.";
+        << "t.json: row 3, column 3: no valid JSON: A comma or } is missing behind a member.";
     QTest::newRow("cut off") << QByteArray("{\"fields\": [")
-                             << "t.json: row 1, column 13: no valid JSON: Invalid value.";
+                             << "t.json: row 1, column 13: no valid JSON: A value is missing.";
     QTest::newRow("text behind the end")
         << QByteArray("{} x")
-        << "t.json: row 1, column 4: no valid JSON: The document root must not be "
-           "followed by other values.";
-    QTest::newRow("no UTF-8")
-        << QByteArray("{\"name\": \"\xE4\"}")
-        << "t.json: row 1, column 11: no valid JSON: Invalid encoding in string.";
+        << "t.json: row 1, column 4: no valid JSON: Something stands behind the "
+           "document.";
+    QTest::newRow("no UTF-8") << QByteArray("{\"name\": \"\xE4\"}")
+                              << "t.json: row 1, column 11: no valid JSON: A text is no UTF-8.";
     QTest::newRow("no object") << QByteArray(" []")
                                << "t.json: row 1, column 2: expected an object";
     QTest::newRow("number for a text")

@@ -1,9 +1,11 @@
 #include "ViewTables.h"
 
+#include <core/json/PJsonValue.h>
 #include <core/message/PScriptedMessageSink.h>
 #include <core/plugin/PTranslateManager.h>
 #include <core/text/PString.h>
 #include <geomcore/binding/VarsetConditionC.h>
+#include <geomcore/csv/TableDescriptor.h>
 #include <geomcoregui/table/VkTableView.h>
 
 #include <QFile>
@@ -40,7 +42,7 @@ private Q_SLOTS:
         QFETCH(QString, language);
         PTranslateManager::instance().setLanguage(language);
         QCOMPARE(PTranslateManager::instance().translatedModules(),
-                 (QStringList{"VelkGeomCore", "VelkGeomCoreGui", "VelkGui"}));
+                 (QStringList{"VelkCore", "VelkGeomCore", "VelkGeomCoreGui", "VelkGui"}));
     }
 
     void textsAreTranslated_data()
@@ -54,6 +56,9 @@ private Q_SLOTS:
         QTest::newRow("table") << "VelkGeomCoreGui"
                                << "Kopieren"
                                << "Copy";
+        QTest::newRow("files") << "VelkCore"
+                               << "das ist ein Verzeichnis"
+                               << "it is a directory";
         QTest::newRow("mapper") << "VelkGeomCore"
                                 << "kein Wert"
                                 << "no value";
@@ -82,6 +87,54 @@ private Q_SLOTS:
                  QString("A .EQ. contains errors! Character 7: Expected a value, found the end"));
         QCOMPARE(told("de"), QString("A .EQ. enthält Fehler! Zeichen 7: Erwartet wird ein Wert, "
                                      "gefunden wurde das Ende"));
+    }
+
+    /// Of files that people write by hand, and of the parser of JSON.
+    void faultsOfFiles_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("language");
+        QTest::newRow("source") << "t.json: Zeile 1, Spalte 10: ein Text wird erwartet"
+                                << QString();
+        QTest::newRow("English") << "t.json: row 1, column 10: expected a text"
+                                 << "en";
+        QTest::newRow("Slovenian") << "t.json: vrstica 1, stolpec 10: pričakovano je besedilo"
+                                   << "sl";
+    }
+    void faultsOfFiles()
+    {
+        QFETCH(QString, language);
+        PTranslateManager::instance().setLanguage(language);
+        VKTab::TableErrorList errors;
+        QVERIFY(!VKTab::TableDescriptor::fromJson("{\"name\": 5}", "t.json", errors));
+        QTEST(errors.first().toString(), "text");
+    }
+    void faultsOfJson_data()
+    {
+        QTest::addColumn<QByteArray>("json");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("no comma") << QByteArray("[1 2]")
+                                  << "Hinter einem Listenwert fehlt ein "
+                                     "Komma oder ].";
+        QTest::newRow("no value") << QByteArray("[tru]") << "Ein Wert fehlt.";
+        QTest::newRow("no quote") << QByteArray("[\"a")
+                                  << "Das schließende Anführungszeichen "
+                                     "eines Textes fehlt.";
+    }
+    /// Both readers say the same.
+    void faultsOfJson()
+    {
+        QFETCH(QByteArray, json);
+        QFETCH(QString, text);
+        QString error;
+        PJsonValue value;
+        QVERIFY(!value.parse(json, &error));
+        QVERIFY2(error.startsWith("Zeile 1, Spalte ") && error.endsWith(": " + text),
+                 qPrintable(error));
+        VKTab::TableErrorList errors;
+        QVERIFY(!VKTab::TableDescriptor::fromJson(json, "t.json", errors));
+        QVERIFY2(errors.first().text == "kein gültiges JSON: " + text,
+                 qPrintable(errors.first().text));
     }
 
     // What is shown already changes with the language.

@@ -97,7 +97,7 @@ void tst_MappingDocument::refusesWhatItCannotRead_data()
     const int unreadable = int(MappingDocument::OpenResult::Unreadable);
     const int noRelease = int(MappingDocument::OpenResult::NoRelease);
     QTest::newRow("no JSON") << QByteArray("{\"2022") << QString() << unreadable
-                             << QStringLiteral("(line 1, column 7");
+                             << QStringLiteral("(Zeile 1, Spalte 7");
     QTest::newRow("no file") << QByteArray() << QString() << unreadable
                              << QStringLiteral("nicht mehr da");
     QTest::newRow("no release") << QByteArray("{}") << QString() << noRelease

@@ -2,6 +2,7 @@
 
 #include "PIniText.h"
 #include <core/file/openRegularFile.h>
+#include <core/text/PString.h>
 
 #include <QFile>
 #include <QStringDecoder>
@@ -77,10 +78,12 @@ void PIniFile::parse(const QByteArray &content, const QString &fileName)
 void PIniFile::noteEncoding(const QByteArray &content)
 {
     if (content.startsWith("\xff\xfe") || content.startsWith("\xfe\xff"))
-        note(1, QStringLiteral("the file is UTF-16; save it as UTF-8"));
+        note(1,
+             PString::translate("die Datei ist UTF-16; speichern Sie sie als UTF-8", "VelkCore"));
     else if (content.contains('\r') && !content.contains('\n'))
-        note(1, QStringLiteral("the lines end with carriage returns alone; save the file with "
-                               "line feeds"));
+        note(1, PString::translate("die Zeilen enden allein mit Wagenrückläufen; speichern Sie die "
+                                   "Datei mit Zeilenvorschüben",
+                                   "VelkCore"));
 }
 
 void PIniFile::parseLine(const QByteArray &bytes, int number)
@@ -88,7 +91,7 @@ void PIniFile::parseLine(const QByteArray &bytes, int number)
     QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString decoded = decode(withoutLineEnd(bytes));
     if (decode.hasError())
-        note(number, QStringLiteral("not UTF-8"));
+        note(number, PString::translate("kein UTF-8", "VelkCore"));
     Line line;
     line.bytes = bytes;
     line.number = number;
@@ -97,7 +100,7 @@ void PIniFile::parseLine(const QByteArray &bytes, int number)
         if (!text.startsWith(u'['))
             line.isKey = parseKey(text, line);
         else if (!parseHeading(text, number))
-            note(number, QStringLiteral("section heading without end"));
+            note(number, PString::translate("Abschnittsüberschrift ohne Ende", "VelkCore"));
     }
     addLine(std::move(line));
 }
@@ -121,7 +124,9 @@ bool PIniFile::parseHeading(QStringView text, int number)
     }
     const QStringView rest = name.mid(close + 1).trimmed();
     if (!rest.isEmpty() && !isComment(rest))
-        note(number, QStringLiteral("text behind the section heading is ignored"));
+        note(number,
+             PString::translate("der Text hinter der Abschnittsüberschrift bleibt unbeachtet",
+                                "VelkCore"));
     addBlock(section);
     return true;
 }
@@ -144,7 +149,8 @@ bool PIniFile::parseKey(QStringView text, Line &line)
             equals = -1;
     }
     if (equals < 0) {
-        note(line.number, QStringLiteral("neither section, key nor comment"));
+        note(line.number,
+             PString::translate("weder Abschnitt noch Schlüssel noch Kommentar", "VelkCore"));
         return false;
     }
     parseValue(text.mid(equals + 1).trimmed(), line);
@@ -158,17 +164,22 @@ void PIniFile::parseValue(QStringView text, Line &line)
         return;
     const QuotedText value = readQuoted(text);
     if (value.end < 0) {
-        note(line.number, QStringLiteral("quote without end; the text is taken as it stands"));
+        note(line.number,
+             PString::translate("Anführungszeichen ohne Ende; der Text gilt, wie er dasteht",
+                                "VelkCore"));
         return;
     }
     const QStringView rest = text.mid(value.end);
     if (!rest.trimmed().isEmpty() && !isComment(rest.trimmed())) {
-        note(line.number, QStringLiteral("text behind the quotes; all is taken as it stands"));
+        note(line.number,
+             PString::translate("Text hinter den Anführungszeichen; alles gilt, wie es dasteht",
+                                "VelkCore"));
         return;
     }
     if (!value.unknownEscape.isEmpty())
         note(line.number,
-             QStringLiteral("unknown escape %1 is taken as it stands").arg(value.unknownEscape));
+             PString::translate("die unbekannte Escape-Folge %1 gilt, wie sie dasteht", "VelkCore")
+                 .arg(value.unknownEscape));
     line.value = value.text;
     line.comment = rest.toUtf8();
 }

@@ -2,6 +2,8 @@
 
 #include "AddressedFiles.h"
 
+#include <core/text/PString.h>
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -10,11 +12,13 @@ namespace {
 QString refusal(const QString &name)
 {
     if (name.contains(QChar(u'\0')))
-        return QStringLiteral("the name has a NUL in it");
+        return PString::translate("der Name enthält ein NUL-Zeichen", "VelkCore");
     const QFileInfo info(name);
     if (info.isDir())
-        return QStringLiteral("it is a directory");
-    return info.exists() && !info.isFile() ? QStringLiteral("it is no regular file") : QString();
+        return PString::translate("das ist ein Verzeichnis", "VelkCore");
+    return info.exists() && !info.isFile()
+               ? PString::translate("das ist keine gewöhnliche Datei", "VelkCore")
+               : QString();
 }
 
 } // namespace

@@ -2,6 +2,8 @@
 
 #include "ContentHash.h"
 
+#include <core/text/PString.h>
+
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -80,7 +82,7 @@ bool DurableFile::open(QSaveFile &file, QString *error)
 {
     const QFileInfo info(file.fileName());
     if (info.exists() && !info.isFile())
-        return report(error, QStringLiteral("It is no regular file."));
+        return report(error, PString::translate("Das ist keine gewöhnliche Datei.", "VelkCore"));
     return file.open(QIODevice::WriteOnly) || report(error, file.errorString());
 }
 
@@ -124,7 +126,8 @@ bool DurableFile::copy(const QString &from, const QString &to, QString *error)
     if (!commit(target, error))
         return false;
     if (FileState::of(to).hash != hash.result())
-        return report(error, QStringLiteral("The copy differs from the original."));
+        return report(error,
+                      PString::translate("Die Kopie unterscheidet sich vom Original.", "VelkCore"));
     return true;
 }
 

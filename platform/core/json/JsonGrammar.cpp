@@ -1,5 +1,7 @@
 #include "JsonGrammar.h"
 
+#include <QtGlobal>
+
 #include <array>
 #include <string_view>
 
@@ -68,7 +70,8 @@ JsonGrammar::Next JsonGrammar::value()
 {
     skipBlanks();
     if (m_at == m_end)
-        return stop(m_open.empty() ? "The document has no value." : "A value is missing.");
+        return stop(m_open.empty() ? QT_TRANSLATE_NOOP("VelkCore", "Das Dokument hat keinen Wert.")
+                                   : QT_TRANSLATE_NOOP("VelkCore", "Ein Wert fehlt."));
     switch (*m_at) {
     case '{':
         return open('}');
@@ -105,13 +108,18 @@ JsonGrammar::Next JsonGrammar::behindValue()
     for (;;) {
         skipBlanks();
         if (m_open.empty())
-            return m_at == m_end ? Next::End : stop("Something stands behind the document.");
+            return m_at == m_end ? Next::End
+                                 : stop(QT_TRANSLATE_NOOP("VelkCore",
+                                                          "Hinter dem Dokument steht noch etwas."));
         const char c = peek();
         if (c == ',')
             return behindComma();
         if (c != (m_open.back() ? '}' : ']'))
-            return stop(m_open.back() ? "A comma or } is missing behind a member."
-                                      : "A comma or ] is missing behind an element.");
+            return stop(
+                m_open.back()
+                    ? QT_TRANSLATE_NOOP("VelkCore", "Hinter einem Eintrag fehlt ein Komma oder }.")
+                    : QT_TRANSLATE_NOOP("VelkCore",
+                                        "Hinter einem Listenwert fehlt ein Komma oder ]."));
         ++m_at;
         m_open.pop_back();
     }
@@ -129,12 +137,13 @@ JsonGrammar::Next JsonGrammar::behindComma()
 bool JsonGrammar::name()
 {
     if (peek() != '"')
-        return fail("The name of a member is missing.");
+        return fail(QT_TRANSLATE_NOOP("VelkCore", "Der Name eines Eintrags fehlt."));
     if (!text())
         return false;
     skipBlanks();
     if (peek() != ':')
-        return fail("A colon is missing behind the name of a member.");
+        return fail(QT_TRANSLATE_NOOP("VelkCore",
+                                      "Hinter dem Namen eines Eintrags fehlt ein Doppelpunkt."));
     ++m_at;
     return true;
 }
@@ -146,7 +155,8 @@ bool JsonGrammar::text()
         while (m_at != m_end && Plain[static_cast<unsigned char>(*m_at)])
             ++m_at;
         if (m_at == m_end)
-            return fail("The closing quote of a text is missing.");
+            return fail(QT_TRANSLATE_NOOP("VelkCore",
+                                          "Das schließende Anführungszeichen eines Textes fehlt."));
         if (*m_at == '"') {
             ++m_at;
             return true;
@@ -164,11 +174,13 @@ bool JsonGrammar::escape()
         return true;
     }
     if (peek() != 'u')
-        return fail("No such escape in a text.");
+        return fail(
+            QT_TRANSLATE_NOOP("VelkCore", "Ein Text enthält eine unbekannte Escape-Folge."));
     ++m_at;
     for (int i = 0; i < 4; ++i, ++m_at) {
         if (!isHexadecimal(peek()))
-            return fail("An escape \\u wants four hexadecimal digits.");
+            return fail(QT_TRANSLATE_NOOP("VelkCore",
+                                          "Hinter \\u müssen vier hexadezimale Ziffern stehen."));
     }
     return true;
 }
@@ -178,14 +190,15 @@ bool JsonGrammar::character()
 {
     const auto first = static_cast<unsigned char>(*m_at);
     if (first < 0x20)
-        return fail("A control character in a text must be escaped.");
+        return fail(QT_TRANSLATE_NOOP(
+            "VelkCore", "Ein Steuerzeichen in einem Text muss als Escape-Folge dastehen."));
     Sequence rest = sequence(first);
     if (rest.bytes == 0 || m_end - m_at <= rest.bytes)
-        return fail("A text is no UTF-8.");
+        return fail(QT_TRANSLATE_NOOP("VelkCore", "Ein Text ist kein UTF-8."));
     for (int i = 1; i <= rest.bytes; ++i) {
         const auto byte = static_cast<unsigned char>(m_at[i]);
         if (byte < rest.least || byte > rest.most)
-            return fail("A text is no UTF-8.");
+            return fail(QT_TRANSLATE_NOOP("VelkCore", "Ein Text ist kein UTF-8."));
         rest.least = 0x80;
         rest.most = 0xBF;
     }
@@ -201,15 +214,18 @@ bool JsonGrammar::number()
     if (peek() == '0')
         ++m_at;
     else if (!digits())
-        return fail(minus ? "A number has no digits." : "A value is missing.");
+        return fail(minus ? QT_TRANSLATE_NOOP("VelkCore", "Eine Zahl hat keine Ziffern.")
+                          : QT_TRANSLATE_NOOP("VelkCore", "Ein Wert fehlt."));
     if (peek() == '.' && (++m_at, !digits()))
-        return fail("A number has no digits behind its point.");
+        return fail(
+            QT_TRANSLATE_NOOP("VelkCore", "Eine Zahl hat keine Ziffern hinter ihrem Punkt."));
     if (peek() != 'e' && peek() != 'E')
         return true;
     ++m_at;
     if (peek() == '+' || peek() == '-')
         ++m_at;
-    return digits() || fail("A number has no digits in its exponent.");
+    return digits() ||
+           fail(QT_TRANSLATE_NOOP("VelkCore", "Eine Zahl hat keine Ziffern in ihrem Exponenten."));
 }
 
 bool JsonGrammar::digits()
@@ -224,7 +240,7 @@ bool JsonGrammar::word(const char *letters)
 {
     const std::string_view wanted(letters);
     if (!std::string_view(m_at, std::size_t(m_end - m_at)).starts_with(wanted))
-        return fail("A value is missing.");
+        return fail(QT_TRANSLATE_NOOP("VelkCore", "Ein Wert fehlt."));
     m_at += wanted.size();
     return true;
 }

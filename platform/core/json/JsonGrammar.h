@@ -21,7 +21,7 @@ public:
         return c == ' ' || c == '\n' || c == '\r' || c == '\t';
     }
 
-    /// Where the first fault stands, and what it is.
+    /// Where the first fault stands, and what it is: a text of the context "VelkCore".
     [[nodiscard]] qsizetype faultAt() const { return m_at - m_begin; }
     [[nodiscard]] const char *fault() const { return m_fault; }
 

@@ -2,6 +2,8 @@
 
 #include "JsonGrammar.h"
 
+#include <core/text/PString.h>
+
 #include <algorithm>
 #include <cstring>
 
@@ -46,7 +48,7 @@ bool JsonText::check(QByteArrayView json, QString *error)
         return true;
     if (error)
         *error = QStringLiteral("%1: %2").arg(place(json, grammar.faultAt() + mark),
-                                              QLatin1String(grammar.fault()));
+                                              PString::translate(grammar.fault(), "VelkCore"));
     return false;
 }
 
@@ -55,7 +57,7 @@ QString JsonText::place(QByteArrayView json, qsizetype offset)
     const QByteArrayView before = json.first(qBound(qsizetype(0), offset, json.size()));
     const auto line = std::count(before.begin(), before.end(), '\n') + 1;
     const qsizetype column = before.size() - before.lastIndexOf('\n');
-    return QStringLiteral("line %1, column %2").arg(line).arg(column);
+    return PString::translate("Zeile %1, Spalte %2", "VelkCore").arg(line).arg(column);
 }
 
 QByteArrayView JsonText::trimmed(QByteArrayView json)

@@ -4,6 +4,8 @@
 #include "JsonWriter.h"
 #include "PJsonNode.h"
 
+#include <core/text/PString.h>
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -112,7 +114,8 @@ bool PJsonValue::parseFile(const QString &nativePath, QString *error)
     const QFileInfo info(nativePath);
     if (info.exists() && !info.isFile()) {
         if (error)
-            *error = QStringLiteral("%1: It is no regular file.").arg(nativePath);
+            *error = QStringLiteral("%1: %2").arg(
+                nativePath, PString::translate("Das ist keine gewöhnliche Datei.", "VelkCore"));
         return false;
     }
     QFile file(nativePath);

@@ -98,7 +98,7 @@ void PTranslateManager::registerModule(const char *module)
 
 void PTranslateManager::registerLibraries()
 {
-    for (const char *library : {"VelkGeomCore", "VelkGui", "VelkGeomCoreGui"})
+    for (const char *library : {"VelkCore", "VelkGeomCore", "VelkGui", "VelkGeomCoreGui"})
         registerModule(library);
 }
 

@@ -1,6 +1,7 @@
 #include "LocatedJson.h"
 
-#include <rapidjson/error/en.h>
+#include <core/json/jsonParserFault.h>
+#include <core/text/PString.h>
 #include <rapidjson/memorystream.h>
 #include <rapidjson/reader.h>
 
@@ -50,7 +51,9 @@ public:
         const qsizetype begin = valueBegin();
         m_last = position();
         if (m_names.back().contains(name))
-            return fail(begin, QStringLiteral("the member \"%1\" stands twice").arg(name));
+            return fail(
+                begin,
+                PString::translate("der Eintrag „%1“ steht zweimal da", "VelkGeomCore").arg(name));
         m_names.back().insert(name);
         object.names.append(name);
         return true;
@@ -92,7 +95,7 @@ private:
     {
         LocatedJson *node = add(type);
         if (m_open.size() == MaxDepth)
-            return fail(node->begin, QStringLiteral("more than 64 levels deep"));
+            return fail(node->begin, PString::translate("mehr als 64 Ebenen tief", "VelkGeomCore"));
         m_last = node->begin + 1; // the event comes before the bracket is taken
         m_open.push_back(node);
         m_names.emplace_back();
@@ -144,8 +147,8 @@ bool LocatedJson::parse(const QByteArray &json, const QString &file, LocatedJson
         return true;
     if (builder.problem.isEmpty())
         errors.append(errorAt(json, file, qsizetype(result.Offset()),
-                              QStringLiteral("no valid JSON: ") +
-                                  QString::fromLatin1(rapidjson::GetParseError_En(result.Code()))));
+                              PString::translate("kein gültiges JSON: %1", "VelkGeomCore")
+                                  .arg(jsonParserFault(result.Code()))));
     else
         errors.append(errorAt(json, file, builder.problemAt, builder.problem));
     return false;

@@ -2,6 +2,7 @@
 
 #include "TableFieldNames.h"
 
+#include <core/text/PString.h>
 #include <geomcore/project/CipVersionMgmtC.h>
 
 #include <QSet>
@@ -75,7 +76,8 @@ std::optional<TableDescriptor> TableDescriptorReader::read()
     if (!LocatedJson::parse(m_json, m_file, root, m_errors))
         return {};
     TableDescriptor result;
-    if (isOf(LocatedJson::Type::Object, root, "an object")) {
+    if (isOf(LocatedJson::Type::Object, root,
+             QT_TRANSLATE_NOOP("VelkGeomCore", "ein Objekt wird erwartet"))) {
         for (qsizetype i = 0; i < root.names.size(); ++i)
             readMember(root.names.at(i), root.items[size_t(i)], result);
     }
@@ -112,17 +114,20 @@ void TableDescriptorReader::readMember(const QString &name, const LocatedJson &v
 
 void TableDescriptorReader::readFields(const LocatedJson &value, TableDescriptor &out)
 {
-    if (!isOf(LocatedJson::Type::Array, value, "a list of fields"))
+    if (!isOf(LocatedJson::Type::Array, value,
+              QT_TRANSLATE_NOOP("VelkGeomCore", "eine Liste von Feldern wird erwartet")))
         return;
     QSet<QString> names;
     for (const LocatedJson &item : value.items) {
-        if (!isOf(LocatedJson::Type::Object, item, "a field, which is an object"))
+        if (!isOf(LocatedJson::Type::Object, item,
+                  QT_TRANSLATE_NOOP("VelkGeomCore", "ein Feld wird erwartet, also ein Objekt")))
             continue;
         TableField field = readField(item);
         if (field.name.isEmpty())
-            error(item, QStringLiteral("the field has no name"));
+            error(item, PString::translate("das Feld hat keinen Namen", "VelkGeomCore"));
         else if (names.contains(field.name))
-            error(item, QStringLiteral("the field \"%1\" stands twice").arg(field.name));
+            error(item, PString::translate("das Feld „%1“ gibt es zweimal", "VelkGeomCore")
+                            .arg(field.name));
         names.insert(field.name);
         out.fields.append(std::move(field));
     }
@@ -134,7 +139,8 @@ TableField TableDescriptorReader::readField(const LocatedJson &value)
     for (qsizetype i = 0; i < value.names.size(); ++i)
         readFieldMember(value.names.at(i), value.items[size_t(i)], field);
     if (field.kind == FieldKind::Computed && field.formula.isEmpty())
-        error(value, QStringLiteral("the computed field \"%1\" has no formula").arg(field.name));
+        error(value, PString::translate("das berechnete Feld „%1“ hat keine Formel", "VelkGeomCore")
+                         .arg(field.name));
     return field;
 }
 
@@ -148,17 +154,19 @@ void TableDescriptorReader::readFieldMember(const QString &name, const LocatedJs
     } else if (name == QLatin1String("type")) {
         readText(value, text);
         if (!findNamed(FieldTypeNames, text, field.type, known))
-            error(value, QStringLiteral("unknown type \"%1\"; known are %2").arg(text, known));
+            error(value, PString::translate("unbekannter Typ „%1“; bekannt sind %2", "VelkGeomCore")
+                             .arg(text, known));
     } else if (name == QLatin1String("kind")) {
         readText(value, text);
         if (!findNamed(FieldKindNames, text, field.kind, known))
-            error(value, QStringLiteral("unknown kind \"%1\"; known are %2").arg(text, known));
+            error(value, PString::translate("unbekannte Art „%1“; bekannt sind %2", "VelkGeomCore")
+                             .arg(text, known));
     } else if (name == QLatin1String("hidden")) {
         readBool(value, field.hidden);
     } else if (name == QLatin1String("decimalChar")) {
         readText(value, text);
         if (text != QLatin1String(".") && text != QLatin1String(","))
-            error(value, QStringLiteral("the decimal character is \".\" or \",\""));
+            error(value, PString::translate("das Dezimalzeichen ist „.“ oder „,“", "VelkGeomCore"));
         else
             field.decimalChar = text.front().toLatin1();
     } else if (name == QLatin1String("translations")) {
@@ -170,10 +178,13 @@ void TableDescriptorReader::readFieldMember(const QString &name, const LocatedJs
 
 void TableDescriptorReader::readConditions(const LocatedJson &value, TableDescriptor &out)
 {
-    if (!isOf(LocatedJson::Type::Array, value, "a list of conditions"))
+    if (!isOf(LocatedJson::Type::Array, value,
+              QT_TRANSLATE_NOOP("VelkGeomCore", "eine Liste von Bedingungen wird erwartet")))
         return;
     for (const LocatedJson &item : value.items) {
-        if (!isOf(LocatedJson::Type::Object, item, "a condition, which is an object"))
+        if (!isOf(
+                LocatedJson::Type::Object, item,
+                QT_TRANSLATE_NOOP("VelkGeomCore", "eine Bedingung wird erwartet, also ein Objekt")))
             continue;
         TableFilterCondition condition;
         for (qsizetype i = 0; i < item.names.size(); ++i) {
@@ -186,7 +197,7 @@ void TableDescriptorReader::readConditions(const LocatedJson &value, TableDescri
                 keep(item.names.at(i), member, condition.unknown);
         }
         if (condition.name.isEmpty())
-            error(item, QStringLiteral("the condition has no name"));
+            error(item, PString::translate("die Bedingung hat keinen Namen", "VelkGeomCore"));
         out.filterConditions.append(condition);
     }
 }
@@ -196,12 +207,15 @@ void TableDescriptorReader::readDate(const LocatedJson &value, QString &out)
     readText(value, out);
     if (!out.isEmpty() && CipVersionMgmtC::MakeVersionFromDate(out, {}).isEmpty())
         error(value,
-              QStringLiteral("\"%1\" is no date; write it as 2026-01-31T12:00:00Z").arg(out));
+              PString::translate("„%1“ ist kein Datum; schreiben Sie es wie 2026-01-31T12:00:00Z",
+                                 "VelkGeomCore")
+                  .arg(out));
 }
 
 void TableDescriptorReader::readText(const LocatedJson &value, QString &out)
 {
-    if (isOf(LocatedJson::Type::String, value, "a text"))
+    if (isOf(LocatedJson::Type::String, value,
+             QT_TRANSLATE_NOOP("VelkGeomCore", "ein Text wird erwartet")))
         out = value.text;
 }
 
@@ -212,7 +226,8 @@ void TableDescriptorReader::readTexts(const LocatedJson &value, QStringList &out
         out.append(value.text);
         return;
     }
-    if (!isOf(LocatedJson::Type::Array, value, "a list of texts"))
+    if (!isOf(LocatedJson::Type::Array, value,
+              QT_TRANSLATE_NOOP("VelkGeomCore", "eine Liste von Texten wird erwartet")))
         return;
     for (const LocatedJson &item : value.items) {
         QString text;
@@ -223,23 +238,27 @@ void TableDescriptorReader::readTexts(const LocatedJson &value, QStringList &out
 
 void TableDescriptorReader::readBool(const LocatedJson &value, bool &out)
 {
-    if (isOf(LocatedJson::Type::Bool, value, "true or false"))
+    if (isOf(LocatedJson::Type::Bool, value,
+             QT_TRANSLATE_NOOP("VelkGeomCore", "true oder false wird erwartet")))
         out = value.boolean;
 }
 
 void TableDescriptorReader::readCount(const LocatedJson &value, int &out)
 {
-    if (!isOf(LocatedJson::Type::Number, value, "a number"))
+    if (!isOf(LocatedJson::Type::Number, value,
+              QT_TRANSLATE_NOOP("VelkGeomCore", "eine Zahl wird erwartet")))
         return;
     bool ok = false;
     out = value.text.toInt(&ok);
     if (!ok || out < 0)
-        error(value, QStringLiteral("expected an integer from 0 to 2147483647"));
+        error(value, PString::translate("eine ganze Zahl von 0 bis 2147483647 wird erwartet",
+                                        "VelkGeomCore"));
 }
 
 void TableDescriptorReader::readTextMap(const LocatedJson &value, QMap<QString, QString> &out)
 {
-    if (!isOf(LocatedJson::Type::Object, value, "an object of texts"))
+    if (!isOf(LocatedJson::Type::Object, value,
+              QT_TRANSLATE_NOOP("VelkGeomCore", "ein Objekt mit Texten wird erwartet")))
         return;
     for (qsizetype i = 0; i < value.names.size(); ++i)
         readText(value.items[size_t(i)], out[value.names.at(i)]);
@@ -247,7 +266,9 @@ void TableDescriptorReader::readTextMap(const LocatedJson &value, QMap<QString, 
 
 void TableDescriptorReader::readTranslations(const LocatedJson &value, TextTranslations &out)
 {
-    if (!isOf(LocatedJson::Type::Object, value, "an object with a member for each language"))
+    if (!isOf(LocatedJson::Type::Object, value,
+              QT_TRANSLATE_NOOP("VelkGeomCore",
+                                "ein Objekt mit einem Eintrag für jede Sprache wird erwartet")))
         return;
     for (qsizetype i = 0; i < value.names.size(); ++i)
         readTextMap(value.items[size_t(i)], out[value.names.at(i)]);
@@ -263,7 +284,7 @@ bool TableDescriptorReader::isOf(LocatedJson::Type type, const LocatedJson &valu
 {
     if (value.type == type)
         return true;
-    error(value, QStringLiteral("expected ") + QLatin1String(what));
+    error(value, PString::translate(what, "VelkGeomCore"));
     return false;
 }
 

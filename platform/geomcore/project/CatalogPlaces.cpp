@@ -1,5 +1,7 @@
 #include "CatalogPlaces.h"
 
+#include <core/text/PString.h>
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -53,12 +55,15 @@ QString resolved(const PPathName &path)
 
 QString isAnAddress(const QString &file)
 {
-    return QStringLiteral("\"%1\" is an address; only files are read").arg(file);
+    return PString::translate("„%1“ ist eine Adresse; nur Dateien werden gelesen", "VelkGeomCore")
+        .arg(file);
 }
 
 QString leavesRoot(const QString &file, const QString &root)
 {
-    return QStringLiteral("\"%1\" lies outside of \"%2\"; move it there, or allow its directory")
+    return PString::translate("„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder "
+                              "erlauben Sie sein Verzeichnis",
+                              "VelkGeomCore")
         .arg(QDir::toNativeSeparators(file), QDir::toNativeSeparators(root));
 }
 
@@ -146,8 +151,9 @@ QString CatalogPlaces::refusalOfTarget(const QString &file) const
     });
     if (inRoot || isAllowed(real))
         return {};
-    return QStringLiteral(
-               "\"%1\" lies outside of the catalogs; move it there, or allow its directory")
+    return PString::translate("„%1“ liegt außerhalb der Kataloge; verschieben Sie es dorthin, oder "
+                              "erlauben Sie sein Verzeichnis",
+                              "VelkGeomCore")
         .arg(QDir::toNativeSeparators(file));
 }
 
@@ -156,7 +162,7 @@ QString CatalogPlaces::refusal(const QString &file, const QString &namedBy) cons
     if (PPathName(file).isAddress())
         return isAnAddress(file);
     if (file.contains(QChar(u'\0')))
-        return QStringLiteral("the name of the file has a NUL in it");
+        return PString::translate("der Name der Datei enthält ein NUL-Zeichen", "VelkGeomCore");
     if (areNeighbours(file, namedBy))
         return {};
     const QString real = realPath(file);

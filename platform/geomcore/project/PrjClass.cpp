@@ -4,6 +4,8 @@
 #include "PrjFile.h"
 #include "tableFileOf.h"
 
+#include <core/text/PString.h>
+
 #include <QDir>
 #include <QLockFile>
 
@@ -24,7 +26,9 @@ int PrjClass::read(const QString &nativePath, int parts)
     m_path = !address && QDir::isRelativePath(nativePath) ? QDir().absoluteFilePath(nativePath)
                                                           : nativePath;
     if (address)
-        return fail(m_path + QStringLiteral(": is an address; only files are read"));
+        return fail(
+            m_path + QStringLiteral(": ") +
+            PString::translate("das ist eine Adresse; nur Dateien werden gelesen", "VelkGeomCore"));
     const QString refusal = CatalogPlaces::instance().refusal(m_path);
     if (!refusal.isEmpty())
         return fail(m_path + QStringLiteral(": ") + refusal);
@@ -77,9 +81,11 @@ bool PrjClass::takeLock()
     QString host;
     QString application;
     const bool known = m_lockFile->getLockInfo(&process, &host, &application);
-    m_errorText = m_path + (known ? QStringLiteral(": is locked by %1 on %2 (process %3)")
-                                        .arg(application, host, QString::number(process))
-                                  : QStringLiteral(": the lock file beside it cannot be written"));
+    m_errorText = m_path + QStringLiteral(": ") +
+                  (known ? PString::translate("gesperrt von %1 auf %2 (Prozess %3)", "VelkGeomCore")
+                               .arg(application, host, QString::number(process))
+                         : PString::translate("die Sperrdatei daneben lässt sich nicht schreiben",
+                                              "VelkGeomCore"));
     m_lockFile.reset();
     return false;
 }

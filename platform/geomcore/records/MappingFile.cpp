@@ -6,6 +6,7 @@
 
 #include <core/files/DurableFile.h>
 #include <core/json/JsonWriter.h>
+#include <core/text/PString.h>
 
 #include <QBuffer>
 #include <QFile>
@@ -42,7 +43,8 @@ bool openFile(QFile &file, const QString &nativePath, QString *error)
 {
     const QFileInfo info(nativePath);
     if (info.exists() && !info.isFile()) // asked first: opening a pipe waits for its other end
-        return report(error, nativePath, QStringLiteral("It is no regular file."));
+        return report(error, nativePath,
+                      PString::translate("Das ist keine gewöhnliche Datei.", "VelkCore"));
     file.setFileName(nativePath);
     return file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) ||
            report(error, nativePath, file.errorString());

@@ -4,13 +4,13 @@
 #include "MappingFileEvents.h"
 #include "ReleaseBuilder.h"
 
+#include <core/json/jsonParserFault.h>
 #include <core/json/JsonText.h>
 
 #include <QBuffer>
 #include <QHash>
 #include <QIODevice>
 
-#include <rapidjson/error/en.h>
 #include <rapidjson/memorystream.h>
 #include <rapidjson/reader.h>
 
@@ -66,7 +66,7 @@ qsizetype parse(Stream &stream, Events &events, qsizetype size, QString &what)
     else if (result.Code() == rapidjson::kParseErrorTermination)
         what = events.error();
     else
-        what = QString::fromLatin1(rapidjson::GetParseError_En(result.Code()));
+        what = jsonParserFault(result.Code());
     return qsizetype(result.IsError() ? result.Offset() : stream.Tell());
 }
 
