@@ -1,5 +1,7 @@
 // A file that is read beside the rows of another one says what it says when it is read alone.
 
+#include "../support/EnglishTexts.h"
+
 #include <geomcore/records/KnownRows.h>
 #include <geomcore/records/MappingFile.h>
 

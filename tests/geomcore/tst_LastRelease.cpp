@@ -1,3 +1,5 @@
+#include "../support/EnglishTexts.h"
+
 #include <geomcore/records/MappingFile.h>
 
 #include <QTest>
