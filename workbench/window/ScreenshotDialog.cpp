@@ -54,13 +54,19 @@ constexpr QSize helpSize(980, 620);
 constexpr QSize linksSize(900, 420);
 constexpr QSize documentsSize(1000, 420);
 
+/// Time for what follows later: the counter, the room of a panel that has more text now.
+void letFollow(int milliseconds)
+{
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
 QPixmap grabLater(QWidget &dialog, const QSize &size, int milliseconds)
 {
     dialog.resize(size);
     dialog.show();
-    QEventLoop loop;
-    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
-    loop.exec();
+    letFollow(milliseconds);
     return dialog.grab();
 }
 
@@ -222,6 +228,7 @@ QPixmap reviewPicture(const QString &name, const QString &row, MainWindow &windo
     window.commands()->action(WorkbenchActions::ReviewDifferences)->trigger();
     const auto *const candidates = window.findChild<QTreeView *>("CandidateList");
     waitUntil([candidates] { return candidates && candidates->model()->rowCount() > 0; });
+    letFollow(dialogMilliseconds);
     return window.grab();
 }
 
@@ -239,7 +246,7 @@ QPixmap carriedPicture(MainWindow &window)
     if (auto *const list = window.findChild<QTreeWidget *>("FilterList"))
         list->scrollToBottom();
     window.editor()->focusLines();
-    QApplication::processEvents();
+    letFollow(dialogMilliseconds);
     return window.grab();
 }
 
