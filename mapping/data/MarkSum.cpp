@@ -12,7 +12,7 @@ MarkSum::MarkSum(const QList<int> &positions)
 void MarkSum::bringUpToDate(const WatchedRelease &release)
 {
     if (m_nextChange < release.firstChange())
-        countAll(release.release());
+        countAll(release);
     else
         for (; m_nextChange < release.changeCount(); ++m_nextChange) {
             const WatchedRelease::Change &change = release.change(m_nextChange);
@@ -25,12 +25,12 @@ void MarkSum::bringUpToDate(const WatchedRelease &release)
     m_nextChange = release.changeCount();
 }
 
-void MarkSum::countAll(const ReleaseMappingC &release)
+void MarkSum::countAll(const WatchedRelease &release)
 {
     m_states = {};
     m_conflicts = 0;
     for (const int position : std::as_const(m_positions))
-        count(WatchedRelease::Marks::of(release.mappingAt(position)), 1);
+        count(release.marksAt(position), 1);
 }
 
 void MarkSum::count(const WatchedRelease::Marks &marks, int times)

@@ -20,7 +20,7 @@ public:
     [[nodiscard]] bool hasConflicts() const { return m_conflicts > 0; }
 
 private:
-    void countAll(const ReleaseMappingC &release);
+    void countAll(const WatchedRelease &release);
     void count(const WatchedRelease::Marks &marks, int times);
 
     QList<int> m_positions; ///< sorted

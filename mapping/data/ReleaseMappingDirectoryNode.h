@@ -1,12 +1,13 @@
 #pragma once
 
 #include "CatalogStructureNodeI.h"
+#include "FilledNodeI.h"
 #include "MarkSum.h"
 #include "WatchedRelease.h"
 
 /// A directory of the tree of a release. Remembers its rolled up state until invalidateState, so
-/// that painting it does not walk all its projects.
-class ReleaseMappingDirectoryNode : public CatalogStructureNodeI
+/// that painting it does not walk all its projects. Made for a project, it is never empty.
+class ReleaseMappingDirectoryNode : public CatalogStructureNodeI, public FilledNodeI
 {
 public:
     /// \a projects are the positions of all below this directory; \a depth is the path component

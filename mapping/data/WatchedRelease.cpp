@@ -1,5 +1,7 @@
 #include "WatchedRelease.h"
 
+#include <utility>
+
 namespace {
 
 /// Above this a new look at a directory's mappings costs no more than the changes do.
@@ -15,17 +17,23 @@ WatchedRelease::Marks WatchedRelease::Marks::of(const PrjMappingC &mapping)
 WatchedRelease::WatchedRelease(const ReleaseMappingC &given)
     : m_release(given)
 {
+    m_marks.reserve(std::size_t(given.countMappings()));
+    for (int i = 0; i < given.countMappings(); ++i)
+        m_marks.push_back(Marks::of(given.mappingAt(i)));
 }
 
 void WatchedRelease::addMapping(const PrjMappingC &mapping)
 {
     const int position = m_release.findPosition(mapping.getSourcePath(), mapping.getSourceVersion(),
                                                 mapping.getTabVersion());
-    const Marks before = Marks::of(m_release.mappingAt(position));
     const Marks after = Marks::of(mapping);
     m_release.addMapping(mapping);
-    // A mapping that is new has no place in the tree.
-    if (position < 0 || before == after)
+    if (position < 0) { // it has no place in the tree
+        m_marks.push_back(after);
+        return;
+    }
+    const Marks before = std::exchange(m_marks[std::size_t(position)], after);
+    if (before == after)
         return;
     m_changes.push_back({position, before, after});
     if (m_changes.size() > KeptChanges) {

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <vector>
 
 /// The working copy of a release, shared by a handler and the nodes of its tree. Keeps the latest
 /// changes of its mappings' marks, so that whoever sums them up need not look at all of them again.
@@ -29,6 +30,11 @@ public:
     explicit WatchedRelease(const ReleaseMappingC &given);
 
     [[nodiscard]] const ReleaseMappingC &release() const { return m_release; }
+    /// Those of the mapping at a position, without a look at it.
+    [[nodiscard]] const Marks &marksAt(int position) const
+    {
+        return m_marks[std::size_t(position)];
+    }
     /// Replaces the mapping of its path, version and table version, or appends.
     void addMapping(const PrjMappingC &mapping);
 
@@ -51,6 +57,7 @@ public:
 
 private:
     ReleaseMappingC m_release;
+    std::vector<Marks> m_marks; ///< of the mappings in stored order
     std::deque<Change> m_changes;
     std::int64_t m_firstChange = 0;
     int m_generation = 0;

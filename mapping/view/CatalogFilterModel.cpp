@@ -13,9 +13,16 @@ CatalogFilterModel::CatalogFilterModel(QObject *parent)
 
 CatalogFilterModel::~CatalogFilterModel() = default;
 
+bool CatalogFilterModel::hasChildren(const QModelIndex &parent) const
+{
+    if (isFiltering() || !sourceModel())
+        return QSortFilterProxyModel::hasChildren(parent);
+    return sourceModel()->hasChildren(mapToSource(parent));
+}
+
 bool CatalogFilterModel::filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const
 {
-    if (!filterToCheck && !hostFilter)
+    if (!isFiltering())
         return QSortFilterProxyModel::filterAcceptsRow(sourceRow, sourceParent);
     const QModelIndex source = sourceModel()->index(sourceRow, 0, sourceParent);
     if (source.data(Qt::DisplayRole).toString().endsWith(QLatin1String(".prj")))

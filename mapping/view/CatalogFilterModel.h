@@ -23,11 +23,15 @@ public:
     /// Empty: none.
     std::function<bool(const PrjMappingC &mapping)> hostFilter;
 
+    /// Without a filter what the source says, whose rows are left alone until they are wanted.
+    [[nodiscard]] bool hasChildren(const QModelIndex &parent = QModelIndex()) const override;
+
 protected:
     [[nodiscard]] bool filterAcceptsRow(int sourceRow,
                                         const QModelIndex &sourceParent) const override;
 
 private:
+    [[nodiscard]] bool isFiltering() const { return filterToCheck || hostFilter; }
     [[nodiscard]] bool passesHostFilter(const QModelIndex &source) const;
     [[nodiscard]] bool acceptsState(int state) const;
 };

@@ -4,6 +4,7 @@
 #include "CatalogStructureModelPrivate.h"
 
 #include <mapping/data/CatalogNodeType.h>
+#include <mapping/data/FilledNodeI.h>
 #include <mapping/data/StateTreeI.h>
 
 namespace {
@@ -68,6 +69,9 @@ int CatalogStructureModel::columnCount(const QModelIndex &) const
 
 bool CatalogStructureModel::hasChildren(const QModelIndex &parent) const
 {
+    const CatalogStructureItem *const item = d->itemOf(parent);
+    if (!item->childrenLoaded && dynamic_cast<const FilledNodeI *>(item->node.get()))
+        return true;
     return rowCount(parent) > 0;
 }
 

@@ -31,6 +31,7 @@ public:
     [[nodiscard]] QModelIndex parent(const QModelIndex &index) const override;
     [[nodiscard]] int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     [[nodiscard]] int columnCount(const QModelIndex &parent = QModelIndex()) const override;
+    /// Loads them to know, but for a FilledNodeI.
     [[nodiscard]] bool hasChildren(const QModelIndex &parent = QModelIndex()) const override;
     [[nodiscard]] QVariant data(const QModelIndex &index,
                                 int role = Qt::DisplayRole) const override;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <mapping/data/CatalogStructureNodeI.h>
+#include <mapping/data/FilledNodeI.h>
 
 #include <QStringList>
 
@@ -65,6 +66,20 @@ private:
     static Ptr make(int type, const QString &name, const QList<Ptr> &children)
     {
         Ptr node = boost::make_shared<TestNode>(type, name);
+        node->children = children;
+        return node;
+    }
+};
+
+/// A directory that tells that it has children without being asked for them.
+class FilledTestNode : public TestNode, public FilledNodeI
+{
+public:
+    using TestNode::TestNode;
+
+    static Ptr directory(const QString &name, const QList<Ptr> &children)
+    {
+        const Ptr node = boost::make_shared<FilledTestNode>(1, name);
         node->children = children;
         return node;
     }

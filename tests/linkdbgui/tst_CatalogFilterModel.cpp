@@ -5,6 +5,7 @@
 
 #include <QAbstractItemModelTester>
 #include <QTest>
+#include <QTreeView>
 
 namespace {
 
@@ -237,6 +238,34 @@ private Q_SLOTS:
         QCOMPARE(filtered.filter.rowCount(), 1);
         QCOMPARE(first->asked, 1);
         QCOMPARE(second->asked, 0);
+    }
+
+    void aViewLoadsWhatIsOpen()
+    {
+        const TestNode::Ptr open = FilledTestNode::directory("b", {TestNode::project("c.prj", 2)});
+        const TestNode::Ptr closed = FilledTestNode::directory("d", {TestNode::project("e.prj")});
+        const TestNode::Ptr above = FilledTestNode::directory("a", {open, closed});
+        Filtered filtered(TestNode::root({above}));
+        QTreeView tree;
+        tree.setModel(&filtered.filter);
+        tree.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&tree));
+        QCOMPARE(above->asked, 0);
+        const QModelIndex top = filtered.filter.index(0, 0);
+        tree.expand(top);
+        tree.expand(filtered.filter.index(0, 0, top));
+        QTest::qWait(0);
+        QVERIFY(tree.indexBelow(tree.indexBelow(tree.indexBelow(top))).isValid());
+        QCOMPARE(open->asked, 1);
+        QCOMPARE(closed->asked, 0);
+        // A filter has to know.
+        filtered.set(Open);
+        QCOMPARE(closed->asked, 1);
+        QCOMPARE(filtered.rows(), QString("a(b(c.prj))"));
+        filtered.set(false, false, false);
+        const QAbstractItemModelTester tester(
+            &filtered.filter, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QCOMPARE(filtered.rows(), QString("a(b(c.prj) d(e.prj))"));
     }
 
     void aChangeShowsAfterInvalidateOnly()

@@ -177,6 +177,23 @@ private Q_SLOTS:
             QCOMPARE(node->asked, 1);
     }
 
+    void aFilledDirectoryIsNotAskedWhetherItHasAny()
+    {
+        const TestNode::Ptr filled = FilledTestNode::directory(
+            "a", {TestNode::project("c.prj"), TestNode::project("d.prj")});
+        CatalogStructureModel model(TestNode::root({filled, TestNode::directory("b")}));
+        const QAbstractItemModelTester tester(
+            &model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        const CatalogStructureModel fresh(TestNode::root({filled}));
+        const int asked = filled->asked;
+        QVERIFY(fresh.hasChildren(fresh.index(0, 0)));
+        QCOMPARE(filled->asked, asked);
+        QCOMPARE(fresh.rowCount(fresh.index(0, 0)), 2);
+        QCOMPARE(filled->asked, asked + 1);
+        QVERIFY(fresh.hasChildren(fresh.index(0, 0)));
+        QVERIFY(!model.hasChildren(model.index(1, 0)));
+    }
+
     void dataReadsNoChildren()
     {
         const TestNode::Ptr root = sampleTree();

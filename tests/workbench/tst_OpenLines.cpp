@@ -258,12 +258,22 @@ void tst_OpenLines::countsFollowChanges()
     m_document->updateMapping(open(B, {12}));
     m_document->finishStep();
     QCOMPARE(lines.count(), 2);
+    QCOMPARE(lines.projectCount(), 2);
     QCOMPARE(changed.size(), 1);
     QCOMPARE(changed.first().first().toInt(), 2);
     m_document->undo();
     QCOMPARE(changed.last().first().toInt(), 3);
+    m_document->updateMapping(open(B, {}));
+    m_document->finishStep();
+    QCOMPARE(lines.projectCount(), 1);
+    QCOMPARE(lines.next(LineRef()).line, ref(A, 7));
+    QVERIFY(!lines.nextProject(projectId(QString::fromLatin1(A)), true).isValid());
+    m_document->undo();
+    QCOMPARE(lines.projectCount(), 2);
+    QCOMPARE(lines.next(LineRef()).line, ref(B, 3));
     m_document->close();
     QCOMPARE(changed.last().first().toInt(), 0);
+    QCOMPARE(lines.projectCount(), 0);
 }
 
 void tst_OpenLines::followsANewTree()

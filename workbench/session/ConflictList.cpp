@@ -58,8 +58,10 @@ void ConflictList::fill()
         for (const MergeClash &clash : m_document->mergeState().lineClashes())
             known[{clash.sourcePath, clash.sourceVersion}].append(clash);
     }
+    // Without conflicts, and without any that were settled, no mapping needs a look.
+    const bool mayHaveAny = !known.isEmpty() || m_document->counts().conflicts() > 0;
     const ReleaseMappingC release =
-        m_document->isOpen() ? m_document->release() : ReleaseMappingC();
+        m_document->isOpen() && mayHaveAny ? m_document->release() : ReleaseMappingC();
     QList<MergeClash> clashes;
     for (int i = 0; i < release.countMappings(); ++i) {
         const PrjMappingC &mapping = release.mappingAt(i);

@@ -4,7 +4,6 @@
 #include "ProjectOrder.h"
 
 #include <core/files/EditLock.h>
-#include <mapping/data/CatalogMappingHandlerI.h>
 #include <release/share/SharedMapping.h>
 
 #include <QTimer>
@@ -82,7 +81,6 @@ void FilterWork::stop()
         Q_EMIT readingChanged();
     }
     ++m_jobNumber;
-    m_order.reset();
     m_errors.clear();
     m_traits = LineTraits();
     m_told->stop();
@@ -181,17 +179,14 @@ bool FilterWork::accepts(const LineRef &line) const
 
 ProjectId FilterWork::nextProject(const ProjectId &from, bool forward) const
 {
-    if (!isActive() || !m_document->handler())
+    if (!isActive())
         return {};
-    if (!m_order)
-        m_order = std::make_unique<ProjectOrder>(m_document->handler()->getRootStructureNode());
+    const ProjectOrder &order = m_document->projects();
     const ReleaseMappingC release = m_document->release();
-    const auto positionOf = [&release](const ProjectId &project) {
-        return release.findPosition(project.path, project.version, project.tabVersion);
-    };
-    const ProjectId next = m_order->next(from, forward, [&](const ProjectId &project) {
-        const int position = positionOf(project);
-        return position >= 0 && m_traits.count(position, m_filter) > 0;
-    });
-    return next.isValid() ? ProjectId::of(release.mappingAt(positionOf(next))) : next;
+    const std::optional<int> next =
+        order.next(order.placeOf(release, from), forward, [&](int place) {
+            const int position = order.positionAt(place);
+            return position < m_traits.projectCount() && m_traits.count(position, m_filter) > 0;
+        });
+    return next ? ProjectId::of(release.mappingAt(order.positionAt(*next))) : ProjectId();
 }

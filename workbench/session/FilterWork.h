@@ -11,7 +11,6 @@
 #include <thread>
 
 class MappingDocument;
-class ProjectOrder;
 QT_BEGIN_NAMESPACE
 class QTimer;
 QT_END_NAMESPACE
@@ -87,5 +86,4 @@ private:
     bool m_isWanted = false;
     bool m_isKnown = false;
     QTimer *const m_told; ///< one signal for many changes
-    mutable std::unique_ptr<ProjectOrder> m_order;
 };

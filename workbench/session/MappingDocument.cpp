@@ -142,6 +142,11 @@ const LineCounts &MappingDocument::counts() const
     return d->counts;
 }
 
+const ProjectOrder &MappingDocument::projects() const
+{
+    return d->order;
+}
+
 QList<ProjectId> MappingDocument::conflictedProjects() const
 {
     QList<ProjectId> projects;

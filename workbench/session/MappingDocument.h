@@ -17,6 +17,7 @@
 class CatalogMappingHandlerI;
 class PJsonValue;
 class MappingDocumentPrivate;
+class ProjectOrder;
 class QSettings;
 class UndoHistory;
 
@@ -130,6 +131,8 @@ public:
     [[nodiscard]] PrjMappingC mapping(const ProjectId &project) const;
     /// Of the whole release, kept while mappings change.
     [[nodiscard]] const LineCounts &counts() const;
+    /// In the order of the tree, as it was made; kept while mappings change.
+    [[nodiscard]] const ProjectOrder &projects() const;
 
     /// Projects with lines in conflict, in stored order: to be told before saving.
     [[nodiscard]] QList<ProjectId> conflictedProjects() const;

@@ -1,13 +1,14 @@
 #include "MappingDocumentPrivate.h"
 
+#include "BackgroundWork.h"
 #include "CatalogRootMemory.h"
 #include "OwnFile.h"
 #include "PastSteps.h"
 #include "ReleaseChanges.h"
 
 #include <core/message/PMessage.h>
-#include <mapping/data/ReleaseMappingHandler.h>
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QScopeGuard>
 #include <QThreadPool>
@@ -183,12 +184,16 @@ OpenResult MappingDocumentPrivate::begin(const ReleaseMappingC &release, const Q
     rootName = name.isEmpty()
                    ? QStringLiteral("%1 → %2").arg(release.getSourceDate(), release.getTargetDate())
                    : name;
+    PreparedRelease prepared;
+    BackgroundWork::run(QCoreApplication::translate("DocumentFile", "%1 wird gelesen")
+                            .arg(QFileInfo(file.path()).fileName()),
+                        [&] { prepared = PreparedRelease::of(release, rootName, file.path()); });
     roots = CatalogRootMemory(settings).roots(file.path());
     m_wasModified = false;
     lastAutosave = QDateTime();
     steps.reset();
     isOpen = true;
-    adoptRelease(release);
+    adoptRelease(std::move(prepared));
     if (isEditable() && !isNew)
         PastSteps::read(file.path(), release.getSourceDate(), steps.history());
     steps.history().markClean();
@@ -232,10 +237,11 @@ StepRecorder::Opening MappingDocumentPrivate::opening() const
     return {now.getSourceDate(), now.getTargetDate(), file.known().hash};
 }
 
-void MappingDocumentPrivate::adoptRelease(const ReleaseMappingC &release)
+void MappingDocumentPrivate::adoptRelease(PreparedRelease &&prepared)
 {
-    handler = std::make_shared<ReleaseMappingHandler>(release, rootName, file.path());
-    counts = countLines(release);
+    handler = std::move(prepared.handler);
+    counts = prepared.counts;
+    order = std::move(prepared.projects);
 }
 
 void MappingDocumentPrivate::close(bool tell)
@@ -260,6 +266,7 @@ void MappingDocumentPrivate::close(bool tell)
     handler.reset();
     mergeState = MergeState();
     counts = LineCounts();
+    order = ProjectOrder();
     steps.reset();
     rootName.clear();
     roots = CatalogRoots();

@@ -2,6 +2,7 @@
 
 #include "DocumentFile.h"
 #include "MappingDocument.h"
+#include "PreparedRelease.h"
 #include "StepMove.h"
 #include "StepRecorder.h"
 
@@ -58,6 +59,7 @@ public:
     RecoveryOffer offer;
     std::shared_ptr<CatalogMappingHandlerI> handler;
     LineCounts counts;
+    ProjectOrder order;
     MergeState mergeState;
     int autosaveSeconds = 180;
     QDateTime lastAutosave;
@@ -77,7 +79,7 @@ private:
                                       bool isNew = false);
     void beginJournal();
     void tellJournal();
-    void adoptRelease(const ReleaseMappingC &release);
+    void adoptRelease(PreparedRelease &&prepared);
     [[nodiscard]] StepRecorder::Opening opening() const;
 
     [[nodiscard]] PrjMappingC find(const PrjMappingC &like) const;

@@ -64,13 +64,16 @@ void MappingDocumentPrivate::update(const PrjMappingC &mapping, bool byEditor)
         m_turn.start();
 }
 
-/// Puts the mapping into the release and the counts.
+/// Puts the mapping into the release and the numbers.
 void MappingDocumentPrivate::store(const PrjMappingC &mapping, const PrjMappingC &before)
 {
     handler->updateMapping(mapping);
     if (before.isValid())
         counts.add(before.lineCounts(), -1);
     counts.add(mapping.lineCounts());
+    order.note(release().findPosition(mapping.getSourcePath(), mapping.getSourceVersion(),
+                                      mapping.getTabVersion()),
+               mapping);
 }
 
 void MappingDocumentPrivate::replaceRelease(const ReleaseMappingC &given)
@@ -84,7 +87,7 @@ void MappingDocumentPrivate::replaceRelease(const ReleaseMappingC &given)
 
 void MappingDocumentPrivate::applyRelease(const ReleaseMappingC &given)
 {
-    adoptRelease(given);
+    adoptRelease(PreparedRelease::of(given, rootName, file.path()));
     Q_EMIT q->releaseReplaced();
 }
 

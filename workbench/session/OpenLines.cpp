@@ -99,9 +99,9 @@ OpenLines::OpenLines(MappingDocument *document, QObject *parent)
     , m_lastCount(count())
 {
     connect(document, &MappingDocument::countsChanged, this, &OpenLines::noteCount);
-    connect(document, &MappingDocument::opened, this, &OpenLines::dropOrder);
-    connect(document, &MappingDocument::closed, this, &OpenLines::dropOrder);
-    connect(document, &MappingDocument::releaseReplaced, this, &OpenLines::dropOrder);
+    connect(document, &MappingDocument::opened, this, &OpenLines::noteCount);
+    connect(document, &MappingDocument::closed, this, &OpenLines::noteCount);
+    connect(document, &MappingDocument::releaseReplaced, this, &OpenLines::noteCount);
 }
 
 OpenLines::~OpenLines() = default;
@@ -109,12 +109,6 @@ OpenLines::~OpenLines() = default;
 void OpenLines::setKinds(Kinds kinds)
 {
     m_kinds = kinds;
-    noteCount();
-}
-
-void OpenLines::dropOrder()
-{
-    m_order.reset();
     noteCount();
 }
 
@@ -152,21 +146,20 @@ int OpenLines::countIn(const Shown &shown) const
 
 int OpenLines::projectCount() const
 {
-    const ReleaseMappingC release = m_document->release();
-    int result = 0;
-    for (int i = 0; i < release.countMappings(); ++i)
-        result += countKinds(release.mappingAt(i).lineCounts(), m_kinds) > 0 ? 1 : 0;
-    return result;
+    return int(std::ranges::count_if(order().lines(), [this](const LineCounts &lines) {
+        return countKinds(lines, m_kinds) > 0;
+    }));
 }
 
 int OpenLines::placeOf(const LineRef &line, Kind kind) const
 {
-    const int position = order().positionOf(line.project);
+    const int before = order().placeOf(m_document->release(), line.project);
     int place = 0;
-    for (int i = 0; i < position; ++i)
-        place += countKind(m_document->mapping(order().at(i)).lineCounts(), kind);
+    for (int i = 0; i < before; ++i)
+        place += countKind(order().linesAt(i), kind);
+    const PrjMappingC mapping = m_document->mapping(line.project);
     std::optional<int> at;
-    while ((at = lineIn(line.project, kind, at, true)) && *at <= line.line)
+    while ((at = lineIn(mapping, kind, at, true)) && *at <= line.line)
         ++place;
     return place;
 }
@@ -213,10 +206,7 @@ int OpenLines::countOf(const PrjMappingC &mapping, Kinds kinds)
 
 const ProjectOrder &OpenLines::order() const
 {
-    if (!m_order)
-        m_order = std::make_unique<ProjectOrder>(
-            m_document->handler() ? m_document->handler()->getRootStructureNode() : nullptr);
-    return *m_order;
+    return m_document->projects();
 }
 
 OpenLines::Found OpenLines::next(const LineRef &from, const Shown &shown,
@@ -233,8 +223,11 @@ OpenLines::Found OpenLines::previous(const LineRef &from, const Shown &shown,
 
 ProjectId OpenLines::nextProject(const ProjectId &from, bool forward) const
 {
-    return order().next(from, forward,
-                        [this](const ProjectId &project) { return count(project) > 0; });
+    const ReleaseMappingC release = m_document->release();
+    const std::optional<int> next =
+        order().next(order().placeOf(release, from), forward,
+                     [this](int place) { return countKinds(order().linesAt(place), m_kinds) > 0; });
+    return next ? ProjectId::of(release.mappingAt(order().positionAt(*next))) : ProjectId();
 }
 
 /// Behind a line of a kind: the rest of the kind, then the kinds that follow. From elsewhere: the
@@ -273,38 +266,36 @@ OpenLines::Found OpenLines::seekKind(Kind kind, const LineRef &from, const Shown
     const int size = order().size();
     if (countOf(kind) == 0 || size == 0)
         return {};
-    const int shownAt = order().positionOf(shown.project);
+    const ReleaseMappingC release = m_document->release();
+    const int shownAt = order().placeOf(release, shown.project);
     const bool within = shown.isFiltered && shownAt >= 0;
-    const int place = order().positionOf(from.project);
-    const int start = within && place != shownAt ? shownAt
-                      : place >= 0               ? place
-                      : forward                  ? 0
-                                                 : size - 1;
+    const int fromAt = order().placeOf(release, from.project);
+    const int start = within && fromAt != shownAt ? shownAt
+                      : fromAt >= 0               ? fromAt
+                      : forward                   ? 0
+                                                  : size - 1;
     for (int step = 0; step <= size; ++step) {
         const int at = forward ? start + step : start - step;
         const bool wrapped = at < 0 || at >= size || step == size;
-        const int position = ((at % size) + size) % size;
+        const int place = ((at % size) + size) % size;
         if (wrapped && !round)
             break;
-        if (within && position != shownAt)
+        if ((within && place != shownAt) || countKind(order().linesAt(place), kind) == 0)
             continue;
-        const bool inside = step == 0 && place == position && from.line >= 0;
+        const bool inside = step == 0 && fromAt == place && from.line >= 0;
         const std::optional<int> behind = inside ? std::optional(from.line) : std::nullopt;
-        const std::optional<int> line = position == shownAt
-                                            ? shownLine(shown, kind, behind, forward)
-                                            : lineIn(order().at(position), kind, behind, forward);
+        const PrjMappingC mapping = release.mappingAt(order().positionAt(place));
+        const std::optional<int> line = place == shownAt ? shownLine(shown, kind, behind, forward)
+                                                         : lineIn(mapping, kind, behind, forward);
         if (line)
-            return {{ProjectId::of(m_document->mapping(order().at(position))), *line},
-                    kind,
-                    wrapped && place >= 0};
+            return {{ProjectId::of(mapping), *line}, kind, wrapped && fromAt >= 0};
     }
     return {};
 }
 
-std::optional<int> OpenLines::lineIn(const ProjectId &project, Kind kind, std::optional<int> from,
-                                     bool forward) const
+std::optional<int> OpenLines::lineIn(const PrjMappingC &mapping, Kind kind, std::optional<int> from,
+                                     bool forward)
 {
-    const PrjMappingC mapping = m_document->mapping(project);
     const qint64 start = from ? qint64(*from) : forward ? BeforeAll : BehindAll;
     std::optional<int> best;
     for (int i = 0; i < mapping.countTargets(); ++i) {
@@ -323,8 +314,6 @@ std::optional<int> OpenLines::lineIn(const ProjectId &project, Kind kind, std::o
 std::optional<int> OpenLines::shownLine(const Shown &shown, Kind kind, std::optional<int> from,
                                         bool forward) const
 {
-    if (countKind(m_document->mapping(shown.project).lineCounts(), kind) == 0)
-        return std::nullopt;
     const int row = from ? shown.rowOf(*from) : -1;
     const int step = forward ? 1 : -1;
     for (int at = forward ? row + 1 : (row < 0 ? shown.rows : row) - 1; at >= 0 && at < shown.rows;

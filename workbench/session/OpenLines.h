@@ -102,20 +102,18 @@ Q_SIGNALS:
 
 private:
     void noteCount();
-    void dropOrder();
     [[nodiscard]] const ProjectOrder &order() const;
     [[nodiscard]] Found seek(const LineRef &from, const Shown &shown, std::optional<Kind> among,
                              bool forward) const;
     [[nodiscard]] Found seekKind(Kind kind, const LineRef &from, const Shown &shown, bool forward,
                                  bool round) const;
-    [[nodiscard]] std::optional<int> lineIn(const ProjectId &project, Kind kind,
-                                            std::optional<int> from, bool forward) const;
+    [[nodiscard]] static std::optional<int> lineIn(const PrjMappingC &mapping, Kind kind,
+                                                   std::optional<int> from, bool forward);
     [[nodiscard]] std::optional<int> shownLine(const Shown &shown, Kind kind,
                                                std::optional<int> from, bool forward) const;
 
     MappingDocument *const m_document;
     Kinds m_kinds = Kinds(NeedDecision);
     int m_lastCount = 0;
-    mutable std::unique_ptr<ProjectOrder> m_order; ///< null until it is needed
 };
 Q_DECLARE_OPERATORS_FOR_FLAGS(OpenLines::Kinds)

@@ -1,43 +1,39 @@
 #include "ProjectOrder.h"
 
-#include <mapping/data/CatalogNodeType.h>
+#include <geomcore/records/FolderLevel.h>
 
-ProjectOrder::ProjectOrder(const boost::shared_ptr<CatalogStructureNodeI> &root)
+ProjectOrder::ProjectOrder(const ReleaseMappingC &release)
+    : m_order(folderOrder(release))
+    , m_places(std::size_t(release.countMappings()), -1)
 {
-    if (root)
-        add(root);
+    for (int place = 0; place < size(); ++place)
+        m_places[std::size_t(m_order[place])] = place;
+    m_lines.reserve(m_places.size());
+    for (int i = 0; i < release.countMappings(); ++i)
+        m_lines.push_back(release.mappingAt(i).lineCounts());
 }
 
-void ProjectOrder::add(const boost::shared_ptr<CatalogStructureNodeI> &node)
+int ProjectOrder::placeOf(const ReleaseMappingC &release, const ProjectId &project) const
 {
-    if (CatalogNodeType::isProject(node->getNodeType())) {
-        const PrjMappingC mapping = node->getMapping();
-        const QPair<QString, QString> key(mapping.getSourcePath(), mapping.getSourceVersion());
-        // A project that is there twice shows the same mapping twice.
-        if (m_positions.contains(key))
-            return;
-        m_positions.insert(key, size());
-        m_projects.append({key.first, key.second, QString()});
-        return;
-    }
-    for (const boost::shared_ptr<CatalogStructureNodeI> &child : node->getChildren())
-        add(child);
+    const int position = release.findPosition(project.path, project.version, QString());
+    return position >= 0 && position < int(m_places.size()) ? m_places[std::size_t(position)] : -1;
 }
 
-int ProjectOrder::positionOf(const ProjectId &project) const
+void ProjectOrder::note(int position, const PrjMappingC &mapping)
 {
-    return m_positions.value({project.path, project.version}, -1);
+    if (position >= int(m_lines.size()))
+        m_lines.resize(std::size_t(position) + 1);
+    m_lines[std::size_t(position)] = mapping.lineCounts();
 }
 
-ProjectId ProjectOrder::next(const ProjectId &from, bool forward,
-                             const std::function<bool(const ProjectId &)> &isWanted) const
+std::optional<int> ProjectOrder::next(int from, bool forward,
+                                      const std::function<bool(int place)> &isWanted) const
 {
-    const int known = positionOf(from);
-    const int start = known >= 0 ? known : forward ? -1 : size();
+    const int start = from >= 0 ? from : forward ? -1 : size();
     for (int step = 1; step <= size(); ++step) {
         const int at = ((forward ? start + step : start - step) % size() + size()) % size();
-        if (at != known && isWanted(m_projects[at]))
-            return m_projects[at];
+        if (at != from && isWanted(at))
+            return at;
     }
-    return {};
+    return std::nullopt;
 }
