@@ -2,6 +2,7 @@
 
 #include <core/progress/PProgress.h>
 
+#include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QTimer>
@@ -13,6 +14,7 @@ namespace {
 
 constexpr std::chrono::milliseconds Moment{10}; // not to be felt
 constexpr std::chrono::milliseconds BetweenSteps{50};
+constexpr std::chrono::milliseconds Patience{50};
 
 /// Ends the loop when it goes, however the work ended.
 class LoopEnd
@@ -59,6 +61,14 @@ void BackgroundWork::letShow()
     QEventLoop loop;
     QTimer end;
     QObject::connect(&end, &QTimer::timeout, &loop, &QEventLoop::quit);
-    end.start(1); // not before all that follows from each other is done
+    end.start(Patience); // whoever always has something to do never waits
+    // When all that follows from each other is done, the loop waits.
+    QObject::connect(
+        QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, &loop,
+        [&end] {
+            if (end.intervalAsDuration() == Patience)
+                end.start(1);
+        },
+        Qt::DirectConnection);
     loop.exec(QEventLoop::ExcludeUserInputEvents);
 }

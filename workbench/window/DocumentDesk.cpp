@@ -15,6 +15,7 @@
 
 #include <QFileInfo>
 #include <QInputDialog>
+#include <QThreadPool>
 
 DocumentDesk::DocumentDesk(WorkbenchSettings *settings, QWidget *window)
     : QObject(window)
@@ -31,6 +32,9 @@ DocumentDesk::~DocumentDesk() = default;
 bool DocumentDesk::open(const Wish &wish)
 {
     if (!mayClose() || !openDocument(wish))
+        return false;
+    BackgroundWork::letShow();
+    if (!m_document->isOpen())
         return false;
     if (!findRoots(wish)) {
         leave();
@@ -91,7 +95,8 @@ bool DocumentDesk::openDocument(const Wish &wish)
     display.activate(PProgressObserverBase::Thread);
     const MappingDocument::OpenResult result = m_document->open(request);
     display.deactivate();
-    request.content.reset();
+    // The end of a large file's text takes long.
+    QThreadPool::globalInstance()->start([ended = std::move(request.content)] {});
     switch (result) {
     case MappingDocument::OpenResult::Opened:
         return true;

@@ -43,6 +43,7 @@
 #include <gui/application/PCommandKeys.h>
 #include <gui/progress/DefaultObserverDelegate.h>
 #include <workbench/script/ScriptConsole.h>
+#include <workbench/session/BackgroundWork.h>
 #include <workbench/session/UndoHistory.h>
 
 #include <QCloseEvent>
@@ -227,9 +228,18 @@ void MainWindow::onDocumentReady()
 {
     MappingDocument *const document = m_desk->document();
     m_linkDb->setSourceRoot(document->catalogRoots().source);
+    // Made in one turn, laid out in another, painted in a third.
     m_editor->open(document, document->catalogRoots().source);
+    BackgroundWork::letShow();
+    if (!m_editor->isOpen())
+        return;
+    m_pages->setUpdatesEnabled(false);
     m_pages->setCurrentWidget(m_editor);
     updateState();
+    BackgroundWork::letShow();
+    m_pages->setUpdatesEnabled(true);
+    if (!m_editor->isOpen())
+        return;
     const WorkbenchSettings::Place place = m_settings->place(document->mappingFile());
     m_editor->openProject(place.project, place.line);
     // Else the messages have them, if there were any.
