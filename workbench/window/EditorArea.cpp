@@ -20,9 +20,13 @@
 EditorArea::EditorArea(QWidget *parent)
     : QWidget(parent)
     , m_layout(new QVBoxLayout(this))
+    , m_paint(new QTimer(this))
 {
     setObjectName("EditorArea");
     m_layout->setContentsMargins(0, 0, 0, 0);
+    m_paint->setSingleShot(true);
+    m_paint->setInterval(0);
+    connect(m_paint, &QTimer::timeout, this, [this] { setUpdatesEnabled(true); });
 }
 
 EditorArea::~EditorArea()
@@ -206,6 +210,12 @@ void EditorArea::focusLines()
         m_editor->focusLines();
 }
 
+void EditorArea::paintLater()
+{
+    setUpdatesEnabled(false);
+    m_paint->start();
+}
+
 /// The choices of lines and kinds give way to a project that they hide.
 bool EditorArea::goToProject(const QString &path, const QString &version)
 {
@@ -247,6 +257,7 @@ void EditorArea::setLineChoice(const LineChoice &choice)
     if (m_choice.isEmpty() && choice.isEmpty())
         return;
     m_choice = choice;
+    paintLater();
     filterProjects();
     filterLines();
 }
@@ -312,6 +323,7 @@ void EditorArea::showChanges()
     const QList<ProjectId> changed = std::exchange(m_changed, {});
     if (!m_editor || !m_document || changed.isEmpty())
         return;
+    paintLater();
     const ProjectId current = currentProject();
     const bool showsCurrent = changed.contains(current);
     if (!showsCurrent && changed.size() == 1 &&

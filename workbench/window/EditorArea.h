@@ -11,6 +11,7 @@ class CatalogMappingWidget;
 class MappingDocument;
 
 QT_BEGIN_NAMESPACE
+class QTimer;
 class QVBoxLayout;
 QT_END_NAMESPACE
 
@@ -51,6 +52,9 @@ public:
     bool showProject(const QString &sourcePath);
     /// The keys go to the source table.
     void focusLines();
+    /// What this turn of the event loop changes is laid out in it and painted in the next one, so
+    /// that neither of them takes long.
+    void paintLater();
     /// The project's mapping changed behind the editor, which shows it soon. The selected one is
     /// shown in place; it is only opened anew if more than its lines changed. Another single one is
     /// selected.
@@ -138,4 +142,5 @@ private:
     LineRemarks m_remarks;
     LineChoice m_choice;        ///< empty: no choice
     QList<ProjectId> m_changed; ///< that showChanges() has still to show
+    QTimer *const m_paint;
 };

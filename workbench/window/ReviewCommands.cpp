@@ -34,6 +34,7 @@ ReviewCommands::ReviewCommands(MappingDocument *document, EditorArea *editor, Li
     connect(m_dock, &QDockWidget::visibilityChanged, m_work,
             [this] { m_work->setWanted(!m_dock->isHidden()); });
     connect(m_panel, &QDockWidget::visibilityChanged, this, [this](bool visible) {
+        m_editor->paintLater(); // it gets more room, or less
         m_explained = LineRef();
         if (visible)
             explainCurrent();

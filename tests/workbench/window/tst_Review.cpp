@@ -12,8 +12,11 @@
 #include <QDockWidget>
 #include <QHeaderView>
 #include <QLabel>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTableView>
+
+#include <functional>
 
 class tst_Review : public QObject
 {
@@ -37,7 +40,28 @@ private Q_SLOTS:
     void candidateByKey();
     void explanationFollowsDecisions();
     void followsTheDocument();
+    void isPaintedInATurnOfItsOwn_data();
+    void isPaintedInATurnOfItsOwn();
 };
+
+namespace {
+
+/// Counts the pictures of a widget.
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
+
+} // namespace
 
 void tst_Review::numbersAddUp()
 {
@@ -432,6 +456,34 @@ void tst_Review::followsTheDocument()
     // Closed while it reads.
     fixture.review()->work()->readAnew();
     fixture.closeWindow();
+}
+
+void tst_Review::isPaintedInATurnOfItsOwn_data()
+{
+    QTest::addColumn<std::function<void(ReviewFixture &)>>("act");
+    using Act = std::function<void(ReviewFixture &)>;
+    QTest::newRow("undo") << Act(
+        [](ReviewFixture &fixture) { fixture.action("editUndo")->trigger(); });
+    QTest::newRow("pattern") << Act([](ReviewFixture &fixture) {
+        const QModelIndex pattern = fixture.model()->index(1, 0);
+        Q_EMIT fixture.list()->doubleClicked(pattern);
+    });
+    QTest::newRow("differences") << Act(
+        [](ReviewFixture &fixture) { fixture.action("reviewDifferences")->trigger(); });
+}
+
+void tst_Review::isPaintedInATurnOfItsOwn()
+{
+    QFETCH(std::function<void(ReviewFixture &)>, act);
+    ReviewFixture fixture;
+    fixture.action("goNext")->trigger();
+    fixture.window->findChild<QPushButton *>("btnMapLine")->click();
+    QTest::qWait(50);
+    PaintCounter pictures(fixture.sourceView()->grid()->viewport());
+    act(fixture);
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(pictures.count, 0);
+    QTRY_VERIFY(pictures.count > 0);
 }
 
 QTEST_MAIN(tst_Review)
