@@ -25,7 +25,7 @@ EditorArea::EditorArea(QWidget *parent)
     setObjectName("EditorArea");
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_paint->setSingleShot(true);
-    m_paint->setInterval(0);
+    m_paint->setInterval(1); // not before the loop waited
     connect(m_paint, &QTimer::timeout, this, [this] { setUpdatesEnabled(true); });
 }
 
@@ -151,9 +151,11 @@ bool EditorArea::openProject(const QString &sourcePath, int line)
         isThere() ? readTables(sourcePath) : QList<VKTab::ContentRef>();
     if (!isThere())
         return false;
-    // Laid out in one turn, painted in the next.
+    // Opened in one turn, its line in the next, painted in the last.
     setUpdatesEnabled(false);
-    const bool isShown = selectProject(sourcePath) && (line < 0 || selectLine(line));
+    bool isShown = selectProject(sourcePath);
+    BackgroundWork::letShow();
+    isShown = isShown && isThere() && (line < 0 || selectLine(line));
     BackgroundWork::letShow();
     setUpdatesEnabled(true);
     return isShown && isThere();
