@@ -70,24 +70,64 @@ void changeColumn(SampleSet &set, Random &random, bool numbers, Change change)
     }
 }
 
+/// The column of texts that most tables have, in all of them.
+template<class Change>
+void changeCommonColumn(SampleSet &set, Random &random, Change change)
+{
+    std::map<std::string, int> tables;
+    int most = 0;
+    for (const SampleTable &table : std::as_const(set.news)) {
+        for (const size_t column : columnsOf(table, false))
+            most = std::max(most, ++tables[table.names[column]]);
+    }
+    std::erase_if(tables, [most](const auto &entry) { return entry.second < most; });
+    if (tables.empty())
+        return;
+    const std::string name = std::next(tables.begin(), long(pick(random, tables.size())))->first;
+    for (SampleTable &table : set.news) {
+        for (const size_t column : columnsOf(table, false)) {
+            for (Line &line : table.lines) {
+                if (table.names[column] == name && !line[column].empty())
+                    line[column] = change(line[column]);
+            }
+        }
+    }
+}
+
 /// "M8" becomes "MX8": the letters before a number are others in the whole family.
+std::string withOtherToken(std::string text)
+{
+    const size_t digit = text.find_first_of("0123456789");
+    text.insert(digit == std::string::npos ? text.size() : digit, "X");
+    return text;
+}
+
+std::string reworded(const std::string &text)
+{
+    unsigned hash = 17;
+    for (const char c : text)
+        hash = hash * 31 + static_cast<unsigned char>(c);
+    return "wording " + std::to_string(hash % 9973);
+}
+
 void replaceToken(SampleSet &set, Random &random)
 {
-    changeColumn(set, random, false, [](std::string text) {
-        const size_t digit = text.find_first_of("0123456789");
-        text.insert(digit == std::string::npos ? text.size() : digit, "X");
-        return text;
-    });
+    changeColumn(set, random, false, withOtherToken);
+}
+
+void replaceTokenInAll(SampleSet &set, Random &random)
+{
+    changeCommonColumn(set, random, withOtherToken);
 }
 
 void reword(SampleSet &set, Random &random)
 {
-    changeColumn(set, random, false, [](const std::string &text) {
-        unsigned hash = 17;
-        for (const char c : text)
-            hash = hash * 31 + static_cast<unsigned char>(c);
-        return "wording " + std::to_string(hash % 9973);
-    });
+    changeColumn(set, random, false, reworded);
+}
+
+void rewordInAll(SampleSet &set, Random &random)
+{
+    changeCommonColumn(set, random, reworded);
 }
 
 void scaleInTexts(SampleSet &set, Random &random)
@@ -266,6 +306,8 @@ std::vector<Disturbance> Disturbance::all()
          }},
         {"token replaced", replaceToken},
         {"column reworded", reword},
+        {"token replaced, in all tables", replaceTokenInAll},
+        {"column reworded, in all tables", rewordInAll},
         {"numbers in texts scaled", scaleInTexts},
         {"unit changed", changeUnit},
         {"values emptied", emptyValues},
@@ -275,6 +317,12 @@ std::vector<Disturbance> Disturbance::all()
         {"sorted anew", sortAnew},
         {"tables split", splitTables},
         {"tables merged", mergeTables},
+        {"token and column in all tables, removed",
+         [](SampleSet &set, Random &random) {
+             replaceTokenInAll(set, random);
+             rewordInAll(set, random);
+             removeLines(set, random);
+         }},
         {"token, unit, removed",
          [](SampleSet &set, Random &random) {
              replaceToken(set, random);

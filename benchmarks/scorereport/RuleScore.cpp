@@ -52,7 +52,7 @@ public:
     {
     }
 
-    void add(int position, const PrjMappingC &mapping, const ReleaseMappingC &dates)
+    void add(int position, const PrjMappingC &mapping, const ReleaseMappingC &head)
     {
         m_position = position;
         const QString source = tableName(mapping.getSourcePath());
@@ -65,7 +65,7 @@ public:
                 file, content,
                 {.catalogPath = mapping.getSourcePath(), .allLines = true, .tells = false}))
             return;
-        ReleaseMappingC release = dates;
+        ReleaseMappingC release = head;
         release.addMapping(mapping);
         CatalogMappingC catalog;
         catalog.addRelease(release);
@@ -299,12 +299,10 @@ RuleScore RuleScore::of(const SampleSet &set, const ReleaseMappingC &release,
                         const QString &sourceRoot, const QString &targetRoot)
 {
     IndexTreeC::instance()->setCatalogRoot(PPathName(targetRoot));
-    ReleaseMappingC dates;
-    dates.setSourceDate(release.getSourceDate());
-    dates.setTargetDate(release.getTargetDate());
+    const ReleaseMappingC head = release.head();
     Scorer scorer(set, sourceRoot);
     for (int i = 0; i < release.countMappings(); ++i)
-        scorer.add(i, release.mappingAt(i), dates);
+        scorer.add(i, release.mappingAt(i), head);
     const std::atomic<bool> cancelled = false;
     if (const auto patterns =
             VelkRelease::DifferencePatterns::compute(sourceRoot, release, cancelled))

@@ -21,12 +21,14 @@ struct MapperFixture
     }
 
     /// Hands table and mapping to the mapper, to be called when the mapping is complete.
-    QFlags<PRJMAPPING::MappingState_> start(const QList<AgreedReplacement> &agreed = {})
+    QFlags<PRJMAPPING::MappingState_> start(const QList<AgreedReplacement> &agreed = {},
+                                            const QList<LearnedReplacement> &learned = {})
     {
         mapper.setCreatorMode(true);
         mapper.setSourceTable(source);
         ReleaseMappingC release;
         release.setReplacements(agreed);
+        release.setLearned(learned);
         release.addMapping(mapping);
         CatalogMappingC catalog;
         catalog.addRelease(release);

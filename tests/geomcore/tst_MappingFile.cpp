@@ -240,6 +240,37 @@ private Q_SLOTS:
         file.setRelease(release);
         QCOMPARE(file.toByteArray(), Sound);
     }
+    void learnedReplacementsStayInTheirRelease()
+    {
+        const QByteArray text = R"("targetDate": "2026",
+  "learned": [
+   {
+    "variable": "Werkstoff",
+    "before": "St37-2",
+    "after": "S235JR",
+    "supports": 7,
+    "cases": 9
+   }
+  ],)";
+        QByteArray bytes = Sound;
+        bytes.replace("\"targetDate\": \"2026\",", text);
+        MappingFile file;
+        QString error;
+        QVERIFY2(file.parse(bytes, QString(), &error), qPrintable(error));
+        ReleaseMappingC release = file.release("2022");
+        const QList<LearnedReplacement> learned{{"Werkstoff", "St37-2", "S235JR", 7, 9}};
+        QCOMPARE(release.getLearned(), learned);
+        QCOMPARE(release.head().getLearned(), learned);
+        QCOMPARE(release.getMappingState(), MappingFile(file).release("2022").getMappingState());
+        file.setRelease(release);
+        QCOMPARE(file.toByteArray(), bytes);
+        release.setLearned({});
+        file.setRelease(release);
+        QCOMPARE(file.toByteArray(), Sound);
+        QByteArray wrong = bytes;
+        QVERIFY(!MappingFile().parse(wrong.replace("\"cases\": 9", "\"cases\": 6"), {}, &error));
+        QVERIFY2(error.contains("learned[0] must not have more \"supports\""), qPrintable(error));
+    }
     void replacementHoldsInItsFolder_data()
     {
         QTest::addColumn<QString>("folder");

@@ -157,6 +157,20 @@ private Q_SLOTS:
         modifier("variable without target", R"({"kind":"var","source":"A"})", false);
         modifier("unknown kind", R"({"kind":"x","source":"A","target":"B"})", false);
         modifier("without kind", R"({"source":"A","target":"B"})", false);
+        const auto learned = [](const char *name, const char *text, bool good) {
+            QTest::newRow(name) << QByteArray(R"({"2022":{"sourceDate":"2022","targetDate":"",)"
+                                              R"("learned":[)") +
+                                       text + "]}}"
+                                << good;
+        };
+        learned("learned", R"({"variable":"A","before":"7","after":"8","supports":2,"cases":2})",
+                true);
+        learned("learned from no case", R"({"variable":"A","before":"7","after":"8","supports":2})",
+                false);
+        learned("learned of negative cases",
+                R"({"variable":"A","before":"7","after":"8","supports":0,"cases":-1})", false);
+        learned("learned of no variable", R"({"before":"7","after":"8","supports":2,"cases":2})",
+                false);
         const auto replacement = [](const char *name, const char *text, bool good) {
             QTest::newRow(name) << QByteArray(R"({"2022":{"sourceDate":"2022","targetDate":"",)"
                                               R"("replacements":[)") +

@@ -1,6 +1,7 @@
 #include "../support/EnglishTexts.h"
 #include "../support/TestCatalog.h"
 
+#include <core/parallel/WorkerPool.h>
 #include <core/progress/PProgress.h>
 #include <core/progress/PProgressObserverBase.h>
 #include <release/assign/ReleaseMappingBuilder.h>
@@ -77,6 +78,9 @@ private Q_SLOTS:
     void missingCatalog();
     void noDate();
     void emptyCatalog();
+    void learnsFromItsProjects_data();
+    void learnsFromItsProjects();
+    void learnsFromOneTargetOnly();
     void cancelled();
     void buildsTwice();
 };
@@ -402,6 +406,85 @@ void tst_ReleaseMappingBuilder::emptyCatalog()
     ReleaseMappingBuilder builder(input);
     QCOMPARE(builder.build(), Outcome::Complete);
     QCOMPARE(builder.release().countMappings(), 0);
+}
+
+void tst_ReleaseMappingBuilder::learnsFromItsProjects_data()
+{
+    QTest::addColumn<int>("projects");
+    QTest::addColumn<int>("staying"); // of the lines of the first, those that kept the old value
+    QTest::addColumn<QString>("learned");
+    QTest::newRow("one project") << 1 << 0 << "";
+    QTest::newRow("two") << 2 << 0 << "coat zn A2K 8 of 8";
+    QTest::newRow("nine") << 9 << 0 << "coat zn A2K 36 of 36";
+    QTest::newRow("one of three contradicts") << 3 << 6 << "coat zn A2K 8 of 12";
+    QTest::newRow("one of two contradicts") << 2 << 6 << "";
+    QTest::newRow("one in half of its lines") << 2 << 3 << "coat zn A2K 6 of 8";
+}
+
+/// In each of the projects the coat of six lines got another name; one line is as it was, and one
+/// is another altogether.
+void tst_ReleaseMappingBuilder::learnsFromItsProjects()
+{
+    QFETCH(int, projects);
+    QFETCH(int, staying);
+    Releases releases;
+    for (int project = 0; project < projects; ++project) {
+        QByteArray before = "size,s,coat;M90,91,none;M92,93,red";
+        QByteArray after = "size,s,coat;M90,91,none;M94,95,blue";
+        for (int line = 0; line < 6; ++line) {
+            const bool stays = project == 0 && line < staying;
+            const QByteArray size = ";M" + QByteArray::number(line + 1) + ',' +
+                                    QByteArray::number(7 * line + 20 * project);
+            before += size + ", zn";
+            after += size + (stays ? ",zn" : ",A2K");
+        }
+        releases.source.add("a/bolt" + QString::number(project), before);
+        releases.target.add("a/bolt" + QString::number(project), after);
+    }
+    QStringList found;
+    for (const int threads : {1, 4}) {
+        WorkerPool::instance().setThreads(threads);
+        ReleaseMappingBuilder builder(releases.input());
+        QCOMPARE(builder.build(), Outcome::Complete);
+        QStringList texts;
+        for (const LearnedReplacement &learned : builder.release().getLearned())
+            texts << QStringLiteral("%1 %2 %3 %4 of %5")
+                         .arg(learned.variable, learned.before, learned.after,
+                              QString::number(learned.supports), QString::number(learned.cases));
+        found << texts.join("; ");
+    }
+    WorkerPool::instance().setThreads(0);
+    QTEST(found[0], "learned");
+    QCOMPARE(found[1], found[0]);
+}
+
+/// Numbers are written with a point; where two tables can take the lines over, none says how
+/// values change.
+void tst_ReleaseMappingBuilder::learnsFromOneTargetOnly()
+{
+    Releases releases;
+    const QByteArray fields =
+        R"({"fields": [{"name": "k", "type": "number", "kind": "plain", "decimalChar": ","}]})";
+    for (const char *name : {"a/bolt", "a/nut", "a/pin"}) {
+        releases.source.add(name, "size,s,k;M3,5,\"2,5\";M4,7,\"2,5\"");
+        const QByteArray half = "size,s,k;M3,5,\"2,75\"";
+        const QByteArray rest = "size,s,k;M4,7,\"2,75\"";
+        if (name == QByteArray("a/pin")) {
+            releases.target.add("b/pin-1", half);
+            releases.target.add("b/pin-2", rest);
+            releases.target.writeFile("b/pin-1.json", fields);
+            releases.target.writeFile("b/pin-2.json", fields);
+        } else {
+            releases.target.add(name, half + rest.mid(rest.indexOf(';')));
+            releases.target.writeFile(QString(name) + ".json", fields);
+        }
+        releases.source.writeFile(QString(name) + ".json", fields);
+    }
+    ReleaseMappingBuilder builder(releases.input());
+    QCOMPARE(builder.build(), Outcome::Complete);
+    QCOMPARE(builder.release().mappingAt(2).countTargets(), 2);
+    const QList<LearnedReplacement> learned{{"k", "2.5", "2.75", 4, 4}};
+    QCOMPARE(builder.release().getLearned(), learned);
 }
 
 void tst_ReleaseMappingBuilder::cancelled()

@@ -18,6 +18,8 @@ private Q_SLOTS:
     void related_data();
     void related();
     void nearLinesCountOnRequest();
+    void nearPairs_data();
+    void nearPairs();
     void heldNeedsTwoValuesAndTwoThirds_data();
     void heldNeedsTwoValuesAndTwoThirds();
     void keys_data();
@@ -91,6 +93,45 @@ void tst_TableMatch::nearLinesCountOnRequest()
     QVERIFY(!match.isEqual(0));
     QVERIFY2(match.isHeld(1), "a value instead of none is one difference");
     QVERIFY2(!match.isHeld(2), "two differences");
+}
+
+void tst_TableMatch::nearPairs_data()
+{
+    QTest::addColumn<QByteArray>("source");
+    QTest::addColumn<QByteArray>("target");
+    QTest::addColumn<QString>("pairs");
+    const auto row = [](const char *name, const char *source, const char *target,
+                        const char *pairs) {
+        QTest::newRow(name) << QByteArray(source) << QByteArray(target) << QString(pairs);
+    };
+    row("one variable differs", "a,b,c;1,2,3;4,5,6", "a,b,c;4,5,7;1,9,3", "0-1:1 1-0:2");
+    row("equal", "a,b,c;1,2,3", "a,b,c;1,2,3", "");
+    row("two differ", "a,b,c;1,2,3", "a,b,c;1,8,9", "");
+    row("two variables", "a,b;1,2", "a,b;1,3", "");
+    row("a value came", "a,b,c,d;1,2,,3", "a,b,c,d;1,2,4,3", "");
+    row("a value is gone", "a,b,c,d;1,2,4,3", "a,b,c,d;1,2,,3", "");
+    row("only one value is the same", "a,b,c;1,,3", "a,b,c;1,,4", "");
+    row("two new lines like it", "a,b,c;1,2,3", "a,b,c;1,2,4;1,2,5", "");
+    row("two old lines like it", "a,b,c;1,2,3;1,2,4", "a,b,c;1,2,5", "");
+    row("one of two old lines stays", "a,b,c;1,2,3;1,2,4", "a,b,c;1,2,4;1,2,5", "");
+    row("like one in another variable too", "a,b,c;1,2,3", "a,b,c;1,2,4;1,5,3", "");
+    row("only common variables", "a,b,c,x;1,2,3,7", "a,b,c,y;1,2,4,8", "0-0:2");
+}
+
+void tst_TableMatch::nearPairs()
+{
+    QFETCH(QByteArray, source);
+    QFETCH(QByteArray, target);
+    VariableNames names;
+    const LineCells mine = cellsOf(source, names);
+    const LineCells theirs = cellsOf(target, names);
+    QStringList found;
+    for (const TableMatch::NearPair &pair : TableMatch(mine, theirs).nearPairs())
+        found << QStringLiteral("%1-%2:%3")
+                     .arg(pair.sourceRow)
+                     .arg(pair.targetRow)
+                     .arg(pair.differing);
+    QTEST(found.join(' '), "pairs");
 }
 
 void tst_TableMatch::heldNeedsTwoValuesAndTwoThirds_data()

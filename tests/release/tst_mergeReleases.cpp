@@ -25,6 +25,8 @@ private Q_SLOTS:
     void settledLines();
     void stateFlags();
     void dates();
+    void learned_data();
+    void learned();
     void replacements_data();
     void replacements();
     void groups();
@@ -235,6 +237,33 @@ void tst_mergeReleases::dates()
     const MergeResult result = mergeReleases(dated("1"), dated("2"), dated("3"));
     QCOMPARE(result.release.getTargetDate(), "3");
     QCOMPARE(texts(result.clashes), QStringList({" date"}));
+}
+
+void tst_mergeReleases::learned_data()
+{
+    QTest::addColumn<int>("base");
+    QTest::addColumn<int>("ours");
+    QTest::addColumn<int>("theirs");
+    QTest::addColumn<int>("merged");
+    QTest::newRow("the same") << 1 << 1 << 1 << 1;
+    QTest::newRow("we created it anew") << 1 << 2 << 1 << 2;
+    QTest::newRow("they did") << 1 << 1 << 2 << 2;
+    QTest::newRow("both did") << 1 << 2 << 3 << 3;
+}
+
+void tst_mergeReleases::learned()
+{
+    const auto release = [](int supports) {
+        ReleaseMappingC made;
+        made.setLearned({{"A", "7", "8", supports, 9}});
+        return made;
+    };
+    QFETCH(int, base);
+    QFETCH(int, ours);
+    QFETCH(int, theirs);
+    const MergeResult result =
+        VelkRelease::mergeReleases(release(base), release(ours), release(theirs));
+    QTEST(result.release.getLearned().value(0).supports, "merged");
 }
 
 void tst_mergeReleases::replacements_data()

@@ -62,7 +62,7 @@ void judgeChange(ComparedVariableC &variable, const Plan::CellEvidence &evidence
     switch (Plan::Way(likeliest - evidence.ways.begin())) {
     case Plan::Way::Change:
         variable.outcome = ComparedVariableC::Replaced;
-        // None of what was agreed to.
+        // None of what was agreed to or only other projects show.
         variable.supports =
             evidence.supports > 0 ? std::max(1, int(std::lround(evidence.supports))) : 0;
         break;

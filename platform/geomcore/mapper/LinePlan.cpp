@@ -44,7 +44,8 @@ std::vector<std::string> namesOf(const BoundTarget &target)
 
 } // namespace
 
-LinePlan::LinePlan(TargetSet &targets, const PrjMappingC &mapping, const AgreedValues &agreed)
+LinePlan::LinePlan(TargetSet &targets, const PrjMappingC &mapping, const AgreedValues &agreed,
+                   const LearnedValues &learned)
     : m_source(&targets.source())
     , m_walksRanges(!targets.ranges().isEmpty())
     , m_agreed(agreed)
@@ -64,6 +65,7 @@ LinePlan::LinePlan(TargetSet &targets, const PrjMappingC &mapping, const AgreedV
     for (size_t i = 0; i < m_bound.size() && !m_tables.openLines.empty(); ++i)
         fill(*m_bound[i], m_tables.targets[i]);
     m_tables.variableCount = int(m_variableNumbers.size());
+    takeLearned(learned);
     for (Plan::CellValues &values : m_tables.values)
         values.finish();
     for (Plan::PlanTarget &target : m_tables.targets)
@@ -74,6 +76,7 @@ LinePlan::LinePlan(TargetSet &targets, const PrjMappingC &mapping, const AgreedV
             m_isAgreed[size_t(number)] = m_agreed.concern(name.toStdString()) ? 1 : 0;
     }
     m_planner = std::make_unique<Plan::LinePlanner>(m_tables);
+    m_planner->setKnown(&m_known);
     m_planner->setCancellation([this] { return source().isCanceled(); });
     if (!m_tables.openLines.empty())
         m_planner->run();
@@ -89,6 +92,16 @@ LinePlan::LinePlan(TargetSet &targets, const PrjMappingC &mapping, const AgreedV
 }
 
 LinePlan::~LinePlan() = default;
+
+/// What other projects show says how values change, not to which table the lines went: where
+/// several compete, the one that happens to have the new values must not win by it.
+void LinePlan::takeLearned(const LearnedValues &learned)
+{
+    if (learned.isEmpty() || m_tables.openLines.empty() || m_claimed.size() != 1)
+        return;
+    for (const auto &[name, number] : m_variableNumbers)
+        learned.addTo(m_known, name, number, m_tables.values[size_t(number)]);
+}
 
 void LinePlan::findSettled(TargetSet &targets, const PrjMappingC &mapping)
 {

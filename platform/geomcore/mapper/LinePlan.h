@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AgreedValues.h"
+#include "LearnedValues.h"
 #include "TargetSet.h"
 
 #include <geomcore/plan/LinePlanner.h>
@@ -18,7 +19,8 @@ class LinePlan
 {
 public:
     /// Looks at the targets and at the confirmed lines of \a mapping. The result refers to neither.
-    LinePlan(TargetSet &targets, const PrjMappingC &mapping, const AgreedValues &agreed);
+    LinePlan(TargetSet &targets, const PrjMappingC &mapping, const AgreedValues &agreed,
+             const LearnedValues &learned);
     ~LinePlan();
 
     /// None for a line that is settled or not in the table.
@@ -42,6 +44,7 @@ public:
     [[nodiscard]] bool isCanceled() const { return m_isCanceled; }
 
 private:
+    void takeLearned(const LearnedValues &learned);
     void findSettled(TargetSet &targets, const PrjMappingC &mapping);
     void takeConfirmed(TargetSet &targets, const PrjMappingC &mapping);
     void takeEqual(const BoundTarget &target, size_t place);
@@ -73,6 +76,7 @@ private:
     AgreedValues m_agreed;
     /// By number of the variable, if anything was agreed to: whether it was about this one.
     std::vector<char> m_isAgreed;
+    Plan::KnownChanges m_known;
     std::unique_ptr<Plan::LinePlanner> m_planner;
     bool m_isCanceled = false;
 };

@@ -12,9 +12,10 @@ void append(std::string &text, int number)
 }
 
 /// Everything that a plan depends on beside the tables.
-std::string signatureOf(TargetSet &targets, const PrjMappingC &mapping, const AgreedValues &agreed)
+std::string signatureOf(TargetSet &targets, const PrjMappingC &mapping, const AgreedValues &agreed,
+                        const LearnedValues &learned)
 {
-    std::string text = agreed.signature();
+    std::string text = agreed.signature() + '\x1c' + learned.signature() + '\x1c';
     for (int i = 0; i < targets.count(); ++i) {
         const BoundTarget *target = targets.at(i, mapping);
         const PrjMappingTargetC &entries = mapping.targetAt(i);
@@ -41,10 +42,11 @@ LinePlans &LinePlans::instance()
 }
 
 std::shared_ptr<const LinePlan> LinePlans::get(TargetSet &targets, const PrjMappingC &mapping,
-                                               const AgreedValues &agreed)
+                                               const AgreedValues &agreed,
+                                               const LearnedValues &learned)
 {
     const auto make = [&]() -> std::shared_ptr<const LinePlan> {
-        auto plan = std::make_shared<const LinePlan>(targets, mapping, agreed);
+        auto plan = std::make_shared<const LinePlan>(targets, mapping, agreed, learned);
         return plan->isCanceled() ? nullptr : plan;
     };
     const SourceTable &source = targets.source();
@@ -56,7 +58,7 @@ std::shared_ptr<const LinePlan> LinePlans::get(TargetSet &targets, const PrjMapp
         tables.push_back(target ? target->table() : nullptr);
     }
     const std::shared_ptr<Entry> entry =
-        entryFor(source.data(), tables, signatureOf(targets, mapping, agreed));
+        entryFor(source.data(), tables, signatureOf(targets, mapping, agreed, learned));
     std::call_once(entry->once, [&] { entry->plan = make(); });
     if (!entry->plan)
         forget(entry);

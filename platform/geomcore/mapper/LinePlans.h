@@ -18,8 +18,10 @@ public:
 
     /// The plan of the source table over these targets with the lines that are confirmed in
     /// \a mapping. Null if making it was cancelled.
-    [[nodiscard]] std::shared_ptr<const LinePlan>
-    get(TargetSet &targets, const PrjMappingC &mapping, const AgreedValues &agreed);
+    [[nodiscard]] std::shared_ptr<const LinePlan> get(TargetSet &targets,
+                                                      const PrjMappingC &mapping,
+                                                      const AgreedValues &agreed,
+                                                      const LearnedValues &learned);
 
 private:
     static constexpr size_t MaxKept = 4;

@@ -56,6 +56,8 @@ QFlags<PRJMAPPING::MappingState_> PrjMapperC::findMapping(const QString &sourceP
     d->agreed = Mapper::AgreedValues(releases.isEmpty() ? QList<AgreedReplacement>()
                                                         : releases.last().getReplacements(),
                                      sourcePath);
+    d->learned = Mapper::LearnedValues(releases.isEmpty() ? QList<LearnedReplacement>()
+                                                          : releases.last().getLearned());
     return mapping.isValid() ? mapping.getMappingState() | PRJMAPPING::StateUsable : MappingState();
 }
 

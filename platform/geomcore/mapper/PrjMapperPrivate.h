@@ -79,7 +79,8 @@ public:
     const PRefPtr<IndexTreeC> indexTree;
     PPathName sourceProject;
     Mapper::WorkingMapping working;
-    Mapper::AgreedValues agreed; ///< Of the release that the working mapping was taken from.
+    Mapper::AgreedValues agreed;   ///< Of the release that the working mapping was taken from.
+    Mapper::LearnedValues learned; ///< Likewise.
     MappingNodeC node;
     bool nodeHandedOut = false;
 

@@ -86,7 +86,7 @@ const Mapper::LinePlan *PrjMapperPrivate::plan(const LineInput &line)
     if (line.row < 0 || !m_source.isValid())
         return nullptr;
     if (!m_plan)
-        m_plan = Mapper::LinePlans::instance().get(targets(), working.mapping(), agreed);
+        m_plan = Mapper::LinePlans::instance().get(targets(), working.mapping(), agreed, learned);
     return m_plan.get();
 }
 

@@ -22,7 +22,8 @@ void ChangeMemory::learn(const CellValues &values, int variable, const Pairs &pa
                 seen.changes.add(key, weight);
         }
     });
-    if (seen.changes.isEmpty()) // then nobody asks how often values could have changed
+    if (seen.changes.isEmpty() &&
+        !isKnown(variable)) // then nobody asks how often values could have changed
         return;
     seen.values.resize(size_t(values.count()), 0);
     seen.tokens.resize(hasParts ? size_t(values.tokenCount()) : 0, 0);
@@ -60,20 +61,25 @@ ChangeMemory::Likely ChangeMemory::likely(const CellValues &values, int variable
                                           int newValue, double own) const
 {
     Likely best;
-    if (size_t(variable) >= m_variables.size() || m_variables[size_t(variable)].changes.isEmpty())
+    if (size_t(variable) >= m_variables.size() ||
+        (m_variables[size_t(variable)].changes.isEmpty() && !isKnown(variable)))
         return best;
     const Variable &seen = m_variables[size_t(variable)];
+    const bool isSeen = !seen.values.empty(); // else nothing of this table is learned yet
     const CellChange change = changeBetween(values, variable, oldValue, newValue);
     for (int kind = 0; kind < CellChange::KindCount; ++kind) {
         const std::uint64_t key = change.keys[kind];
-        const double supports = key == 0 ? 0 : seen.changes.of(key) - own;
-        if (supports <= 1e-6)
+        const double known =
+            kind == CellChange::Whole && m_known ? m_known->pairs(variable, key) : 0;
+        double supports = key == 0 ? 0 : seen.changes.of(key) - own;
+        if (supports <= 1e-6 && known == 0)
             continue;
-        const double all = applicable(seen, values.value(oldValue), seen.values[size_t(oldValue)],
-                                      change, CellChange::Kind(kind)) -
-                           own;
+        supports = std::max(0.0, supports);
+        const double ofValue = isSeen ? seen.values[size_t(oldValue)] : 0;
+        const double all =
+            applicable(seen, values.value(oldValue), ofValue, change, CellChange::Kind(kind)) - own;
         // One pair more that did not change so.
-        const double share = supports / (std::max(all, supports) + 1);
+        const double share = (supports + known) / (std::max(all, supports) + known + 1);
         if (share > best.share)
             best = {share, supports};
     }

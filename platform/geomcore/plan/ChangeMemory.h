@@ -3,9 +3,11 @@
 #include "CellChange.h"
 #include "CellValues.h"
 #include "KeyWeights.h"
+#include "KnownChanges.h"
 
 #include <geomcore/VelkGeomCoreGlobal.h>
 
+#include <algorithm>
 #include <functional>
 #include <vector>
 
@@ -16,8 +18,10 @@ namespace Plan {
 class VELKGEOMCORE_EXPORT ChangeMemory
 {
 public:
-    explicit ChangeMemory(int variableCount = 0)
+    /// \a known, if there is any, stays where it is.
+    explicit ChangeMemory(int variableCount = 0, const KnownChanges *known = nullptr)
         : m_variables(size_t(variableCount))
+        , m_known(known)
     {
     }
 
@@ -32,7 +36,7 @@ public:
     struct Likely
     {
         double share = 0;    ///< Of the other pairs that could have changed so, those that did.
-        double supports = 0; ///< Their number.
+        double supports = 0; ///< Their number, without what is known of other tables.
     };
     /// For two values that differ. What the pair itself added, with \a own weight, does not count.
     [[nodiscard]] Likely likely(const CellValues &values, int variable, int oldValue, int newValue,
@@ -40,7 +44,10 @@ public:
     /// No change of two values in this variable is likelier.
     [[nodiscard]] double mostLikely(int variable) const
     {
-        return size_t(variable) < m_variables.size() ? m_variables[size_t(variable)].mostLikely : 0;
+        const double known = m_known ? m_known->most(variable) : 0;
+        const double seen =
+            size_t(variable) < m_variables.size() ? m_variables[size_t(variable)].mostLikely : 0;
+        return std::max(seen, known / (known + 1));
     }
 
 private:
@@ -58,7 +65,10 @@ private:
                                            double ofValue, const CellChange &change,
                                            CellChange::Kind kind);
 
+    [[nodiscard]] bool isKnown(int variable) const { return m_known && m_known->has(variable); }
+
     std::vector<Variable> m_variables;
+    const KnownChanges *m_known = nullptr;
 };
 
 } // namespace Plan

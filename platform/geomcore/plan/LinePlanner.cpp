@@ -72,6 +72,7 @@ void LinePlanner::learnAgain(bool beginsByKeys, double gone)
 {
     auto other = std::make_unique<LinePlanner>(m_tables);
     other->m_prior = m_prior;
+    other->m_known = m_known;
     other->m_isCanceled = m_isCanceled;
     other->m_beginsByKeys = beginsByKeys;
     other->m_gone = gone;
@@ -120,6 +121,7 @@ void LinePlanner::learnInRounds()
     for (const PlanTarget &target : m_tables.targets)
         m_rows.lists.push_back(std::make_unique<CandidateLists>(m_tables, target));
     m_rates = m_prior;
+    m_changes = ChangeMemory(m_tables.variableCount, m_known);
     learnTargets(std::vector<double>(m_tables.targets.size(), 0));
     for (int round = 0; round < Rounds && !isCanceled(); ++round) {
         const bool isLast = round + 1 == Rounds;
@@ -311,7 +313,7 @@ ChangeMemory::Pairs LinePlanner::valuesOf(const std::vector<Shown> &pairs, int v
 void LinePlanner::learnChanges(const std::vector<Shown> &pairs, bool isLast)
 {
     m_evidence.reset();
-    m_changes = ChangeMemory(m_tables.variableCount);
+    m_changes = ChangeMemory(m_tables.variableCount, m_known);
     WorkerPool::instance().run(m_tables.variableCount, [&](int variable) {
         m_changes.learn(m_tables.values[size_t(variable)], variable,
                         valuesOf(pairs, variable, isLast), !isLast);

@@ -28,6 +28,8 @@ public:
     /// What pairs of other tables showed, by variable; as many as there are variables. Counts as
     /// little evidence beside that of this table.
     void setPrior(std::vector<VariableRates> rates) { m_prior = std::move(rates); }
+    /// What other tables showed of how values are replaced; stays where it is.
+    void setKnown(const KnownChanges *known) { m_known = known; }
     /// Asked between some lines; after it answered true the result is of no use.
     void setCancellation(std::function<bool()> isCanceled) { m_isCanceled = std::move(isCanceled); }
     void run();
@@ -97,6 +99,7 @@ private:
     std::vector<VariableRates> m_prior;
     std::vector<VariableRates> m_rates;
     std::vector<RateCounts> m_counts;
+    const KnownChanges *m_known = nullptr;
     ChangeMemory m_changes;
     std::unique_ptr<PairEvidence> m_evidence; ///< By m_rates and m_changes as they are.
     std::vector<PlaceEvidence> m_places;      ///< By target.

@@ -43,6 +43,8 @@ QString ReleaseBuilder::error() const
     QStringList path;
     if (m_place == Replacements || m_place == Replacement)
         path += QStringLiteral("replacements[%1]").arg(m_replacements.size());
+    if (m_place == AllLearned || m_place == Learned)
+        path += QStringLiteral("learned[%1]").arg(m_allLearned.size());
     if (m_place >= Mappings)
         path += m_place == Mappings ? QStringLiteral("mappings")
                                     : QStringLiteral("mappings[%1]").arg(m_release.countMappings());
@@ -72,6 +74,9 @@ bool ReleaseBuilder::startObject()
     } else if (m_key == NoKey && m_place == Replacements) {
         m_replacement = AgreedReplacement();
         begin(Replacement);
+    } else if (m_key == NoKey && m_place == AllLearned) {
+        m_learned = LearnedReplacement();
+        begin(Learned);
     } else if (m_key == NoKey && m_place == Mappings) {
         m_mapping = PrjMappingC();
         m_targets.clear();
@@ -99,6 +104,8 @@ bool ReleaseBuilder::endObject()
         return endModifier();
     if (m_place == Replacement)
         return endReplacement();
+    if (m_place == Learned)
+        return endLearned();
     if (!checkComplete(m_place))
         return false;
     if (m_place == Target) {
@@ -144,6 +151,10 @@ bool ReleaseBuilder::endArray()
         m_release.setReplacements(m_replacements);
         m_place = Release;
         break;
+    case AllLearned:
+        m_release.setLearned(m_allLearned);
+        m_place = Release;
+        break;
     case Mappings:
         m_place = Release;
         break;
@@ -164,7 +175,7 @@ bool ReleaseBuilder::key(std::string_view name)
     const int known = keyOf(m_place, name);
     if (known != NoKey) {
         m_key = known;
-        m_seen |= 1U << unsigned(known);
+        m_seen |= quint64(1) << unsigned(known);
         return true;
     }
     m_passNext = true;
@@ -283,7 +294,12 @@ bool ReleaseBuilder::otherInteger(qint64 number)
         return expect(TextKind);
     if (!expect(IntegerKind))
         return false;
-    m_state = PRJMAPPING::MappingState::fromInt(int(number));
+    if (m_key == LearnedSupports)
+        m_learned.supports = int(number);
+    else if (m_key == LearnedCases)
+        m_learned.cases = int(number);
+    else
+        m_state = PRJMAPPING::MappingState::fromInt(int(number));
     m_key = NoKey;
     return true;
 }
@@ -301,6 +317,9 @@ void ReleaseBuilder::enterArray()
     switch (m_key) {
     case ReplacementsKey:
         m_replacements.clear();
+        break;
+    case LearnedKey:
+        m_allLearned.clear();
         break;
     case MappingsKey:
         m_release.clearMappings();

@@ -85,6 +85,7 @@ private:
     void moveNotFoundTarget();
     bool endModifier();
     bool endReplacement();
+    bool endLearned();
     bool endRow();
     bool addRow(const ExtendedTextPtr &extended, bool conflict);
 
@@ -96,6 +97,8 @@ private:
     bool m_proposedRules = false;
     QList<AgreedReplacement> m_replacements;
     AgreedReplacement m_replacement;
+    QList<LearnedReplacement> m_allLearned;
+    LearnedReplacement m_learned;
     QString m_modifierKind;
     QString m_modifierSource;
     QString m_modifierTarget;
@@ -103,7 +106,7 @@ private:
 
     Place m_place = ReleaseLayout::Outside;
     int m_key = -1;          ///< whose value comes next
-    quint32 m_seen = 0;      ///< a bit for each of Members
+    quint64 m_seen = 0;      ///< a bit for each of Members
     int m_passedOver = 0;    ///< depth inside a value that is passed over, from 1
     bool m_passNext = false; ///< the next value is passed over
 

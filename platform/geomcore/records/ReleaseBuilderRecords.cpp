@@ -10,6 +10,12 @@
 
 using namespace ReleaseLayout;
 
+namespace {
+
+constexpr quint64 Bit = 1;
+
+} // namespace
+
 bool ReleaseBuilder::endMapping()
 {
     moveNotFoundTarget();
@@ -69,6 +75,15 @@ void ReleaseBuilder::setText(const QString &text)
     case ReplacementOffset:
         m_replacement.offset = text;
         return;
+    case LearnedVariable:
+        m_learned.variable = text;
+        return;
+    case LearnedBefore:
+        m_learned.before = text;
+        return;
+    case LearnedAfter:
+        m_learned.after = text;
+        return;
     case SourcePath:
         return m_mapping.setSourcePath(text);
     case SourceVersion:
@@ -98,7 +113,7 @@ void ReleaseBuilder::setText(const QString &text)
 
 bool ReleaseBuilder::checkComplete(Place place)
 {
-    const quint32 missing = ~m_seen & requiredOf(place);
+    const quint64 missing = ~m_seen & requiredOf(place);
     if (missing != 0) {
         const Member &first = Members[std::countr_zero(missing)];
         return fail(QStringLiteral("lacks the member \"%1\"")
@@ -111,12 +126,12 @@ bool ReleaseBuilder::checkComplete(Place place)
 
 bool ReleaseBuilder::endModifier()
 {
-    constexpr quint32 Names = 1U << ModifierSource | 1U << ModifierTarget;
+    constexpr quint64 Names = Bit << ModifierSource | Bit << ModifierTarget;
     if (!checkComplete(Modifier))
         return false;
     if (m_modifierKind == QLatin1String("var") && (m_seen & Names) == Names)
         m_target.addModifier(new VarsetVarMappingC(m_modifierSource, m_modifierTarget));
-    else if (m_modifierKind == QLatin1String("value") && m_seen & (1U << ModifierFormula))
+    else if (m_modifierKind == QLatin1String("value") && m_seen & (Bit << ModifierFormula))
         m_target.addModifier(VarsetValueMappingC::fromText(m_modifierFormula));
     else
         return fail(QStringLiteral("must be of kind \"var\" with \"source\" and \"target\", or of "
@@ -127,11 +142,11 @@ bool ReleaseBuilder::endModifier()
 
 bool ReleaseBuilder::endReplacement()
 {
-    constexpr quint32 Texts = 1U << ReplacementBefore | 1U << ReplacementAfter;
-    constexpr quint32 Numbers = 1U << ReplacementFactor | 1U << ReplacementOffset;
+    constexpr quint64 Texts = Bit << ReplacementBefore | Bit << ReplacementAfter;
+    constexpr quint64 Numbers = Bit << ReplacementFactor | Bit << ReplacementOffset;
     if (!checkComplete(Replacement))
         return false;
-    const quint32 given = m_seen & (Texts | Numbers);
+    const quint64 given = m_seen & (Texts | Numbers);
     const auto isNumber = [](const QString &text) {
         bool ok = false;
         return std::isfinite(text.toDouble(&ok)) && ok;
@@ -143,5 +158,16 @@ bool ReleaseBuilder::endReplacement()
                                    "decimal numbers as \"factor\" and \"offset\""));
     m_replacements.append(m_replacement);
     m_place = Replacements;
+    return true;
+}
+
+bool ReleaseBuilder::endLearned()
+{
+    if (!checkComplete(Learned))
+        return false;
+    if (m_learned.supports > m_learned.cases)
+        return fail(QStringLiteral("must not have more \"supports\" than \"cases\""));
+    m_allLearned.append(m_learned);
+    m_place = AllLearned;
     return true;
 }

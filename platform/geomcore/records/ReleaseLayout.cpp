@@ -7,14 +7,14 @@ namespace ReleaseLayout {
 namespace {
 
 constexpr std::size_t PlaceCount = std::size_t(Row) + 1;
-using Bits = std::array<quint32, PlaceCount>;
+using Bits = std::array<quint64, PlaceCount>;
 
 constexpr Bits bitsOf(bool requiredOnly)
 {
     Bits bits{};
     for (std::size_t i = 0; i < MemberCount; ++i) {
         if (!requiredOnly || Members[i].required)
-            bits[std::size_t(Members[i].place)] |= 1U << i;
+            bits[std::size_t(Members[i].place)] |= quint64(1) << i;
     }
     return bits;
 }
@@ -33,12 +33,12 @@ int keyOf(Place place, std::string_view name)
     return NoKey;
 }
 
-quint32 membersOf(Place place)
+quint64 membersOf(Place place)
 {
     return allBits[std::size_t(place)];
 }
 
-quint32 requiredOf(Place place)
+quint64 requiredOf(Place place)
 {
     return requiredBits[std::size_t(place)];
 }

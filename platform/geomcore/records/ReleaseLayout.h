@@ -16,6 +16,8 @@ enum Place {
     Release,
     Replacements,
     Replacement,
+    AllLearned,
+    Learned,
     Mappings,
     Mapping,
     Targets,
@@ -47,6 +49,12 @@ enum Key : int {
     ReplacementAfter,
     ReplacementFactor,
     ReplacementOffset,
+    LearnedKey,
+    LearnedVariable,
+    LearnedBefore,
+    LearnedAfter,
+    LearnedSupports,
+    LearnedCases,
     MappingsKey,
     SourcePath,
     SourceVersion,
@@ -86,6 +94,12 @@ inline constexpr Member Members[] = {
     {Replacement, "after", TextKind, false, Outside},
     {Replacement, "factor", TextKind, false, Outside},
     {Replacement, "offset", TextKind, false, Outside},
+    {Release, "learned", ArrayKind, false, AllLearned},
+    {Learned, "variable", TextKind, true, Outside},
+    {Learned, "before", TextKind, true, Outside},
+    {Learned, "after", TextKind, true, Outside},
+    {Learned, "supports", IntegerKind, true, Outside},
+    {Learned, "cases", IntegerKind, true, Outside},
     {Release, "mappings", ArrayKind, false, Mappings},
     {Mapping, "sourcePath", TextKind, true, Outside},
     {Mapping, "sourceVersion", TextKind, true, Outside},
@@ -106,13 +120,13 @@ inline constexpr Member Members[] = {
     {Modifier, "formula", TextKind, false, Outside},
 };
 inline constexpr std::size_t MemberCount = std::size(Members);
-static_assert(MemberCount <= 32, "a bit for each");
+static_assert(MemberCount <= 64, "a bit for each");
 
 /// The member of that name, NoKey if there is none.
 [[nodiscard]] int keyOf(Place place, std::string_view name);
 /// A bit for each member of a place.
-[[nodiscard]] quint32 membersOf(Place place);
+[[nodiscard]] quint64 membersOf(Place place);
 /// The same of those that have to be there.
-[[nodiscard]] quint32 requiredOf(Place place);
+[[nodiscard]] quint64 requiredOf(Place place);
 
 } // namespace ReleaseLayout

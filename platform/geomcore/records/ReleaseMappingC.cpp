@@ -46,6 +46,7 @@ public:
     QString sourceDate;
     QString targetDate;
     QList<AgreedReplacement> replacements;
+    QList<LearnedReplacement> learned;
     MappingList mappings;
 };
 
@@ -92,6 +93,16 @@ QList<AgreedReplacement> ReleaseMappingC::getReplacements() const
 void ReleaseMappingC::setReplacements(const QList<AgreedReplacement> &replacements)
 {
     d->replacements = replacements;
+}
+
+QList<LearnedReplacement> ReleaseMappingC::getLearned() const
+{
+    return d->learned;
+}
+
+void ReleaseMappingC::setLearned(const QList<LearnedReplacement> &learned)
+{
+    d->learned = learned;
 }
 
 ReleaseMappingC ReleaseMappingC::head() const

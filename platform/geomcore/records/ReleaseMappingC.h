@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AgreedReplacement.h"
+#include "LearnedReplacement.h"
 #include "PrjMappingC.h"
 
 #include <geomcore/VelkGeomCoreGlobal.h>
@@ -38,7 +39,11 @@ public:
     [[nodiscard]] QList<AgreedReplacement> getReplacements() const;
     void setReplacements(const QList<AgreedReplacement> &replacements);
 
-    /// This release without its mappings: both dates, and what was agreed to.
+    /// What its projects show alike of how values change, as it was found when it was created.
+    [[nodiscard]] QList<LearnedReplacement> getLearned() const;
+    void setLearned(const QList<LearnedReplacement> &learned);
+
+    /// This release without its mappings: both dates, what was agreed to and what was learned.
     [[nodiscard]] ReleaseMappingC head() const;
 
     /// In stored order. Costs a list of handles: to look only, use the two below.

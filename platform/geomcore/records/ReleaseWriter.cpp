@@ -161,6 +161,26 @@ void writeReplacements(JsonWriter &writer, const QList<AgreedReplacement> &repla
     writer.endArray();
 }
 
+void writeLearned(JsonWriter &writer, const QList<LearnedReplacement> &learned)
+{
+    if (learned.isEmpty())
+        return;
+    writer.key("learned");
+    writer.beginArray();
+    for (const LearnedReplacement &replacement : learned) {
+        writer.beginObject();
+        writeText(writer, "variable", replacement.variable);
+        writeText(writer, "before", replacement.before);
+        writeText(writer, "after", replacement.after);
+        writer.key("supports");
+        writer.value(replacement.supports);
+        writer.key("cases");
+        writer.value(replacement.cases);
+        writer.endObject();
+    }
+    writer.endArray();
+}
+
 } // namespace
 
 void writeRelease(JsonWriter &writer, const ReleaseMappingC &release, bool headsOnly)
@@ -169,6 +189,7 @@ void writeRelease(JsonWriter &writer, const ReleaseMappingC &release, bool heads
     writeText(writer, "sourceDate", release.getSourceDate());
     writeText(writer, "targetDate", release.getTargetDate());
     writeReplacements(writer, release.getReplacements());
+    writeLearned(writer, release.getLearned());
     if (!headsOnly) {
         writer.key("mappings");
         writer.beginArray();

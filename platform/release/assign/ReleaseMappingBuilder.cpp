@@ -1,6 +1,7 @@
 #include "ReleaseMappingBuilder.h"
 
 #include "CatalogReader.h"
+#include "learnedReplacements.h"
 #include "LineCells.h"
 #include "ParallelSteps.h"
 #include "ProjectFinder.h"
@@ -8,6 +9,7 @@
 #include "ReleaseDate.h"
 #include "ReleaseIndex.h"
 #include "RuleProposals.h"
+#include "SharedChanges.h"
 #include "TargetOwners.h"
 #include "VariableNames.h"
 
@@ -71,6 +73,7 @@ private:
     [[nodiscard]] QStringList conditionsOf(const ReadProject &source,
                                            const RuleProposals::Split &split) const;
     void count(const PrjMappingC &mapping);
+    void learn(const std::vector<std::vector<int>> &tables);
 
     ReleaseMappingBuilder &m_builder;
     const Input &m_input;
@@ -105,6 +108,7 @@ ReleaseMappingBuilder::Outcome ReleaseMappingBuilder::Work::run()
         count(mapping);
         m_release.addMapping(mapping);
     }
+    learn(tables);
     m_builder.m_release = m_release;
     return m_allRead ? Outcome::Complete : Outcome::Incomplete;
 }
@@ -305,6 +309,19 @@ void ReleaseMappingBuilder::Work::count(const PrjMappingC &mapping)
         ++counts.same;
     else
         ++(targets == 1 ? counts.moved : counts.several);
+}
+
+void ReleaseMappingBuilder::Work::learn(const std::vector<std::vector<int>> &tables)
+{
+    std::vector<SharedChanges::Tables> projects(m_sources.size());
+    for (size_t i = 0; i < tables.size(); ++i) {
+        if (tables[i].size() == 1)
+            projects[i] = {&m_sources[i].cells, &m_index.table(tables[i].front())};
+    }
+    m_release.setLearned(learnedReplacements(
+        SharedChanges::of(projects), m_names,
+        [&](int i) { return m_source.read(m_sources[size_t(i)].project.path).table; },
+        [&](int i) { return m_target.read(m_index.path(tables[size_t(i)].front())).table; }));
 }
 
 void ReleaseMappingBuilder::Work::takeMessages()

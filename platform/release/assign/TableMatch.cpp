@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <bit>
 #include <iterator>
+#include <unordered_map>
 
 namespace VelkRelease {
 
@@ -155,6 +156,54 @@ void TableMatch::findNearLines()
                 most = std::max(most, values - (left != 0));
         }
     }
+}
+
+std::vector<TableMatch::NearPair> TableMatch::nearPairs() const
+{
+    const size_t count = m_sourceColumns.size();
+    std::vector<NearPair> pairs;
+    if (count < 3 || std::ranges::find(m_equal, false) == m_equal.end())
+        return pairs;
+    constexpr int None = -1;
+    constexpr int Several = -2;
+    struct Rows
+    {
+        int source = None;
+        int target = None;
+    };
+    std::unordered_map<quint64, Rows> rows; // by sums without one variable
+    const auto add = [&rows](const LineCells &cells, const std::vector<int> &columns,
+                             int Rows::*which) {
+        for (int row = 0; row < cells.rowCount(); ++row) {
+            if (valuesIn(cells, row, columns) < 3) // two have to be the same
+                continue;
+            const quint64 sum = sumOver(cells, row, columns);
+            for (size_t i = 0; i < columns.size(); ++i) {
+                const quint64 left = cells.valueHash(row, columns[i]);
+                if (left == 0)
+                    continue;
+                int &known = rows[sumWithout(sum, left, i)].*which;
+                known = known == None ? row : Several;
+            }
+        }
+    };
+    add(*m_source, m_sourceColumns, &Rows::source);
+    add(*m_target, m_targetColumns, &Rows::target);
+    for (int row = 0; row < m_source->rowCount(); ++row) {
+        if (isEqual(row))
+            continue;
+        const quint64 sum = sumOver(*m_source, row, m_sourceColumns);
+        const size_t before = pairs.size();
+        for (size_t i = 0; i < count; ++i) {
+            const quint64 left = m_source->valueHash(row, m_sourceColumns[i]);
+            const auto found = left == 0 ? rows.end() : rows.find(sumWithout(sum, left, i));
+            if (found != rows.end() && found->second.source == row && found->second.target >= 0)
+                pairs.push_back({row, found->second.target, i});
+        }
+        if (pairs.size() > before + 1) // which of them is not known
+            pairs.resize(before);
+    }
+    return pairs;
 }
 
 bool TableMatch::isRelated() const

@@ -23,6 +23,20 @@ public:
     /// Looks for lines too that agree on all common variables but one, of three or more.
     void findNearLines();
 
+    /// Lines that agree on all common variables but one, in which both have a value, when neither
+    /// table has another line like these.
+    struct NearPair
+    {
+        int sourceRow = 0;
+        int targetRow = 0;
+        size_t differing = 0; ///< Place among the common variables.
+    };
+    /// In the order of the source's lines; none of fewer than three common variables.
+    [[nodiscard]] std::vector<NearPair> nearPairs() const;
+    /// Columns of the common variables.
+    [[nodiscard]] const std::vector<int> &sourceColumns() const { return m_sourceColumns; }
+    [[nodiscard]] const std::vector<int> &targetColumns() const { return m_targetColumns; }
+
     /// Number of variables that both tables have.
     [[nodiscard]] int commonCount() const { return int(m_sourceColumns.size()); }
     /// Whether the tables share two variables and half of those of the source.

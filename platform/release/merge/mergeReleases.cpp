@@ -63,6 +63,9 @@ MergeResult ReleaseMerge::run()
 {
     mergeDates();
     mergeReplacements();
+    // It changes only with a release that is created anew.
+    m_result.release.setLearned(
+        m_theirs.getLearned() == m_base.getLearned() ? m_ours.getLearned() : m_theirs.getLearned());
     std::vector<PrjMappingC> mappings(m_slots.size());
     for (size_t slot = 0; slot < m_slots.size(); ++slot)
         mappings[slot] = merged(m_slots[slot]);
