@@ -1,15 +1,17 @@
 // How well the program finds the new lines of old lines, on releases of real tables with a file
 // that tells where each line went, as they are and disturbed as catalogs are.
 //
-//     scorereport [--misses] [--decisions] [--only NAME] FOLDER...
+//     scorereport [--misses] [--decisions] [--neighbours] [--only NAME] FOLDER...
 //
 // A folder has old, new and truth.csv, or release-2021, release-2022, release-2026 and
 // truth-YEAR-to-2026.csv. Every set is measured with and without its first columns, which are
-// mostly keys. --only takes the disturbances whose name contains NAME. Exit status 2 if anything
-// cannot be read or a line is assigned wrongly.
+// mostly keys. --only takes the disturbances whose name contains NAME. --neighbours plants mistakes
+// in the true assignments instead, and tells what the check of neighbours finds. Exit status 2 if
+// anything cannot be read or a line is assigned wrongly.
 
 #include "Disturbance.h"
 #include "GoalTable.h"
+#include "NeighbourScore.h"
 #include "RuleScore.h"
 
 #include <tests/road/SampleRoad.h>
@@ -27,6 +29,7 @@ struct Options
 {
     bool misses = false;
     bool decisions = false;
+    bool neighbours = false;
     QString only;
     QStringList folders;
 };
@@ -181,6 +184,47 @@ private:
     bool m_good = true;
 };
 
+/// Shifts and swaps that are found, of all tables with all disturbances.
+void reportNeighbours(const std::vector<SampleSet> &sets, const Options &options)
+{
+    QTextStream out(stdout);
+    out << "| set | shifts | found | swaps | found | wrong lines | mended | lines untouched "
+           "| false alarms | lines with mistakes | false alarms | lines spoilt |\n|"
+        << QString(" --- |").repeated(12) << '\n';
+    const auto print = [&](const QString &name, const NeighbourScore &score) {
+        out << "| " << name << " | " << score.shifts.planted << " | "
+            << percent(score.shifts.found, score.shifts.planted) << " | " << score.swaps.planted
+            << " | " << percent(score.swaps.found, score.swaps.planted) << " | "
+            << score.shifts.wrong + score.swaps.wrong << " | "
+            << percent(score.shifts.mended + score.swaps.mended,
+                       score.shifts.wrong + score.swaps.wrong)
+            << " | " << score.untouched.lines << " | " << score.untouched.falseAlarms << " | "
+            << score.shifts.lines + score.swaps.lines << " | "
+            << score.shifts.falseAlarms + score.swaps.falseAlarms << " | "
+            << score.shifts.spoilt + score.swaps.spoilt << " |\n";
+        for (const QString &miss : score.misses) {
+            if (options.misses)
+                out << "    " << miss << '\n';
+        }
+        out.flush();
+    };
+    NeighbourScore all;
+    for (const SampleSet &original : sets) {
+        for (const Disturbance &disturbance : Disturbance::all()) {
+            if (!disturbance.name.contains(options.only))
+                continue;
+            SampleSet set = original;
+            disturbance.run(set);
+            const NeighbourScore score = NeighbourScore::of(set);
+            print(set.name + ", " + disturbance.name, score);
+            all.shifts.add(score.shifts);
+            all.swaps.add(score.swaps);
+            all.untouched.add(score.untouched);
+        }
+    }
+    print("all", all);
+}
+
 Options optionsFrom(QStringList arguments)
 {
     Options options;
@@ -191,6 +235,8 @@ Options optionsFrom(QStringList arguments)
             options.misses = true;
         else if (argument == "--decisions")
             options.decisions = true;
+        else if (argument == "--neighbours")
+            options.neighbours = true;
         else if (argument == "--only" && !arguments.isEmpty())
             options.only = arguments.takeFirst();
         else
@@ -214,16 +260,23 @@ int main(int argc, char **argv)
     }
     if (sets.empty()) {
         QTextStream(stderr)
-            << "Usage: scorereport [--misses] [--decisions] [--only NAME] FOLDER...\n";
+            << "Usage: scorereport [--misses] [--decisions] [--neighbours] [--only NAME] "
+               "FOLDER...\n";
         return 1;
     }
-    Report report(options);
+    std::vector<SampleSet> all;
     for (const SampleSet &set : sets) {
-        report.add(set, true);
-        SampleSet without = set;
-        without.name += " without first column";
-        without.removeFirstColumns();
-        report.add(without, false);
+        all.push_back(set);
+        all.push_back(set);
+        all.back().name += " without first column";
+        all.back().removeFirstColumns();
     }
+    if (options.neighbours) {
+        reportNeighbours(all, options);
+        return 0;
+    }
+    Report report(options);
+    for (std::size_t i = 0; i < all.size(); ++i)
+        report.add(all[i], i % 2 == 0);
     return report.end() ? 0 : 2;
 }

@@ -45,10 +45,11 @@ PlantedTables::PlantedTables(const Kind &kind, int lines, unsigned seed)
     : m_kind(kind)
     , m_random(seed)
 {
+    std::vector<int> truth;    // row of each line; -1: gone
     std::vector<int> sourceOf; // of each row; -1: new
     for (int i = 0; i < lines; ++i) {
         m_old.push_back(oldLine(i));
-        m_truth.push_back(-1);
+        truth.push_back(-1);
         if (happens(kind.changed)) {
             m_new.push_back(newLine(oldLine(chance(lines + 40))));
             sourceOf.push_back(-1);
@@ -56,11 +57,11 @@ PlantedTables::PlantedTables(const Kind &kind, int lines, unsigned seed)
         if (happens(kind.changed))
             continue;
         if (happens(kind.merged) && !sourceOf.empty() && sourceOf.back() >= 0) {
-            m_truth.back() = int(m_new.size()) - 1;
+            truth.back() = int(m_new.size()) - 1;
             m_old.back() = m_old[std::size_t(sourceOf.back())];
             continue;
         }
-        m_truth.back() = int(m_new.size());
+        truth.back() = int(m_new.size());
         m_new.push_back(newLine(m_old.back()));
         sourceOf.push_back(i);
     }
@@ -78,57 +79,32 @@ PlantedTables::PlantedTables(const Kind &kind, int lines, unsigned seed)
             sorted.push_back(m_new[std::size_t(order[i])]);
         }
         m_new = sorted;
-        for (int &row : m_truth)
+        for (int &row : truth)
             row = row < 0 ? -1 : placeOf[std::size_t(row)];
     }
     for (int i = 0; i < lines; ++i) {
-        const int row = m_truth[std::size_t(i)];
+        const int row = truth[std::size_t(i)];
         m_lines.lines.push_back({i + 1, row < 0 ? -1 : 0, row, row < 0 && happens(0.5)});
     }
     m_lines.rows.resize(1);
     for (int row = 0; row < int(m_new.size()); ++row)
         m_lines.rows[0].push_back(row + 1);
+    m_truth = m_lines;
 }
 
 bool PlantedTables::plantShift(int count, int steps)
 {
-    std::vector<NeighbourLines::Line *> assigned;
-    for (NeighbourLines::Line &line : m_lines.lines) {
-        if (line.row >= 0)
-            assigned.push_back(&line);
-    }
-    if (int(assigned.size()) <= count)
-        return false;
-    const int first = chance(int(assigned.size()) - count);
-    const bool lastIsLeft = happens(0.5);
-    for (int i = first; i < first + count; ++i) {
-        const int row = assigned[std::size_t(i)]->row + steps;
-        if (row < 0 || row >= int(m_new.size()))
-            return false;
-    }
-    for (int i = first; i < first + count; ++i)
-        assigned[std::size_t(i)]->row += steps;
-    if (lastIsLeft) {
-        // Whoever has the row at the end of the lines is left without one.
-        const std::size_t beside = steps > 0 ? std::size_t(first + count) : std::size_t(first - 1);
-        const std::size_t end = steps > 0 ? std::size_t(first + count - 1) : std::size_t(first);
-        if (beside < assigned.size() && assigned[beside]->row == assigned[end]->row) {
-            assigned[beside]->row = -1;
-            assigned[beside]->target = -1;
-        }
-    }
-    return true;
+    return PlantedMistakes::shift(m_lines, 0, count, steps, m_random);
 }
 
 bool PlantedTables::plantSwap(int distance)
 {
-    const int first = chance(int(m_lines.lines.size()) - distance);
-    NeighbourLines::Line &a = m_lines.lines[std::size_t(first)];
-    NeighbourLines::Line &b = m_lines.lines[std::size_t(first + distance)];
-    if (a.row < 0 || b.row < 0 || a.row == b.row)
-        return false;
-    std::swap(a.row, b.row);
-    return true;
+    return PlantedMistakes::swap(m_lines, distance, m_random);
+}
+
+PlantedMistakes::Score PlantedTables::score() const
+{
+    return PlantedMistakes::scoreOf(m_truth, m_lines, values());
 }
 
 VelkRelease::NeighbourValues PlantedTables::values() const
@@ -137,14 +113,4 @@ VelkRelease::NeighbourValues PlantedTables::values() const
             [this](int, int row) {
                 return m_new[std::size_t(row)];
             }};
-}
-
-std::set<int> PlantedTables::wrongLines() const
-{
-    std::set<int> wrong;
-    for (const NeighbourLines::Line &line : m_lines.lines) {
-        if (line.row != rowOf(line.line))
-            wrong.insert(line.line);
-    }
-    return wrong;
 }

@@ -1,10 +1,8 @@
 #pragma once
 
-#include <release/neighbour/NeighbourCheck.h>
+#include "PlantedMistakes.h"
 
-#include <map>
 #include <random>
-#include <set>
 
 /// An old and a new table made by chance, the true assignment of their lines, and mistakes that are
 /// planted in it.
@@ -24,17 +22,12 @@ public:
 
     PlantedTables(const Kind &kind, int lines, unsigned seed);
 
-    /// Some consecutive lines get the row of another one, so many rows away; at the end of the
-    /// lines two then share one, or the last one gets none.
+    /// As PlantedMistakes has them.
     bool plantShift(int count, int steps);
-    /// Two lines at most so far apart.
     bool plantSwap(int distance);
 
-    [[nodiscard]] const VelkRelease::NeighbourLines &lines() const { return m_lines; }
+    [[nodiscard]] PlantedMistakes::Score score() const;
     [[nodiscard]] VelkRelease::NeighbourValues values() const;
-    /// Lines whose row is not the true one.
-    [[nodiscard]] std::set<int> wrongLines() const;
-    [[nodiscard]] int rowOf(int line) const { return m_truth[std::size_t(line - 1)]; }
 
 private:
     [[nodiscard]] int chance(int below) { return int(m_random() % unsigned(below)); }
@@ -47,5 +40,5 @@ private:
     VelkRelease::NeighbourLines m_lines;
     std::vector<QStringList> m_old;
     std::vector<QStringList> m_new;
-    std::vector<int> m_truth; ///< row of each line; -1: gone
+    VelkRelease::NeighbourLines m_truth;
 };

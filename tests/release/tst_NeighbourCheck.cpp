@@ -3,6 +3,7 @@
 #include "../support/TestCatalog.h"
 
 #include <release/neighbour/ReleaseNeighbours.h>
+#include <release/pattern/CellParts.h>
 
 #include <QTest>
 
@@ -24,37 +25,6 @@ QString textOf(const NeighbourFinding &finding)
         .arg(repairs.join(' '));
 }
 
-struct Score
-{
-    int lines = 0;
-    int planted = 0;
-    int found = 0;       ///< planted ones whose lines are all in a finding, with the true row
-    int falseAlarms = 0; ///< findings without any wrong line
-};
-
-/// One planted mistake a table at most.
-void addScore(const PlantedTables &tables, bool planted, Score &score)
-{
-    const std::vector<NeighbourFinding> findings = checkNeighbours(tables.lines(), tables.values());
-    const std::set<int> wrong = tables.wrongLines();
-    score.lines += int(tables.lines().lines.size());
-    std::set<int> mended;
-    for (const NeighbourFinding &finding : findings) {
-        bool touches = false;
-        for (const NeighbourFinding::Repair &repair : finding.repairs) {
-            touches = touches || wrong.contains(repair.line);
-            if (repair.targetLine == tables.rowOf(repair.line) + 1)
-                mended.insert(repair.line);
-        }
-        score.falseAlarms += touches ? 0 : 1;
-    }
-    if (!planted)
-        return;
-    ++score.planted;
-    const bool all = std::includes(mended.begin(), mended.end(), wrong.begin(), wrong.end());
-    score.found += all ? 1 : 0;
-}
-
 } // namespace
 
 Q_DECLARE_METATYPE(VelkRelease::NeighbourLines)
@@ -68,6 +38,10 @@ private Q_SLOTS:
     void findings();
     void takenTwice();
     void severalTargets();
+    void mostLinesShifted();
+    void lineLeftByShift();
+    void fewLines();
+    void textsGotWords();
     void tooFewLines();
     void mendsInOneMapping();
     void planted_data();
@@ -136,6 +110,8 @@ void tst_NeighbourCheck::findings_data()
     QTest::newRow("taken twice, its own row free")
         << numbered(60, {{20, 50}}) << QStringList{"misplaced 20-20 by 30: 20>20"};
     QTest::newRow("skipped") << numbered(60, {{33, 0}}) << QStringList{"skipped 33-33 by 0: 33>33"};
+    QTest::newRow("the first one skipped")
+        << numbered(60, {{1, 0}}) << QStringList{"skipped 1-1 by 0: 1>1"};
     NeighbourLines gone = numbered(60, {{33, 0}});
     gone.lines[32].gone = true;
     QTest::newRow("confirmed to be gone") << gone << QStringList();
@@ -187,6 +163,94 @@ void tst_NeighbourCheck::severalTargets()
     QCOMPARE(findings[0].repairs[0].target, 1);
 }
 
+void tst_NeighbourCheck::mostLinesShifted()
+{
+    // In a series the wrong lines look alike: the same is added to each.
+    std::map<int, int> changed;
+    QStringList repairs;
+    for (int line = 5; line <= 50; ++line) {
+        changed[line] = line + 1;
+        repairs << QString("%1>%1").arg(line);
+    }
+    const auto valuesOf = [](int line) {
+        return QStringList{"A" + QString::number(line / 100), QString::number(line * 5), "steel"};
+    };
+    const NeighbourValues values{[&](int index, int) { return valuesOf(index + 1); },
+                                 [&](int, int row) {
+                                     return valuesOf(row + 1);
+                                 }};
+    const std::vector<NeighbourFinding> findings = checkNeighbours(numbered(60, changed), values);
+    QCOMPARE(findings.size(), 1U);
+    QCOMPARE(textOf(findings[0]), "shifted 5-50 by 1: " + repairs.join(' '));
+}
+
+/// Where rows are new and lines are gone all over the table, a free row beside a line without one
+/// says little, unless a shift has left it.
+void tst_NeighbourCheck::lineLeftByShift()
+{
+    NeighbourLines lines;
+    for (int index = 0; index < 60; ++index) {
+        const bool gone = index % 3 == 2;
+        lines.lines.push_back({index + 1, gone ? -1 : 0, gone ? -1 : 2 * index, gone});
+    }
+    lines.rows.resize(1);
+    for (int row = 0; row < 120; ++row)
+        lines.rows[0].push_back(row + 1);
+    const auto rowValues = [](int, int row) {
+        QStringList values = numberedValues(row / 2 + 1);
+        if (row % 2 == 1 || row / 2 % 3 == 2)
+            values[1] = "new " + QString::number(row);
+        return values;
+    };
+    const NeighbourValues values{valuesByNumber().ofLine, rowValues};
+    QVERIFY(checkNeighbours(lines, values).empty());
+    int row = -1;
+    for (const std::size_t index : {30U, 31U, 33U, 34U, 36U, 37U})
+        std::swap(row, lines.lines[index].row);
+    lines.lines[30].target = -1;
+    QStringList texts;
+    for (const NeighbourFinding &finding : checkNeighbours(lines, values))
+        texts << textOf(finding);
+    QCOMPARE(texts, QStringList({"skipped 31-31 by 0: 31>61",
+                                 "shifted 32-38 by -2: 32>63 34>67 35>69 37>73 38>75"}));
+}
+
+/// What is expected of any table suffices where lines have enough values.
+void tst_NeighbourCheck::fewLines()
+{
+    const QStringList lines[] = {{"A 8", "steel", "20", "zinc", "10.9"},
+                                 {"B 9", "brass", "35", "none", "4.6"}};
+    const NeighbourValues values{[&](int index, int) { return lines[index]; },
+                                 [&](int, int row) {
+                                     return lines[row];
+                                 }};
+    QVERIFY(checkNeighbours(numbered(2, {}), values).empty());
+    const std::vector<NeighbourFinding> findings =
+        checkNeighbours(numbered(2, {{1, 2}, {2, 1}}), values);
+    QCOMPARE(findings.size(), 1U);
+    QCOMPARE(textOf(findings[0]), "swapped 1-2 by 0: 1>1 2>2");
+}
+
+void tst_NeighbourCheck::textsGotWords()
+{
+    QCOMPARE(countLostTokens(u"Standard", u"E8400 & compatibles (Standard)"), 0);
+    QCOMPARE(countLostTokens(u"7-14mm F4.0", u"Digital 7-14mm f/4.0"), 1);
+    QCOMPARE(countLostTokens(u"a a b", u"a b"), 1);
+    QCOMPARE(countLostTokens(u"", u"a"), 0);
+    // All names got the same words; what stands between these alone tells the lines apart.
+    const auto before = [](int index, int) {
+        return QStringList{QString("%1 mm F%2").arg(index * 7 % 60).arg(index % 5)};
+    };
+    const auto after = [](int, int row) {
+        return QStringList{
+            QString("Digital %1 mm f/%2, %3").arg(row * 7 % 60).arg(row % 5).arg(row * 31 % 97)};
+    };
+    const std::vector<NeighbourFinding> findings =
+        checkNeighbours(numbered(60, {{20, 21}, {21, 20}}), {before, after});
+    QCOMPARE(findings.size(), 1U);
+    QCOMPARE(textOf(findings[0]), "swapped 20-21 by 0: 20>20 21>21");
+}
+
 void tst_NeighbourCheck::tooFewLines()
 {
     QCOMPARE(findingsOf(numbered(3, {{1, 2}, {2, 1}})), QStringList());
@@ -224,20 +288,19 @@ void tst_NeighbourCheck::planted()
 {
     QFETCH(PlantedTables::Kind, kind);
     std::mt19937 random(17);
-    Score shifts;
-    Score swaps;
-    Score untouched;
+    PlantedMistakes::Score shifts;
+    PlantedMistakes::Score swaps;
+    PlantedMistakes::Score untouched;
     for (int i = 0; i < 6; ++i) {
         const int lines = 60 + int(random() % 300);
         PlantedTables shifted(kind, lines, unsigned(random()));
         const int steps = random() % 4 == 0 ? 2 : 1;
-        const bool hasShift =
-            shifted.plantShift(2 + int(random() % 25), random() % 2 ? steps : -steps);
-        addScore(shifted, hasShift && !shifted.wrongLines().empty(), shifts);
+        shifted.plantShift(2 + int(random() % 25), random() % 2 ? steps : -steps);
+        shifts.add(shifted.score());
         PlantedTables swapped(kind, lines, unsigned(random()));
-        const bool hasSwap = swapped.plantSwap(1 + int(random() % 4));
-        addScore(swapped, hasSwap, swaps);
-        addScore(PlantedTables(kind, lines, unsigned(random())), false, untouched);
+        swapped.plantSwap(1 + int(random() % 4));
+        swaps.add(swapped.score());
+        untouched.add(PlantedTables(kind, lines, unsigned(random())).score());
     }
     const int falseAlarms = shifts.falseAlarms + swaps.falseAlarms + untouched.falseAlarms;
     const int lines = shifts.lines + swaps.lines + untouched.lines;

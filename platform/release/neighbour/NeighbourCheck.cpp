@@ -11,8 +11,8 @@ namespace VelkRelease {
 
 namespace {
 
-/// What is learned of fewer pairs says nothing.
-constexpr int FewestPairs = 4;
+/// One line alone has no neighbour. Of a few what is expected says more than what they show.
+constexpr int FewestPairs = 2;
 
 class TargetCheck
 {
@@ -94,7 +94,11 @@ std::vector<NeighbourFinding> checkNeighbours(const NeighbourLines &lines,
         const std::vector<NeighbourFinding> some = checks[i]->run();
         findings.insert(findings.end(), some.begin(), some.end());
     }
-    int target = -1; // of the line before
+    // Of the line before; of the first lines that of the one behind.
+    const auto first =
+        std::find_if(lines.lines.begin(), lines.lines.end(),
+                     [](const NeighbourLines::Line &line) { return line.target >= 0; });
+    int target = first == lines.lines.end() ? -1 : first->target;
     for (std::size_t i = 0; i < lines.lines.size(); ++i) {
         const NeighbourLines::Line &line = lines.lines[i];
         if (line.target >= 0)

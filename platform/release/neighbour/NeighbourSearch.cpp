@@ -36,6 +36,7 @@ NeighbourSearch::NeighbourSearch(TargetOrder &order, PairLikeness &likeness)
     , m_own(std::size_t(order.count()), std::numeric_limits<double>::quiet_NaN())
     , m_moved(std::size_t(order.count()))
 {
+    m_likeness.learnBeside(m_order.pairs(), MostSteps);
 }
 
 double NeighbourSearch::likenessAt(int position)
@@ -321,6 +322,8 @@ std::vector<NeighbourSearch::Change> NeighbourSearch::joined(std::vector<Change>
 
 void NeighbourSearch::apply(const std::vector<TargetOrder::Move> &moves)
 {
+    for (const auto &[position, row] : moves)
+        m_left.insert(m_order.rowAt(position));
     m_order.apply(moves);
     for (const auto &[position, row] : moves) {
         m_own[std::size_t(position)] = std::numeric_limits<double>::quiet_NaN();
@@ -328,16 +331,37 @@ void NeighbourSearch::apply(const std::vector<TargetOrder::Move> &moves)
     }
 }
 
+/// A row that a change has left belongs to the same mistake, which is seen already: half as much
+/// shows that the line is part of it.
+int NeighbourSearch::leftRow(int index, int after, int before)
+{
+    int best = -1;
+    double most = LeastGain / 2 - m_order.freeWeight() - m_order.withoutWeight();
+    for (auto row = m_left.upper_bound(after); row != m_left.end() && *row < before; ++row) {
+        if (!m_order.isFree(*row))
+            continue;
+        const double likeness = m_likeness.of(index, *row, false);
+        if (likeness >= most) {
+            most = likeness;
+            best = *row;
+        }
+    }
+    return best;
+}
+
 int NeighbourSearch::skippedRow(int index, int position)
 {
     const int after = position > 0 ? m_order.rowAt(position - 1) : -1;
     const int before = position < m_order.count() ? m_order.rowAt(position) : m_order.rowCount();
+    if (const int row = leftRow(index, after, before); row >= 0)
+        return row;
     if (before - after > 2 * Reach)
         return -1;
     const int row = bestFree(index, after, before);
     if (row < 0)
         return -1;
-    const double gain = m_likeness.of(index, row, false) + m_order.freeWeight();
+    const double gain =
+        m_likeness.of(index, row, false) + m_order.freeWeight() + m_order.withoutWeight();
     const bool fits = m_likeness.room(index, row) < LeastRoom;
     return gain < (fits ? LeastGain : LeastLikeness) ? -1 : row;
 }

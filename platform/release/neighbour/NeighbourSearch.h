@@ -4,6 +4,7 @@
 #include "PairLikeness.h"
 #include "TargetOrder.h"
 
+#include <set>
 #include <vector>
 
 namespace VelkRelease {
@@ -43,6 +44,7 @@ private:
     [[nodiscard]] static std::vector<Change> joined(std::vector<Change> made);
     /// The row at which the line is best placed of those that are free between two rows; -1: none.
     [[nodiscard]] int bestFree(int index, int after, int before);
+    [[nodiscard]] int leftRow(int index, int after, int before);
     [[nodiscard]] double gain(int position, int row);
     [[nodiscard]] double likenessAt(int position);
     /// Its own row is about as good as any can be.
@@ -54,6 +56,7 @@ private:
     std::vector<double> m_room; ///< by position; NaN: not known yet, as below
     std::vector<double> m_own;
     std::vector<bool> m_moved;
+    std::set<int> m_left; ///< rows of lines that were moved
 };
 
 } // namespace VelkRelease

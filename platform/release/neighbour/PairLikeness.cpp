@@ -112,7 +112,7 @@ PairLikeness::Relation PairLikeness::relationOfTexts(const QString &before, cons
         numbers += QChar(0x1e);
     }
     return {name(u't' + exact), mapName(u'm' + numbers),
-            name(u'p' + QString::number(std::min(parts.size(), std::size_t(3))))};
+            name(u'p' + QString::number(std::min(countLostTokens(before, after), 3)))};
 }
 
 PairLikeness::Relation PairLikeness::relation(int before, int after)
@@ -170,6 +170,52 @@ void PairLikeness::learn(const std::vector<std::pair<int, int>> &pairs)
     m_partners += Expected;
     m_neighbours += Expected;
     takeBestWeights();
+}
+
+int PairLikeness::countEqual(int index, int row)
+{
+    const std::vector<int> &before = lineTexts(index);
+    const std::vector<int> &after = rowTexts(row);
+    int equal = 0;
+    for (std::size_t v = 0; v < before.size() && v < after.size(); ++v)
+        equal += relation(before[v], after[v])[0] == EqualValues ? 1 : 0;
+    return equal;
+}
+
+/// Only equal values tell: in a series the same number is added to each in any shift.
+int PairLikeness::gainBeside(const std::vector<std::pair<int, int>> &pairs, int steps)
+{
+    const std::size_t every = std::max(std::size_t(1), pairs.size() / MostLearned);
+    int gain = 0;
+    for (std::size_t i = 0; i < pairs.size(); i += every) {
+        const auto [index, row] = pairs[i];
+        const int beside = row + steps;
+        const int equal = countEqual(index, row);
+        const int others = beside >= 0 && beside < m_rows ? countEqual(index, beside) : 0;
+        gain += (others > equal ? 1 : 0) - (others < equal ? 1 : 0);
+    }
+    return gain;
+}
+
+void PairLikeness::learnBeside(const std::vector<std::pair<int, int>> &pairs, int mostSteps)
+{
+    int best = 0;
+    int most = 0;
+    for (int steps = -mostSteps; steps <= mostSteps; ++steps) {
+        const int gain = gainBeside(pairs, steps);
+        if (gain > most) {
+            most = gain;
+            best = steps;
+        }
+    }
+    if (best == 0)
+        return;
+    std::vector<std::pair<int, int>> beside;
+    for (const auto &[index, row] : pairs) {
+        if (row + best >= 0 && row + best < m_rows)
+            beside.emplace_back(index, row + best);
+    }
+    learn(beside);
 }
 
 void PairLikeness::count(int index, int row, int Count::*counter)

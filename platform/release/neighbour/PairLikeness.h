@@ -25,6 +25,9 @@ public:
                  const std::vector<std::pair<int, int>> &pairs);
     /// Learns anew, from better pairs.
     void learn(const std::vector<std::pair<int, int>> &pairs);
+    /// Learns from what stands so many rows beside the pairs, at most, if more lines have more
+    /// equal values there than fewer: where most lines are shifted, those are right.
+    void learnBeside(const std::vector<std::pair<int, int>> &pairs, int mostSteps);
 
     /// Natural logarithm. \a isPair: the two are one of the pairs, which does not speak for itself.
     [[nodiscard]] double of(int index, int row, bool isPair);
@@ -56,6 +59,8 @@ private:
     /// Of a change of numbers.
     [[nodiscard]] int mapName(const QString &text);
     void takeBestWeights();
+    [[nodiscard]] int countEqual(int index, int row);
+    [[nodiscard]] int gainBeside(const std::vector<std::pair<int, int>> &pairs, int steps);
     void count(int index, int row, int Count::*counter);
     [[nodiscard]] double weight(std::size_t variable, const Relation &relation, bool isPair) const;
     [[nodiscard]] double weightOf(Count count, int own, int name) const;

@@ -28,10 +28,10 @@ TargetOrder::TargetOrder(const NeighbourLines &lines, int target)
         m_indexes.push_back(int(i));
         m_rows.push_back(line.row);
     }
-    learn();
+    learn(lines);
 }
 
-void TargetOrder::learn()
+void TargetOrder::learn(const NeighbourLines &lines)
 {
     int kept = 0;
     int broken = 0;
@@ -41,15 +41,27 @@ void TargetOrder::learn()
     }
     int single = 0;
     int shared = 0;
-    int free = 0;
+    int free = 0; // places where rows between those of the lines are
+    bool isFilled = false;
+    int open = 0;
     for (const std::vector<int> &owners : m_owners) {
         single += owners.size() == 1 ? 1 : 0;
         shared += owners.size() > 1 ? 1 : 0;
-        free += owners.empty() ? 1 : 0;
+        if (owners.empty()) {
+            open += isFilled && single + shared > 0 ? 1 : 0;
+        } else {
+            free += open;
+            open = 0;
+        }
+        isFilled = !owners.empty();
     }
     m_orderWeight = weightOf(kept, broken);
     m_sharedWeight = weightOf(single, shared);
     m_freeWeight = weightOf(single + shared, free);
+    const auto without =
+        std::count_if(lines.lines.begin(), lines.lines.end(),
+                      [](const NeighbourLines::Line &line) { return line.row < 0; });
+    m_withoutWeight = weightOf(int(lines.lines.size()) - int(without), int(without));
 }
 
 std::vector<std::pair<int, int>> TargetOrder::pairs() const

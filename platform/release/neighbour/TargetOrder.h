@@ -40,9 +40,11 @@ public:
     [[nodiscard]] double room(int position) const;
     void apply(const std::vector<Move> &moves);
     [[nodiscard]] double freeWeight() const { return m_freeWeight; }
+    /// How much more usual it is that a line has a row than that it has none.
+    [[nodiscard]] double withoutWeight() const { return m_withoutWeight; }
 
 private:
-    void learn();
+    void learn(const NeighbourLines &lines);
 
     std::vector<int> m_indexes;
     std::vector<int> m_rows;
@@ -50,6 +52,7 @@ private:
     double m_orderWeight = 0;
     double m_sharedWeight = 0;
     double m_freeWeight = 0;
+    double m_withoutWeight = 0;
 };
 
 } // namespace VelkRelease

@@ -112,6 +112,24 @@ std::vector<CellPart> differingParts(QStringView before, QStringView after)
     return parts;
 }
 
+int countLostTokens(QStringView before, QStringView after)
+{
+    if (std::max(before.size(), after.size()) > MaxLength)
+        return 1;
+    const auto textsOf = [](QStringView value) {
+        std::vector<QStringView> texts;
+        for (const Token &token : tokensOf(value))
+            texts.push_back(value.sliced(token.at, token.end - token.at));
+        std::sort(texts.begin(), texts.end());
+        return texts;
+    };
+    const std::vector<QStringView> old = textsOf(before);
+    const std::vector<QStringView> now = textsOf(after);
+    std::vector<QStringView> lost;
+    std::set_difference(old.begin(), old.end(), now.begin(), now.end(), std::back_inserter(lost));
+    return int(lost.size());
+}
+
 std::optional<double> numberOf(QStringView text)
 {
     if (text.isEmpty() || text.size() > 30)

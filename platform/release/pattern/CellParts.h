@@ -29,6 +29,9 @@ struct CellPart
 [[nodiscard]] VELKRELEASE_EXPORT std::vector<CellPart> differingParts(QStringView before,
                                                                       QStringView after);
 
+/// How many of the old value's tokens, as above, the new one does not have.
+[[nodiscard]] VELKRELEASE_EXPORT int countLostTokens(QStringView before, QStringView after);
+
 /// A decimal number with point or comma; nothing for anything else.
 [[nodiscard]] VELKRELEASE_EXPORT std::optional<double> numberOf(QStringView text);
 
