@@ -36,11 +36,18 @@ private Q_SLOTS:
     void combinationOfAnotherTarget_data();
     void combinationOfAnotherTarget();
     void overlappingRanges();
+    void claimsThatAreCounted_data();
+    void claimsThatAreCounted();
+    void sameRangesBehindOthers_data();
     void sameRangesBehindOthers();
     void agreementOfTheTables_data();
     void agreementOfTheTables();
+    void whatIdentifiesLines_data();
+    void whatIdentifiesLines();
     void equalLinesArePairedOff_data();
     void equalLinesArePairedOff();
+    void pairingOffEnds_data();
+    void pairingOffEnds();
     void hiddenLinesAreNotPairedOff();
     void messages_data();
     void messages();
@@ -427,13 +434,45 @@ void tst_PrjMapperCertainty::overlappingRanges()
     QCOMPARE(test.proposals().last(), "0:20");
 }
 
+void tst_PrjMapperCertainty::claimsThatAreCounted_data()
+{
+    QTest::addColumn<int>("equal");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("all") << 16 << "0:17 ok";
+    QTest::newRow("one too many: the lines behind are not known") << 17 << "0:18";
+}
+
+/// One line is in so many ranges, another has a line of its own behind these.
+void tst_PrjMapperCertainty::claimsThatAreCounted()
+{
+    QFETCH(int, equal);
+    QByteArray target = "D,L:r\n";
+    for (int i = 0; i < equal; ++i)
+        target += "M8,1;" + QByteArray::number(100 + i) + '\n';
+    Case test("D,L:r\nM8,1\nM9,7\n", {{"new/a.prj", target + "M9,7\n"}});
+    QTEST(test.proposals().last(), "expected");
+}
+
+void tst_PrjMapperCertainty::sameRangesBehindOthers_data()
+{
+    QTest::addColumn<int>("others");
+    QTest::addColumn<int>("line");
+    QTest::newRow("a few") << 30 << 31;
+    QTest::newRow("as many as are looked through") << 63 << 64;
+    QTest::newRow("one more: the first") << 64 << 1;
+}
+
 void tst_PrjMapperCertainty::sameRangesBehindOthers()
 {
+    QFETCH(int, others);
     QByteArray target = "D,L:r\n";
-    for (int i = 30; i < 60; ++i)
+    for (int i = 30; i < 30 + others; ++i)
         target += "M8,10;20;" + QByteArray::number(i) + '\n';
     Case test("D,L:r\nM8,10;20\n", {{"new/a.prj", target + "M8,10;20\n"}});
-    QCOMPARE(test.proposals(), QStringList{"0:31"});
+    // By its place the line of the table finds it anyway.
+    QCOMPARE(test.proposals().first(), QString("0:%1").arg(others + 1));
+    const PrjMapperLineC line = test.fixture->mapper.createLine(77, test.fixture->varset(1), false);
+    QTEST(line.getTargetLineId(), "line");
 }
 
 void tst_PrjMapperCertainty::agreementOfTheTables_data()
@@ -458,6 +497,52 @@ void tst_PrjMapperCertainty::agreementOfTheTables()
     QTEST(test.proposals().first(), "expected");
 }
 
+void tst_PrjMapperCertainty::whatIdentifiesLines_data()
+{
+    QTest::addColumn<QString>("what");
+    QTest::addColumn<int>("distinct");
+    QTest::addColumn<QString>("expected");
+    for (const char *what : {"source", "target", "designations"}) {
+        QTest::addRow("%s, nine of ten differ", what) << what << 90 << "0:1 ok";
+        QTest::addRow("%s, hardly fewer", what) << what << 89 << "0:1";
+    }
+}
+
+/// The first lines are equal and belong together; the others of both tables are unlike each other.
+/// They are left out of account if the first column or the designation identifies lines.
+void tst_PrjMapperCertainty::whatIdentifiesLines()
+{
+    QFETCH(QString, what);
+    QFETCH(int, distinct);
+    const bool designations = what == "designations";
+    QByteArray source = "a:n,n\n";
+    QByteArray target = source;
+    for (int i = 1; i <= 100; ++i) {
+        // An empty cell: the column does not identify.
+        const bool empty = designations && i == 100;
+        const auto number = [&](int from, const char *repeating) {
+            const int value = what == repeating ? std::min(i, distinct) : i;
+            return empty ? QByteArray() : QByteArray::number(i == 1 ? 1 : from + value);
+        };
+        const auto text = [&](char from, int value) {
+            return from + QByteArray::number(value);
+        };
+        source += number(0, "source") + ',' + text('x', i) + '\n';
+        const int other = designations ? std::min(i, distinct) : i;
+        target += number(1000, "target") + ',' + text(i == 1 ? 'x' : 'y', other) + '\n';
+    }
+    const auto describe = [&](VKTab::TableDescriptor &table) {
+        if (designations)
+            table.lineDesignation = "{n}";
+    };
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", source, describe);
+    catalog.write("new/a.prj", target, describe);
+    MapperFixture fixture(catalog, {"new/a.prj"});
+    fixture.start();
+    QTEST(fixture.proposal(1), "expected");
+}
+
 void tst_PrjMapperCertainty::equalLinesArePairedOff_data()
 {
     QTest::addColumn<QByteArray>("source");
@@ -480,6 +565,27 @@ void tst_PrjMapperCertainty::equalLinesArePairedOff()
     for (QString &proposal : expected)
         proposal = proposal.section(u' ', 0, 0);
     QTEST(expected, "expected");
+}
+
+void tst_PrjMapperCertainty::pairingOffEnds_data()
+{
+    QTest::addColumn<int>("equal");
+    QTest::addColumn<int>("line");
+    QTest::newRow("behind as many as are stepped over") << 999 << 1002;
+    QTest::newRow("behind one more: from the first again") << 1000 << 2;
+}
+
+/// So many lines are equal that nothing but their order is looked at.
+void tst_PrjMapperCertainty::pairingOffEnds()
+{
+    QFETCH(int, equal);
+    const QByteArray lines = QByteArray("M8,5\n").repeated(equal);
+    const QByteArray many = QByteArray("Z,1\n").repeated(20'001);
+    Case test("D,k:n\nM8,5\nX,1\nM8,5\nM8,5\n" + many,
+              {{"new/a.prj", "D,k:n\n" + lines + "X,1\n" + lines + many}});
+    test.fixture->start();
+    QCOMPARE(test.fixture->create(1).getTargetLineId(), 1);
+    QTEST(test.fixture->create(4).getTargetLineId(), "line");
 }
 
 void tst_PrjMapperCertainty::hiddenLinesAreNotPairedOff()
