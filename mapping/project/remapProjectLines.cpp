@@ -17,7 +17,7 @@ void remapProjectLines(const QString &sourcePath, PrjMappingC &mapping, VKTab::C
     std::optional<PProgress> progress;
     VelkRelease::LineSteps steps;
     steps.begin = [&](int lines) {
-        observer.activate(1);
+        observer.activate(PProgressObserverBase::Thread);
         progress.emplace(0, double(lines), 1.0, false, false);
         progress->setText(PString::translate("Zeilen werden neu zugewiesen", "VelkLinkDbGui"));
     };

@@ -28,7 +28,7 @@ void TableMappingWidgetPrivate::remapLines()
     const VKTab::ContentRef table = sourceTable;
     const QVector<VKTab::LineId> lines = table.getLineIdList();
     DefaultObserverDelegate observer;
-    observer.activate(1);
+    observer.activate(PProgressObserverBase::Thread);
     PProgress progress(0, double(lines.size()), 1.0, true, false);
     progress.setText(PString::translate("Zeilen werden neu zugewiesen", "VelkLinkDbGui"));
     const QPointer<TableMappingWidgetPrivate> alive = this; // the progress delivers events

@@ -28,7 +28,7 @@ public:
 private:
     struct ActiveObserver
     {
-        ActiveObserver() { delegate.activate(1); }
+        ActiveObserver() { delegate.activate(PProgressObserverBase::Thread); }
         DefaultObserverDelegate delegate;
     };
 

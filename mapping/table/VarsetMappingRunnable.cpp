@@ -27,7 +27,7 @@ void VarsetMappingRunnable::run()
     std::unique_ptr<ThreadLocalProgressEventCollector> collector;
     if (m_task.accumulator) {
         collector = std::make_unique<ThreadLocalProgressEventCollector>(m_task.accumulator, true);
-        collector->activate(1);
+        collector->activate(PProgressObserverBase::Thread);
     }
     runLines();
 }

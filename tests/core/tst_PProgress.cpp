@@ -353,7 +353,7 @@ private Q_SLOTS:
     void activatingTwiceIsOnce()
     {
         Recorder recorder;
-        recorder.activate(1);
+        recorder.activate(PProgressObserverBase::Thread);
         PProgress(0, 1).done();
         QCOMPARE(recorder.events().size(), 2);
         recorder.deactivate();

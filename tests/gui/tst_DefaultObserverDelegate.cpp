@@ -92,7 +92,7 @@ private Q_SLOTS:
     {
         {
             DefaultObserverDelegate delegate;
-            delegate.activate(1);
+            delegate.activate(PProgressObserverBase::Thread);
             PProgress progress(0, 2, 1.0);
             progress.setText("Zeilen");
             progress.nextStep();
@@ -107,7 +107,7 @@ private Q_SLOTS:
         DefaultObserverDelegate::setTimes(1000000, 0);
         {
             DefaultObserverDelegate delegate;
-            delegate.activate(1);
+            delegate.activate(PProgressObserverBase::Thread);
             PProgress progress(0, 100);
             for (int i = 0; i < 100; ++i)
                 progress.nextStep();
@@ -119,7 +119,7 @@ private Q_SLOTS:
         DefaultObserverDelegate::setTimes(0, 1000000);
         {
             DefaultObserverDelegate delegate;
-            delegate.activate(1);
+            delegate.activate(PProgressObserverBase::Thread);
             PProgress progress(0, 100);
             for (int i = 0; i < 100; ++i)
                 progress.nextStep();
@@ -129,7 +129,7 @@ private Q_SLOTS:
     void staysBetweenOneProgressAndTheNext()
     {
         DefaultObserverDelegate delegate;
-        delegate.activate(1);
+        delegate.activate(PProgressObserverBase::Thread);
         PProgress(0, 1).done();
         PProgress(0, 2).done();
         QCOMPARE(m_display->shown, QStringList({"0/1", "0/2"}));
@@ -140,7 +140,7 @@ private Q_SLOTS:
     void nestedOnesAreShownTogether()
     {
         DefaultObserverDelegate delegate;
-        delegate.activate(1);
+        delegate.activate(PProgressObserverBase::Thread);
         PProgress outer(0, 2);
         {
             PProgress inner(0, 3);
@@ -152,10 +152,10 @@ private Q_SLOTS:
     void delegateInsideAnotherOneLeavesItToThat()
     {
         DefaultObserverDelegate outer;
-        outer.activate(1);
+        outer.activate(PProgressObserverBase::Thread);
         {
             DefaultObserverDelegate inner;
-            inner.activate(1);
+            inner.activate(PProgressObserverBase::Thread);
             QVERIFY(!inner.isActive());
             PProgress(0, 1).done();
         }
@@ -166,7 +166,7 @@ private Q_SLOTS:
     {
         const Outer outer;
         DefaultObserverDelegate delegate;
-        delegate.activate(1);
+        delegate.activate(PProgressObserverBase::Thread);
         PProgress progress(0, 1);
         progress.setText("a");
         progress.nextStep();
@@ -180,7 +180,7 @@ private Q_SLOTS:
                 running.constFirst().cancel->request();
         };
         DefaultObserverDelegate delegate;
-        delegate.activate(1);
+        delegate.activate(PProgressObserverBase::Thread);
         PProgress progress(0, 1000, 1.0, true, false);
         while (!progress.isCanceled() && progress.count() < 1000)
             progress.nextStep();
@@ -191,7 +191,7 @@ private Q_SLOTS:
         bool active = true;
         std::thread([&active] {
             DefaultObserverDelegate delegate;
-            delegate.activate(1);
+            delegate.activate(PProgressObserverBase::Thread);
             active = delegate.isActive();
             PProgress(0, 1).done();
         }).join();
@@ -201,7 +201,7 @@ private Q_SLOTS:
     void progressOfOtherThreadsIsShownByEvents()
     {
         DefaultObserverDelegate delegate;
-        delegate.activate(1);
+        delegate.activate(PProgressObserverBase::Thread);
         const PProgressHandOver handOver;
         std::thread([&handOver] {
             const PProgressHandOver::Receiver receiver(handOver);
@@ -225,7 +225,7 @@ private Q_SLOTS:
         timer.start(0);
         DefaultObserverDelegate::setTimes(1000000, 0);
         DefaultObserverDelegate delegate;
-        delegate.activate(1);
+        delegate.activate(PProgressObserverBase::Thread);
         PProgress progress(0, 10);
         progress.nextStep();
         progress.setText("a");
@@ -250,7 +250,7 @@ private Q_SLOTS:
             timer.start(0);
         }
         DefaultObserverDelegate delegate;
-        delegate.activate(1);
+        delegate.activate(PProgressObserverBase::Thread);
         PProgress progress(0, 10);
         for (int i = 0; i < 10; ++i)
             progress.nextStep();
@@ -265,7 +265,7 @@ private Q_SLOTS:
         const QSignalSpy shortcut(&window.shortcut, &QShortcut::activated);
         {
             DefaultObserverDelegate delegate;
-            delegate.activate(1);
+            delegate.activate(PProgressObserverBase::Thread);
             QTest::mouseClick(&window.button, Qt::LeftButton);
             QTest::keyClicks(&window.edit, "abc");
             QTest::keyClick(window.windowHandle(), Qt::Key_K, Qt::ControlModifier);
@@ -291,7 +291,7 @@ private Q_SLOTS:
         m_display->own = &window.button;
         const QSignalSpy clicked(&window.button, &QPushButton::clicked);
         DefaultObserverDelegate delegate;
-        delegate.activate(1);
+        delegate.activate(PProgressObserverBase::Thread);
         QTest::mouseClick(&window.button, Qt::LeftButton);
         QCOMPARE(clicked.size(), 1);
     }
@@ -313,7 +313,7 @@ private Q_SLOTS:
         window.edit.setFocus();
         DefaultObserverDelegate::setTimes(shown ? 0 : 1000000, 1000000);
         DefaultObserverDelegate delegate;
-        delegate.activate(1);
+        delegate.activate(PProgressObserverBase::Thread);
         PProgress outer(0, 10);
         PProgress progress(0, 10, 1.0, cancellable, false);
         progress.nextStep();
@@ -332,7 +332,7 @@ private Q_SLOTS:
         m_display->own = &window.button;
         window.button.setFocus();
         DefaultObserverDelegate delegate;
-        delegate.activate(1);
+        delegate.activate(PProgressObserverBase::Thread);
         PProgress progress(0, 10, 1.0, true, false);
         progress.nextStep();
         QTest::keyClick(&window.button, Qt::Key_Escape, Qt::ShiftModifier);
@@ -344,7 +344,7 @@ private Q_SLOTS:
     {
         Window window;
         DefaultObserverDelegate delegate;
-        delegate.activate(1);
+        delegate.activate(PProgressObserverBase::Thread);
         PProgress progress(0, 10, 1.0, true, false);
         progress.nextStep();
         QDialog dialog(&window);
@@ -360,7 +360,7 @@ private Q_SLOTS:
     {
         Window window;
         DefaultObserverDelegate delegate;
-        delegate.activate(1);
+        delegate.activate(PProgressObserverBase::Thread);
         QDialog dialog(&window);
         QPushButton ok(&dialog);
         connect(&ok, &QPushButton::clicked, &dialog, &QDialog::accept);
@@ -378,14 +378,14 @@ private Q_SLOTS:
         const QSignalSpy clicked(&button, &QPushButton::clicked);
         QCOMPARE(QApplication::activeModalWidget(), &dialog);
         DefaultObserverDelegate delegate;
-        delegate.activate(1);
+        delegate.activate(PProgressObserverBase::Thread);
         QTest::mouseClick(&button, Qt::LeftButton);
         QCOMPARE(clicked.size(), 0);
     }
     void requestToQuitWaitsForTheEnd()
     {
         auto delegate = std::make_unique<DefaultObserverDelegate>();
-        delegate->activate(1);
+        delegate->activate(PProgressObserverBase::Thread);
         bool stillRunning = false;
         // Hears of the request before the delegate drops it.
         QuitWatch watch([&] {

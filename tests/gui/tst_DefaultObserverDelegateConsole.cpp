@@ -39,7 +39,7 @@ private Q_SLOTS:
         DefaultObserverDelegate::setTimes(0, 0);
         const Counter counter;
         DefaultObserverDelegate delegate;
-        delegate.activate(1);
+        delegate.activate(PProgressObserverBase::Thread);
         QVERIFY(!delegate.isActive());
         PProgress(0, 1).done();
         QCOMPARE(counter.started.load(), 1);
@@ -54,7 +54,7 @@ private Q_SLOTS:
             threads.emplace_back([] {
                 for (int i = 0; i < 200; ++i) {
                     DefaultObserverDelegate delegate;
-                    delegate.activate(1);
+                    delegate.activate(PProgressObserverBase::Thread);
                     PProgress progress(0, 10);
                     for (int step = 0; step < 10; ++step)
                         progress.nextStep();

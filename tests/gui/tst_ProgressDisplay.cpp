@@ -197,7 +197,7 @@ private Q_SLOTS:
         clicker.start(0);
         {
             DefaultObserverDelegate delegate;
-            delegate.activate(1);
+            delegate.activate(PProgressObserverBase::Thread);
             PProgress progress(0, 1e9, 1.0, true, false);
             while (!progress.isCanceled() && progress.count() < 100000)
                 progress.nextStep();

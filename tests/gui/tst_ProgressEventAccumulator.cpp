@@ -177,7 +177,7 @@ private Q_SLOTS:
             int begins = 0;
         } posts;
         ThreadLocalProgressEventCollector collector(&posts, nested);
-        collector.activate(1);
+        collector.activate(PProgressObserverBase::Thread);
         PProgress outer(0, 1);
         PProgress inner(0, 1);
         QTEST(posts.begins, "begins");
@@ -186,7 +186,7 @@ private Q_SLOTS:
     {
         const Recorder outer;
         ThreadLocalProgressEventCollector collector(nullptr, true);
-        collector.activate(1);
+        collector.activate(PProgressObserverBase::Thread);
         PProgress progress(0, 1);
         progress.nextStep();
         QVERIFY(outer.events.isEmpty());
@@ -201,7 +201,7 @@ private Q_SLOTS:
         std::atomic<bool> seen = false;
         {
             DefaultObserverDelegate delegate;
-            delegate.activate(1);
+            delegate.activate(PProgressObserverBase::Thread);
             ProgressEventAccumulator accumulator(0, -1);
             QThreadPool pool;
             display->onShow = [&seen](const QList<PProgressInfo> &) {
@@ -209,7 +209,7 @@ private Q_SLOTS:
             };
             pool.start([&] {
                 ThreadLocalProgressEventCollector collector(&accumulator, true);
-                collector.activate(1);
+                collector.activate(PProgressObserverBase::Thread);
                 PProgress progress(0, 3);
                 progress.setText("Zeile 7");
                 progress.nextStep();

@@ -27,14 +27,26 @@ const QString ImportDescription = QStringLiteral(
     "and printed. What is wrong can be corrected in the descriptor: a later import keeps it. It "
     "also keeps the ids of lines whose key is still there.");
 
+QLatin1String stateName(VelkRelease::TableImport::State state)
+{
+    switch (state) {
+    case VelkRelease::TableImport::State::New:
+        return QLatin1String("new");
+    case VelkRelease::TableImport::State::Changed:
+        return QLatin1String("changed");
+    case VelkRelease::TableImport::State::Unchanged:
+        break;
+    }
+    return QLatin1String("unchanged");
+}
+
 void print(const QString &relative, const VelkRelease::TableImport &table, QTextStream &out)
 {
-    static const char *const states[] = {"new", "changed", "unchanged"};
     const TableDescriptor &descriptor = table.descriptor();
     out << relative << ": " << counted(table.lineCount(), "line");
     if (!descriptor.primaryKey.isEmpty())
         out << ", key " << descriptor.primaryKey.join(QStringLiteral(", "));
-    out << ", " << states[int(table.state())] << '\n';
+    out << ", " << stateName(table.state()) << '\n';
     QStringList columns;
     for (const TableField &field : descriptor.fields) {
         if (field.name != descriptor.lineIdField)

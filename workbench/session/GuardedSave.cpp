@@ -47,13 +47,24 @@ SaveOutcome GuardedSave::run(const ReleaseMappingC &release, const Commit &commi
     // Written into the copy and compared with what was written there.
     const auto text = std::async(std::launch::async, [this] { return m_release.keepText(); });
     QLockFile lock(lockFile(m_file));
-    if (!takeLock(lock) || !examine(options))
-        return m_outcome;
-    text.wait();
-    if (!write(commit))
-        return m_outcome;
-    if (!keepFormer() || !putInPlace())
-        OwnFile::remove(copyFile(m_file));
+    std::optional<Obstacle> obstacle = takeLock(lock);
+    if (!obstacle)
+        obstacle = examine(options);
+    if (!obstacle) {
+        text.wait();
+        obstacle = write(commit);
+    }
+    if (!obstacle) {
+        obstacle = keepFormer();
+        if (!obstacle)
+            obstacle = putInPlace();
+        if (obstacle)
+            OwnFile::remove(copyFile(m_file));
+    }
+    if (obstacle) {
+        m_outcome.result = obstacle->result;
+        m_outcome.text = obstacle->text;
+    }
     return m_outcome;
 }
 
@@ -73,26 +84,28 @@ QString GuardedSave::copyFile(const QString &mappingFile)
     return mappingFile + QStringLiteral(".neu");
 }
 
-bool GuardedSave::takeLock(QLockFile &lock)
+std::optional<GuardedSave::Obstacle> GuardedSave::takeLock(QLockFile &lock)
 {
     const QString name = lockFile(m_file);
     if (OwnFile::place(name) == OwnFile::Place::Other)
-        return end(SaveResult::WriteFailed,
-                   tr("%1 ist keine gewöhnliche Datei und deshalb nicht als Sperre zu gebrauchen. "
-                      "Es wurde nichts geschrieben. Bitte entfernen, was dort steht.")
-                       .arg(name));
+        return Obstacle{
+            SaveResult::WriteFailed,
+            tr("%1 ist keine gewöhnliche Datei und deshalb nicht als Sperre zu gebrauchen. "
+               "Es wurde nichts geschrieben. Bitte entfernen, was dort steht.")
+                .arg(name)};
     if (lock.tryLock(LockWait))
-        return true;
+        return std::nullopt;
     const QString fault = OwnFile::folderFault(m_file);
     if (fault.isEmpty())
-        return end(SaveResult::Busy,
-                   tr("%1 wird gerade von einem anderen Programm gespeichert. Es wurde nichts "
-                      "geschrieben. Bitte gleich noch einmal speichern.")
-                       .arg(m_file));
-    return end(SaveResult::WriteFailed,
-               tr("Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. "
-                  "Bitte Platz schaffen oder unter einem anderen Namen speichern.")
-                   .arg(m_file, fault));
+        return Obstacle{SaveResult::Busy,
+                        tr("%1 wird gerade von einem anderen Programm gespeichert. Es wurde nichts "
+                           "geschrieben. Bitte gleich noch einmal speichern.")
+                            .arg(m_file)};
+    return Obstacle{
+        SaveResult::WriteFailed,
+        tr("Im Ordner von %1 kann nichts angelegt werden (%2). Es wurde nichts geschrieben. "
+           "Bitte Platz schaffen oder unter einem anderen Namen speichern.")
+            .arg(m_file, fault)};
 }
 
 /// Whether the file is still the known one, with this release alone: then there is nothing in it
@@ -105,18 +118,19 @@ bool GuardedSave::isAsKnown()
     return m_before.error.isEmpty() && m_before.state.sameContent(m_known.state);
 }
 
-bool GuardedSave::examine(const SaveOptions &options)
+std::optional<GuardedSave::Obstacle> GuardedSave::examine(const SaveOptions &options)
 {
     m_members = PJsonValue(PJsonValue::Object);
     m_readable = isAsKnown();
     if (m_readable)
-        return true;
+        return std::nullopt;
     m_before = FileContent::of(m_file);
     if (!m_before.error.isEmpty())
-        return end(SaveResult::WriteFailed,
-                   tr("%1 kann nicht gelesen werden (%2). Es wurde nichts geschrieben. Bitte unter "
-                      "einem anderen Namen speichern.")
-                       .arg(m_file, m_before.error));
+        return Obstacle{
+            SaveResult::WriteFailed,
+            tr("%1 kann nicht gelesen werden (%2). Es wurde nichts geschrieben. Bitte unter "
+               "einem anderen Namen speichern.")
+                .arg(m_file, m_before.error)};
     if (m_before.state.exists) {
         QString error;
         m_members = membersOf(m_before.bytes, &error);
@@ -124,12 +138,14 @@ bool GuardedSave::examine(const SaveOptions &options)
         if (!m_readable)
             return examineUnreadable(error, options);
     }
-    return m_before.state.sameContent(m_known.state) || options.overForeignChange ||
-           reportForeignChange();
+    if (m_before.state.sameContent(m_known.state) || options.overForeignChange)
+        return std::nullopt;
+    return foreignChange();
 }
 
 /// The releases that are beyond reach in the file are taken from the backup, if that has them.
-bool GuardedSave::examineUnreadable(const QString &error, const SaveOptions &options)
+std::optional<GuardedSave::Obstacle> GuardedSave::examineUnreadable(const QString &error,
+                                                                    const SaveOptions &options)
 {
     QString ignored;
     const std::optional<QByteArray> backup = OwnFile::read(backupFile(m_file));
@@ -139,43 +155,46 @@ bool GuardedSave::examineUnreadable(const QString &error, const SaveOptions &opt
     m_outcome.fromBackup = m_members.keys();
     m_outcome.fromBackup.removeAll(date());
     if (!options.overUnreadable)
-        return end(SaveResult::Unreadable,
-                   (m_outcome.fromBackup.isEmpty()
-                        ? tr("%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts "
-                             "geschrieben. Beim Speichern wird die vorhandene Datei unter einem "
-                             "Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur "
-                             "diesen Stand enthält.")
-                              .arg(m_file, error)
-                        : tr("%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts "
-                             "geschrieben. Beim Speichern wird die vorhandene Datei unter einem "
-                             "Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen "
-                             "Stände kommen aus der Sicherung %3: %4.")
-                              .arg(m_file, error, backupFile(m_file),
-                                   m_outcome.fromBackup.join(QStringLiteral(", ")))));
+        return Obstacle{
+            SaveResult::Unreadable,
+            (m_outcome.fromBackup.isEmpty()
+                 ? tr("%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts "
+                      "geschrieben. Beim Speichern wird die vorhandene Datei unter einem "
+                      "Namen mit Zeitstempel aufgehoben und eine neue angelegt, die nur "
+                      "diesen Stand enthält.")
+                       .arg(m_file, error)
+                 : tr("%1 ist keine lesbare Mapping-Datei (%2). Es wurde nichts "
+                      "geschrieben. Beim Speichern wird die vorhandene Datei unter einem "
+                      "Namen mit Zeitstempel aufgehoben und eine neue angelegt. Die anderen "
+                      "Stände kommen aus der Sicherung %3: %4.")
+                       .arg(m_file, error, backupFile(m_file),
+                            m_outcome.fromBackup.join(QStringLiteral(", "))))};
     const QString kept = DurableFile::stampedName(m_file, QStringLiteral("unlesbar"));
     QString cause;
     if (!OwnFile::keep(m_file, kept, &cause))
-        return end(SaveResult::BackupFailed,
-                   tr("%1 ist unlesbar und konnte nicht als %2 aufgehoben werden (%3). Es wurde "
-                      "nichts geschrieben. Bitte unter einem anderen Namen speichern.")
-                       .arg(m_file, kept, cause));
+        return Obstacle{
+            SaveResult::BackupFailed,
+            tr("%1 ist unlesbar und konnte nicht als %2 aufgehoben werden (%3). Es wurde "
+               "nichts geschrieben. Bitte unter einem anderen Namen speichern.")
+                .arg(m_file, kept, cause)};
     m_outcome.keptFile = kept;
-    return true;
+    return std::nullopt;
 }
 
-bool GuardedSave::reportForeignChange()
+GuardedSave::Obstacle GuardedSave::foreignChange()
 {
     if (!m_before.state.exists)
-        return end(SaveResult::ForeignChange,
-                   tr("%1 wurde seit dem Öffnen gelöscht oder umbenannt. Beim Speichern wird die "
-                      "Datei neu angelegt und enthält nur diesen Stand (%2). Es wurde noch nichts "
-                      "geschrieben.")
-                       .arg(m_file, date()));
+        return Obstacle{
+            SaveResult::ForeignChange,
+            tr("%1 wurde seit dem Öffnen gelöscht oder umbenannt. Beim Speichern wird die "
+               "Datei neu angelegt und enthält nur diesen Stand (%2). Es wurde noch nichts "
+               "geschrieben.")
+                .arg(m_file, date())};
     MappingFile there;
     m_outcome.onlyOtherReleases =
         there.parse(m_before.bytes, date()) && valueOf(there.release(date())).toByteArray(true) ==
                                                    valueOf(m_known.release).toByteArray(true);
-    return end(
+    return Obstacle{
         SaveResult::ForeignChange,
         (m_outcome.onlyOtherReleases
              ? tr("%1 wurde seit dem Öffnen von jemand anderem geändert, dieser Stand (%2) aber "
@@ -185,30 +204,32 @@ bool GuardedSave::reportForeignChange()
                   "Beim Speichern gehen dessen Änderungen an diesem Stand verloren. Es wurde noch "
                   "nichts geschrieben: trotzdem speichern, unter einem anderen Namen speichern "
                   "oder die Datei neu öffnen."))
-            .arg(m_file, date()));
+            .arg(m_file, date())};
 }
 
-bool GuardedSave::write(const Commit &commit)
+std::optional<GuardedSave::Obstacle> GuardedSave::write(const Commit &commit)
 {
     if (m_before.state.exists) {
         QFile file;
         QString error;
         if (!OwnFile::open(file, m_file, QIODevice::ReadWrite | QIODevice::ExistingOnly, &error))
-            return end(SaveResult::WriteFailed,
-                       tr("%1 kann nicht beschrieben werden (%2). Es wurde nichts geschrieben. "
-                          "Bitte die Schreibrechte prüfen oder unter einem anderen Namen "
-                          "speichern.")
-                           .arg(m_file, error));
+            return Obstacle{
+                SaveResult::WriteFailed,
+                tr("%1 kann nicht beschrieben werden (%2). Es wurde nichts geschrieben. "
+                   "Bitte die Schreibrechte prüfen oder unter einem anderen Namen "
+                   "speichern.")
+                    .arg(m_file, error)};
     }
     const QString fault = fillCopy(commit);
     if (fault.isEmpty())
-        return true;
+        return std::nullopt;
     OwnFile::remove(copyFile(m_file));
-    return end(SaveResult::WriteFailed,
-               tr("%1 wurde nicht gespeichert: %2. Die Datei ist unverändert, die Änderungen sind "
-                  "weiterhin geöffnet. Bitte Platz schaffen und noch einmal speichern oder unter "
-                  "einem anderen Namen speichern.")
-                   .arg(m_file, fault));
+    return Obstacle{
+        SaveResult::WriteFailed,
+        tr("%1 wurde nicht gespeichert: %2. Die Datei ist unverändert, die Änderungen sind "
+           "weiterhin geöffnet. Bitte Platz schaffen und noch einmal speichern oder unter "
+           "einem anderen Namen speichern.")
+            .arg(m_file, fault)};
 }
 
 /// What went wrong, or nothing.
@@ -287,20 +308,21 @@ QString GuardedSave::check(const QByteArray &written) const
     return QString();
 }
 
-bool GuardedSave::keepFormer()
+std::optional<GuardedSave::Obstacle> GuardedSave::keepFormer()
 {
     if (!m_readable)
-        return true;
+        return std::nullopt;
     keepOlder();
     const QString backup = backupFile(m_file);
     QString cause;
     if (!OwnFile::keep(m_file, backup, &cause))
-        return end(SaveResult::BackupFailed,
-                   tr("Die Sicherungskopie %1 konnte nicht angelegt werden (%2). Es wurde nichts "
-                      "geschrieben. Bitte Platz schaffen oder unter einem anderen Namen speichern.")
-                       .arg(backup, cause));
+        return Obstacle{
+            SaveResult::BackupFailed,
+            tr("Die Sicherungskopie %1 konnte nicht angelegt werden (%2). Es wurde nichts "
+               "geschrieben. Bitte Platz schaffen oder unter einem anderen Namen speichern.")
+                .arg(backup, cause)};
     m_outcome.backupFile = backup;
-    return true;
+    return std::nullopt;
 }
 
 /// Each gets the next name; none is missing at any time. The newest one alone is promised, so what
@@ -314,25 +336,26 @@ void GuardedSave::keepOlder() const
     }
 }
 
-bool GuardedSave::putInPlace()
+std::optional<GuardedSave::Obstacle> GuardedSave::putInPlace()
 {
     if (OwnFile::stamp(m_file) != m_before.stamp) {
         m_outcome.backupFile.clear();
-        return end(SaveResult::ForeignChange,
-                   tr("%1 wurde während des Speicherns von jemand anderem geändert. Es wurde "
-                      "nichts geschrieben. Bitte noch einmal speichern.")
-                       .arg(m_file));
+        return Obstacle{SaveResult::ForeignChange,
+                        tr("%1 wurde während des Speicherns von jemand anderem geändert. Es wurde "
+                           "nichts geschrieben. Bitte noch einmal speichern.")
+                            .arg(m_file)};
     }
     QString error;
     if (!OwnFile::rename(copyFile(m_file), m_file, &error))
-        return end(SaveResult::WriteFailed,
-                   tr("%1 wurde nicht gespeichert: %2. Die Datei ist unverändert, die Änderungen "
-                      "sind weiterhin geöffnet. Bitte unter einem anderen Namen speichern.")
-                       .arg(m_file, error));
+        return Obstacle{
+            SaveResult::WriteFailed,
+            tr("%1 wurde nicht gespeichert: %2. Die Datei ist unverändert, die Änderungen "
+               "sind weiterhin geöffnet. Bitte unter einem anderen Namen speichern.")
+                .arg(m_file, error)};
     OwnFile::syncFolder(m_file);
     m_saved.state.time = QDateTime::currentDateTimeUtc();
     noteIdentity();
-    return true;
+    return std::nullopt;
 }
 
 /// The renaming has changed it; anything else would be somebody who was quicker.
@@ -344,11 +367,4 @@ void GuardedSave::noteIdentity()
     const QByteArray stamp = OwnFile::stamp(m_file);
     if (!stamp.isEmpty() && identity.startsWith(stamp) && m_copyIdentity.startsWith(stamp))
         m_saved.identity = identity;
-}
-
-bool GuardedSave::end(SaveResult result, const QString &text)
-{
-    m_outcome.result = result;
-    m_outcome.text = text;
-    return false;
 }

@@ -11,6 +11,7 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 
 class QLockFile;
 
@@ -56,21 +57,28 @@ public:
     static constexpr int LockWait = 3000;
 
 private:
-    [[nodiscard]] bool takeLock(QLockFile &lock);
-    [[nodiscard]] bool examine(const SaveOptions &options);
+    /// Why the saving ends at a step; none: it goes on.
+    struct Obstacle
+    {
+        SaveResult result;
+        QString text;
+    };
+
+    [[nodiscard]] std::optional<Obstacle> takeLock(QLockFile &lock);
+    [[nodiscard]] std::optional<Obstacle> examine(const SaveOptions &options);
     [[nodiscard]] bool isAsKnown();
-    [[nodiscard]] bool examineUnreadable(const QString &error, const SaveOptions &options);
-    [[nodiscard]] bool reportForeignChange();
-    [[nodiscard]] bool write(const Commit &commit);
+    [[nodiscard]] std::optional<Obstacle> examineUnreadable(const QString &error,
+                                                            const SaveOptions &options);
+    [[nodiscard]] Obstacle foreignChange();
+    [[nodiscard]] std::optional<Obstacle> write(const Commit &commit);
     [[nodiscard]] QString fillCopy(const Commit &commit);
     [[nodiscard]] PJsonValue expected() const;
     [[nodiscard]] QString readBack(const QString &copy);
     [[nodiscard]] QString check(const QByteArray &written) const;
-    [[nodiscard]] bool keepFormer();
+    [[nodiscard]] std::optional<Obstacle> keepFormer();
     void keepOlder() const;
-    [[nodiscard]] bool putInPlace();
+    [[nodiscard]] std::optional<Obstacle> putInPlace();
     void noteIdentity();
-    [[nodiscard]] bool end(SaveResult result, const QString &text);
     [[nodiscard]] QString date() const { return m_release.getSourceDate(); }
 
     const QString m_file;
