@@ -17,6 +17,7 @@ private Q_SLOTS:
     void looksAsTheStyleDraws_data();
     void looksAsTheStyleDraws();
     void textsFollowTheirFontAndRoom();
+    void rangesLookLikeLinks();
 
 private:
     [[nodiscard]] QStyleOptionViewItem optionOf(int width) const;
@@ -133,6 +134,32 @@ void tst_TableDelegate::textsFollowTheirFontAndRoom()
             }
         }
     }
+}
+
+/// Alone in their colour, by which they are seen to open a list of values.
+void tst_TableDelegate::rangesLookLikeLinks()
+{
+    makeView();
+    QStyleOptionViewItem option = optionOf(180);
+    option.palette.setColor(QPalette::Text, Qt::black);
+    option.palette.setColor(QPalette::Link, Qt::red);
+    const VkTableModel &model = *m_view->model();
+    int ranges = 0;
+    for (int column = model.statusColumnCount(); column < model.columnCount(); ++column) {
+        const QModelIndex cell = model.index(1, column);
+        const bool isRange = !cell.data(VkTableModel::RangeRole).toString().isEmpty();
+        const QImage picture = drawn(cell, option);
+        bool hasRed = false;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                const QColor pixel = picture.pixelColor(x, y);
+                hasRed = hasRed || pixel.red() > pixel.green() + 100;
+            }
+        }
+        QVERIFY2(hasRed == isRange, qPrintable(cell.data().toString()));
+        ranges += isRange ? 1 : 0;
+    }
+    QVERIFY(ranges > 0);
 }
 
 QTEST_MAIN(tst_TableDelegate)

@@ -72,6 +72,10 @@ void tst_MappingDocument::opensARelease()
     QVERIFY(m_document->conflictedProjects().isEmpty());
     QVERIFY(QFile::exists(m_document->journalFile()));
     QVERIFY(!QFile::exists(m_document->autosaveFile()));
+    m_document->close();
+    QVERIFY(!m_document->isOpen());
+    QCOMPARE(m_document->rootName(), QString());
+    QCOMPARE(m_document->counts().lines(), 0);
 }
 
 void tst_MappingDocument::opensTheLastReleaseUnlessAskedForAnother()

@@ -170,6 +170,11 @@ void tst_Help::contentsAndFind()
     const int place = text->textCursor().position();
     QTest::keyClick(find, Qt::Key_Return);
     QCOMPARE(text->textCursor().position(), place); // round and back
+    // Side by side.
+    QVERIFY(contents->isVisible() && text->isVisible());
+    const QRect left(contents->mapTo(&help, QPoint()), contents->size());
+    const QRect right(text->mapTo(&help, QPoint()), text->size());
+    QVERIFY(left.width() > 50 && right.width() > 50 && left.right() < right.left());
 }
 
 /// A row has a word in both languages and says what it is; the words are in order.
