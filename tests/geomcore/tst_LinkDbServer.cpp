@@ -1,6 +1,7 @@
 #include "../support/PostgresServer.h"
 
 #include <core/message/PMessage.h>
+#include <core/message/PScriptedMessageSink.h>
 #include <core/progress/PProgress.h>
 #include <geomcore/linkdb/PLinkDbC.h>
 #include <geomcore/linkdb/PLinkDbQueryCacheC.h>
@@ -15,15 +16,6 @@
 Q_DECLARE_METATYPE(LinkDbSettings)
 
 namespace {
-
-class QuietSink : public PMessageSink
-{
-public:
-    PMsgReply show(const QString &, PMsgDlgModes) override { return PMsgReply::Ok; }
-    void logToWindow(const QString &text) override { logged.append(text); }
-
-    QStringList logged;
-};
 
 /// The tables as versions 1 and 2 made them.
 const QStringList &tablesOfVersion1()
@@ -125,7 +117,7 @@ private:
 
     std::unique_ptr<PostgresServer> m_server;
     std::unique_ptr<QTemporaryDir> m_folder;
-    std::shared_ptr<QuietSink> m_sink;
+    std::shared_ptr<PScriptedMessageSink> m_sink;
     std::unique_ptr<PMessageSinkScope> m_scope;
 };
 
@@ -140,7 +132,7 @@ void tst_LinkDbServer::initTestCase()
 void tst_LinkDbServer::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
-    m_sink = std::make_shared<QuietSink>();
+    m_sink = std::make_shared<PScriptedMessageSink>();
     m_scope = std::make_unique<PMessageSinkScope>(m_sink);
 }
 
@@ -190,6 +182,11 @@ void tst_LinkDbServer::addresses_data()
     QTest::newRow("all") << "postgresql://anna@db.example:5433/links?sslmode=verify-full"
                          << server("db.example", 5433, "links", "anna", "verify-full")
                          << "postgresql://anna@db.example:5433/links?sslmode=verify-full";
+    LinkDbSettings impatient = server("db", 0, "links", "", "require");
+    impatient.connectSeconds = 1;
+    QTest::newRow("patience") << "postgresql://db/links?connect_timeout=1&sslmode=require"
+                              << impatient
+                              << "postgresql://db/links?sslmode=require&connect_timeout=1";
     QTest::newRow("short scheme") << "postgres://db/links" << server("db", 0, "links", "")
                                   << "postgresql://db/links";
     QTest::newRow("socket") << "postgresql:///links?host=/run/pg&port=5433&user=anna"
@@ -221,6 +218,8 @@ void tst_LinkDbServer::wrongAddresses_data()
                                   << "keine Adresse";
     QTest::newRow("other scheme") << "mysql://db/links"
                                   << "keine Adresse";
+    QTest::newRow("no patience") << "postgresql://db/links?connect_timeout=0"
+                                 << "keine Adresse";
     QTest::newRow("no database") << "postgresql://db"
                                  << "keine Adresse";
     QTest::newRow("password") << "postgresql://anna:secret@db/links"
@@ -353,9 +352,9 @@ void tst_LinkDbServer::lostWhileIdle()
     const PRefPtr<PLinkDbC> linkDb = opened(m_server->newDatabase());
     m_server->endConnections();
     QCOMPARE(documents(*linkDb), 0);
-    QCOMPARE(m_sink->logged.size(), 2);
-    QVERIFY(m_sink->logged.at(0).contains("ist abgebrochen"));
-    QVERIFY(m_sink->logged.at(1).endsWith("besteht wieder"));
+    QCOMPARE(m_sink->logged().size(), 2);
+    QVERIFY(m_sink->logged().at(0).contains("ist abgebrochen"));
+    QVERIFY(m_sink->logged().at(1).endsWith("besteht wieder"));
     m_server->endConnections();
     QVERIFY(insert(*linkDb, "a"));
     QVERIFY(linkDb->commit());
@@ -365,9 +364,9 @@ void tst_LinkDbServer::lostWhileIdle()
     QVERIFY(linkDb->rollback());
     for (const int expected : {1, 2}) {
         m_server->endConnections();
-        m_sink->logged.clear();
+        m_sink->clear();
         QCOMPARE(documents(*linkDb), expected);
-        QVERIFY(!m_sink->logged.at(0).contains("Anweisungen"));
+        QVERIFY(!m_sink->logged().at(0).contains("Anweisungen"));
         QVERIFY(linkDb->commit());
         QVERIFY(insert(*linkDb, QString::number(expected)) && linkDb->commit());
     }
@@ -382,7 +381,7 @@ void tst_LinkDbServer::lostWithChanges()
     // What is pending went along: nothing is read as if it were there.
     QVERIFY(!linkDb->executeSelectStatement("SELECT * FROM plm_document")->isValid());
     QVERIFY(linkDb->lastError().lost);
-    QVERIFY(m_sink->logged.at(0).contains("(Anweisungen: 2)"));
+    QVERIFY(m_sink->logged().at(0).contains("(Anweisungen: 2)"));
     QCOMPARE(documents(*linkDb), 0);
     QVERIFY(!linkDb->commit());
     QVERIFY(linkDb->lastError().text.contains("verloren"));
@@ -475,7 +474,8 @@ void tst_LinkDbServer::passwords()
     QVERIFY(linkDb.open(settings, "secret"));
     m_server->endConnections();
     QCOMPARE(documents(linkDb), 0);
-    for (const QString &text : std::as_const(m_sink->logged))
+    const QStringList logged = m_sink->logged();
+    for (const QString &text : logged)
         QVERIFY(!text.contains("secret"));
 }
 
@@ -556,7 +556,7 @@ void tst_LinkDbServer::cancelsStatement()
     QVERIFY(!linkDb->executeSelectStatement(endless)->isValid());
     QVERIFY(linkDb->lastError().cancelled);
     QVERIFY(time.elapsed() < 30'000);
-    QVERIFY(m_sink->logged.isEmpty());
+    QVERIFY(m_sink->logged().isEmpty());
     progress.done();
     // What was pending is still there, and other statements run.
     QVERIFY(linkDb->isPending());
@@ -643,8 +643,8 @@ void tst_LinkDbServer::unansweredStatementIsGivenUp()
     QVERIFY(linkDb.lastError().lost && linkDb.lastError().cancelled);
     QVERIFY2(linkDb.lastError().text.contains("antwortet nicht"),
              qPrintable(linkDb.lastError().text));
-    QVERIFY(m_sink->logged.last().contains("antwortet nicht"));
-    QVERIFY(m_sink->logged.last().endsWith("(Anweisungen: 1)."));
+    QVERIFY(m_sink->logged().last().contains("antwortet nicht"));
+    QVERIFY(m_sink->logged().last().endsWith("(Anweisungen: 1)."));
     QVERIFY(!linkDb.isOpen());
     QVERIFY(!linkDb.isPending());
     QVERIFY(PLinkDbC::isThreadLeft());
@@ -672,7 +672,7 @@ void tst_LinkDbServer::unansweredCommitIsUncertain()
     QVERIFY(!linkDb.commit());
     progress.done();
     QVERIFY2(linkDb.lastError().text.contains("ungewiss"), qPrintable(linkDb.lastError().text));
-    QVERIFY(!m_sink->logged.last().contains("Anweisungen"));
+    QVERIFY(!m_sink->logged().last().contains("Anweisungen"));
     m_server->resume();
     QVERIFY(linkDb.commit()); // of nothing
     QTRY_VERIFY_WITH_TIMEOUT(!PLinkDbC::isThreadLeft(), 20'000);

@@ -27,6 +27,7 @@ LinkDbBox::LinkDbBox(const QString &address, const QString &standardFile, QWidge
     setObjectName("linkDb");
     setCheckable(true);
     const LinkDbSettings settings = LinkDbSettings::fromText(address);
+    m_connectSeconds = settings.connectSeconds;
     setChecked(!address.isEmpty());
     m_kind->setObjectName("linkDbKind");
     m_kind->addItem(tr("Datei auf diesem Rechner"), OfFile);
@@ -98,6 +99,7 @@ QString LinkDbBox::address() const
         settings.database = m_database->text().trimmed();
         settings.user = m_user->text().trimmed();
         settings.sslMode = m_encryption->currentData().toString();
+        settings.connectSeconds = m_connectSeconds;
     }
     return settings.toText();
 }

@@ -38,5 +38,6 @@ private:
     QLineEdit *const m_database;
     QLineEdit *const m_user;
     QComboBox *const m_encryption;
+    int m_connectSeconds = 0; ///< has no field
     QList<QWidget *> m_ofServer;
 };

@@ -40,7 +40,10 @@ LinkDbSettings fromUrl(const QString &text, QString &problem)
                         ? query.queryItemValue(QStringLiteral("user"), QUrl::FullyDecoded)
                         : url.userName(QUrl::FullyDecoded);
     settings.sslMode = query.queryItemValue(QStringLiteral("sslmode"));
-    if (!url.isValid() || settings.database.isEmpty() || settings.database.contains(u'/'))
+    if (query.hasQueryItem(QStringLiteral("connect_timeout")))
+        settings.connectSeconds = query.queryItemValue(QStringLiteral("connect_timeout")).toInt();
+    if (settings.connectSeconds < 1 || !url.isValid() || settings.database.isEmpty() ||
+        settings.database.contains(u'/'))
         problem = unknownAddress(text);
     else if (!url.password().isEmpty())
         problem = PString::translate("In der Adresse der Linkdatenbank steht ein Kennwort. Es "
@@ -104,6 +107,8 @@ QString LinkDbSettings::toText() const
     url.setPath(u'/' + database, QUrl::DecodedMode);
     if (!sslMode.isEmpty())
         query.addQueryItem(QStringLiteral("sslmode"), sslMode);
+    if (connectSeconds != LinkDbSettings().connectSeconds)
+        query.addQueryItem(QStringLiteral("connect_timeout"), QString::number(connectSeconds));
     if (!query.isEmpty())
         url.setQuery(query);
     return url.toString(QUrl::FullyEncoded);

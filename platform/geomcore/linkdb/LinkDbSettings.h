@@ -10,7 +10,8 @@
 ///
 /// As a text: "sqlite:FILE", or the path of a file alone, or
 /// "postgresql://[USER@][HOST][:PORT]/DATABASE[?sslmode=MODE]" with the modes of PostgreSQL. The
-/// folder of a local socket goes as "?host=FOLDER", with "port" and "user" beside it.
+/// folder of a local socket goes as "?host=FOLDER", with "port" and "user" beside it, and the time
+/// to wait for a server as "?connect_timeout=SECONDS".
 struct VELKGEOMCORE_EXPORT LinkDbSettings
 {
     enum class Kind { None, SQLite, PostgreSQL };

@@ -160,6 +160,7 @@ void tst_LinkDb::settingsOfTheBox_data()
     QTest::newRow("file") << "sqlite:/a b/c.db";
     QTest::newRow("server") << "postgresql://anna@db.example:5433/links?sslmode=verify-full";
     QTest::newRow("socket") << "postgresql:///links?host=/run/pg&user=anna";
+    QTest::newRow("patience") << "postgresql://db.example/links?connect_timeout=3";
 }
 
 void tst_LinkDb::settingsOfTheBox()
@@ -531,7 +532,8 @@ void tst_LinkDb::connectWithDocument(WindowFixture &fixture)
     if (!m_server)
         m_server = std::make_unique<PostgresServer>();
     QVERIFY2(m_server->isRunning(), qPrintable(m_server->problem()));
-    setAddress(fixture, m_server->newDatabase());
+    // What does not answer when it was called off is waited for no longer than this.
+    setAddress(fixture, m_server->newDatabase() + "&connect_timeout=1");
     QTRY_COMPARE_WITH_TIMEOUT(fixture.window->linkDb()->state(), LinkDbHost::Connected, 20'000);
     addDocument(fixture, "N1", 3);
     const QString version = readProjectVersion(WindowFixture::roots().source + '/' + din933);
