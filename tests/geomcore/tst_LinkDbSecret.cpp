@@ -1,6 +1,7 @@
 #include "../support/PostgresServer.h"
 
 #include <core/message/PMessage.h>
+#include <core/message/PScriptedMessageSink.h>
 #include <geomcore/linkdb/PLinkDbC.h>
 
 #include <QDir>
@@ -12,15 +13,6 @@
 namespace {
 
 constexpr int patienceMs = 20'000;
-
-class QuietSink : public PMessageSink
-{
-public:
-    PMsgReply show(const QString &, PMsgDlgModes) override { return PMsgReply::Ok; }
-    void logToWindow(const QString &text) override { logged.append(text); }
-
-    QStringList logged;
-};
 
 /// A session of the desktop without a display: a message bus and a secret store of its own, which
 /// end with it. For this process and its children.
@@ -119,7 +111,7 @@ void tst_LinkDbSecret::passwordOfTheStore()
     const LinkDbSettings settings = LinkDbSettings::fromText(server.loopbackAddress("postgres"));
     const Session session;
     QVERIFY2(session.problem.isEmpty(), qPrintable(session.problem));
-    const auto sink = std::make_shared<QuietSink>();
+    const auto sink = std::make_shared<PScriptedMessageSink>();
     const PMessageSinkScope scope(sink);
     PLinkDbC linkDb;
     // Of another host or another user.
@@ -135,7 +127,8 @@ void tst_LinkDbSecret::passwordOfTheStore()
     // A new connection asks anew.
     server.endConnections();
     QCOMPARE(linkDb.executeCountStatement("SELECT COUNT(*) FROM plm_document"), 0);
-    for (const QString &text : std::as_const(sink->logged))
+    const QStringList logged = sink->logged();
+    for (const QString &text : logged)
         QVERIFY(!text.contains("secret"));
 }
 

@@ -2,6 +2,7 @@
 #include "../support/TestCatalog.h"
 
 #include <core/message/PMessage.h>
+#include <core/message/PScriptedMessageSink.h>
 #include <geomcore/table/readProjectTable.h>
 #include <geomcore/table/TabOptions.h>
 
@@ -10,19 +11,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QTest>
-
-namespace {
-
-class LogSink : public PMessageSink
-{
-public:
-    PMsgReply show(const QString &, PMsgDlgModes) override { return PMsgReply::Ok; }
-    void logToWindow(const QString &text) override { logged.append(text); }
-
-    QStringList logged;
-};
-
-} // namespace
 
 class tst_readProjectTable : public QObject
 {
@@ -160,19 +148,19 @@ void tst_readProjectTable::takesOptions()
 
 void tst_readProjectTable::tellsOnce()
 {
-    const auto sink = std::make_shared<LogSink>();
+    const auto sink = std::make_shared<PScriptedMessageSink>();
     const auto former = PMessage::setSink(sink);
     const TestCatalog catalog;
     catalog.write("cat/a.prj", "A:r\n1..\n");
     VKTab::Content table;
     const auto read = [&](bool tells) {
-        sink->logged.clear();
+        sink->clear();
         (void)VKTab::readProjectTable(catalog.file("cat/a.prj"), table, {.tells = tells});
-        return sink->logged.size();
+        return sink->logged().size();
     };
     QCOMPARE(read(false), 0);
     QCOMPARE(read(true), 1);
-    QVERIFY(sink->logged.first().startsWith(catalog.file("cat/a.csv") + ": row 2, column 1: "));
+    QVERIFY(sink->logged().first().startsWith(catalog.file("cat/a.csv") + ": row 2, column 1: "));
     QCOMPARE(read(true), 0);
     catalog.write("cat/a.prj", "A:r\n1..\n2..\n");
     QCOMPARE(read(true), 2);

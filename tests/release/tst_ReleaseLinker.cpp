@@ -2,6 +2,7 @@
 #include "../support/TestCatalog.h"
 
 #include <core/message/PMessage.h>
+#include <core/message/PScriptedMessageSink.h>
 #include <geomcore/linkdb/PLinkDbQueryCacheC.h>
 #include <release/link/ReleaseLinker.h>
 
@@ -15,13 +16,6 @@ using namespace VelkRelease;
 using Outcome = LinkWriter::Outcome;
 
 namespace {
-
-class SilentSink : public PMessageSink
-{
-public:
-    PMsgReply show(const QString &, PMsgDlgModes) override { return PMsgReply::Ok; }
-    void logToWindow(const QString &) override {}
-};
 
 /// Of a project whose lines 1 to \a lines are confirmed, line n to n + 1000.
 PrjMappingC mappingOfLines(const QString &path, int lines)
@@ -87,7 +81,7 @@ private:
 
     std::unique_ptr<PostgresServer> m_server;
     std::unique_ptr<QTemporaryDir> m_folder;
-    const PMessageSinkScope m_silence{std::make_shared<SilentSink>()};
+    const PMessageSinkScope m_silence{std::make_shared<PScriptedMessageSink>()};
     const std::atomic<bool> m_no = false;
 };
 

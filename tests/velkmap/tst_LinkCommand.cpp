@@ -3,6 +3,7 @@
 
 #include <core/json/PJsonValue.h>
 #include <core/message/PMessage.h>
+#include <core/message/PScriptedMessageSink.h>
 #include <geomcore/linkdb/PLinkDbC.h>
 #include <geomcore/linkdb/PLinkDbQueryCacheC.h>
 #include <geomcore/records/MappingFile.h>
@@ -21,13 +22,6 @@
 using velkmap::ExitStatus;
 
 namespace {
-
-class SilentSink : public PMessageSink
-{
-public:
-    PMsgReply show(const QString &, PMsgDlgModes) override { return PMsgReply::Ok; }
-    void logToWindow(const QString &) override {}
-};
 
 constexpr int projectsOfLargeRun = 50;
 constexpr int linesOfProject = 2000;
@@ -91,7 +85,7 @@ private:
 
     std::unique_ptr<PostgresServer> m_server;
     std::unique_ptr<QTemporaryDir> m_folder;
-    const PMessageSinkScope m_silence{std::make_shared<SilentSink>()};
+    const PMessageSinkScope m_silence{std::make_shared<PScriptedMessageSink>()};
 };
 
 void tst_LinkCommand::initTestCase()
