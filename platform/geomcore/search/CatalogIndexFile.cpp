@@ -113,7 +113,11 @@ bool CatalogIndexFile::run(const QString &sql)
 
 bool CatalogIndexFile::run(QSqlQuery &query)
 {
-    return query.exec() || note(query.lastError());
+    if (query.exec())
+        return true;
+    // Of a query that could not be prepared it is known why.
+    const QSqlError error = query.lastError();
+    return error.nativeErrorCode().isEmpty() && !m_errorText.isEmpty() ? false : note(error);
 }
 
 QSqlQuery CatalogIndexFile::prepared(const QString &sql)
