@@ -49,6 +49,7 @@ private Q_SLOTS:
     void treeTableAndCounterFollow();
     void combinedAndNot();
     void rowsKeepTheirPlaces();
+    void rowsGoWithTheRelease();
     void statesAreTheSwitches();
     void nothingFits();
     void givesWay();
@@ -259,6 +260,23 @@ void tst_FilterDock::rowsKeepTheirPlaces()
     QCOMPARE(texts(), before);
     QCOMPARE(number(fixture, LineTrait::Difference, "(nichts davon)"), hits(fixture));
     QVERIFY(list(fixture)->currentItem() == notFound);
+}
+
+/// Who worked on a file that is closed, and what differs in it, says nothing of the next one.
+void tst_FilterDock::rowsGoWithTheRelease()
+{
+    const WindowFixture &fixture = anew();
+    const auto rowsOf = [&](LineTrait trait) {
+        return list(fixture)->topLevelItem(int(trait))->childCount();
+    };
+    QVERIFY(item(fixture, LineTrait::Difference, "(nichts davon)"));
+    const int states = rowsOf(LineTrait::State);
+    QVERIFY(rowsOf(LineTrait::Author) > 1);
+    fixture.action("fileClose")->trigger();
+    QVERIFY(!filters(fixture)->work()->isKnown());
+    QTRY_VERIFY(!item(fixture, LineTrait::Difference, "(nichts davon)"));
+    QCOMPARE(rowsOf(LineTrait::Author), 1); // "not"
+    QCOMPARE(rowsOf(LineTrait::State), states);
 }
 
 void tst_FilterDock::statesAreTheSwitches()

@@ -18,6 +18,7 @@
 
 #include <QAbstractItemModelTester>
 #include <QAction>
+#include <QHeaderView>
 #include <QKeySequenceEdit>
 #include <QLabel>
 #include <QLineEdit>
@@ -216,7 +217,7 @@ void tst_Locator::linesOfATable()
         thread = QThread::currentThread();
         return LocatorLines{.project = {"here.prj", "v1", {}},
                             .numbers = {7, 17, 70},
-                            .names = {"M8", "M10", "M8 long"}};
+                            .names = {"M8 longest of all", "M10", "M8 long"}};
     });
     QCOMPARE(times, 0);
     QSignalSpy found(&search, &LocatorSearch::found);
@@ -230,11 +231,15 @@ void tst_Locator::linesOfATable()
         }
         return lines;
     };
-    QCOMPARE(linesAt(0), (QList<int>{7, 70}));
+    QCOMPARE(linesAt(0), (QList<int>{70, 7}));
     QCOMPARE(found.at(0).at(0).value<LocatorHits>().count, 3);
     search.find("7");
     QVERIFY(found.wait());
+    // The line of that number first, however long its name.
     QCOMPARE(linesAt(1), (QList<int>{7, 70, 17}));
+    search.find("07");
+    QVERIFY(found.wait());
+    QVERIFY(linesAt(2).isEmpty());
     QCOMPARE(times, 1);
     QVERIFY(thread != QThread::currentThread());
 }
@@ -654,6 +659,13 @@ void tst_Locator::keysAreFiltered()
         return names;
     };
     QVERIFY(shown().size() > 50);
+    // Places and keys have the room that they need, names the rest.
+    const QHeaderView *const header = list->header();
+    for (const int column : {1, 2}) {
+        const QAbstractItemView *const view = list;
+        QCOMPARE(header->sectionSize(column),
+                 std::max(view->sizeHintForColumn(column), header->sectionSizeHint(column)));
+    }
     auto *const filter = dialog.findChild<QLineEdit *>("keysFilter");
     QTest::keyClicks(filter, "zeile gehe");
     QCOMPARE(shown(), QStringList{"Gehe zu Zeile"});

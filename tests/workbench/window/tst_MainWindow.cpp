@@ -138,10 +138,19 @@ private Q_SLOTS:
                          [&] { QTimer::singleShot(0, [&turned] { turned = true; }); });
         QObject::connect(fixture.window->editor(), &EditorArea::projectSelected,
                          [&] { turnedBefore = turnedBefore.value_or(turned); });
+        // What is laid out in one turn is painted after the next one.
+        QList<bool> paints;
+        QObject::connect(fixture.window->editor(), &EditorArea::projectSelected, [&] {
+            if (!paints.isEmpty())
+                return;
+            paints << fixture.window->editor()->updatesEnabled();
+            QTimer::singleShot(0, [&] { paints << fixture.window->editor()->updatesEnabled(); });
+        });
         fixture.open(file);
         QCOMPARE(fixture.window->editor()->currentPath(), project);
         QCOMPARE(fixture.window->editor()->currentLine(), 5);
         QCOMPARE(turnedBefore, std::optional(true));
+        QCOMPARE(paints, (QList<bool>{false, false}));
         QVERIFY(fixture.window->editor()->updatesEnabled());
     }
 
