@@ -1,6 +1,9 @@
 #include "IndexedCatalog.h"
 
 #include <QDir>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
 #include <QTest>
 
 #include <atomic>
@@ -217,6 +220,25 @@ private Q_SLOTS:
         // What was no index of ours is still there.
         const QStringList aside = QFileInfo(catalog.index).dir().entryList({"*.broken-*"});
         QCOMPARE(aside.size(), content.startsWith("no database") ? 1 : 0);
+    }
+
+    /// It is in order, but not as this program makes it: what is in it is not said to be all.
+    void indexWithoutATable()
+    {
+        const IndexedCatalog catalog;
+        catalog.write("cat/a.prj", "Name\nneedle\n");
+        QCOMPARE(catalog.update().state, Outcome::Done);
+        {
+            QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE", "other program");
+            database.setDatabaseName(catalog.index);
+            QVERIFY(database.open());
+            QSqlQuery query(database);
+            QVERIFY2(query.exec("DROP TABLE dirs"), qPrintable(query.lastError().text()));
+        }
+        QSqlDatabase::removeDatabase("other program");
+        const Outcome outcome = catalog.update();
+        QCOMPARE(outcome.state, Outcome::Failed);
+        QVERIFY2(outcome.errorText.contains("dirs"), qPrintable(outcome.errorText));
     }
 
     void indexOfAnotherRootIsMadeAnew()
