@@ -1,8 +1,11 @@
 #include <workbench/session/BackgroundWork.h>
 
+#include <QAbstractEventDispatcher>
 #include <QTest>
 #include <QThread>
 #include <QTimer>
+
+#include <functional>
 
 class tst_BackgroundWork : public QObject
 {
@@ -10,6 +13,7 @@ class tst_BackgroundWork : public QObject
 
 private Q_SLOTS:
     void runsBesideTheLoop();
+    void letsShowUntilTheLoopWaits();
 };
 
 void tst_BackgroundWork::runsBesideTheLoop()
@@ -23,6 +27,25 @@ void tst_BackgroundWork::runsBesideTheLoop()
     });
     QVERIFY(worker && worker != QThread::currentThread());
     QVERIFY(isServed);
+}
+
+/// Not only for a moment: each piece of work here asks for the next one, and takes longer than
+/// that.
+void tst_BackgroundWork::letsShowUntilTheLoopWaits()
+{
+    int pieces = 0;
+    const std::function<void()> piece = [&] {
+        QThread::msleep(2);
+        if (++pieces < 5)
+            QMetaObject::invokeMethod(this, piece, Qt::QueuedConnection);
+    };
+    int waits = 0;
+    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+            [&waits] { ++waits; });
+    QMetaObject::invokeMethod(this, piece, Qt::QueuedConnection);
+    BackgroundWork::letShow();
+    QCOMPARE(pieces, 5);
+    QVERIFY(waits > 0);
 }
 
 QTEST_GUILESS_MAIN(tst_BackgroundWork)

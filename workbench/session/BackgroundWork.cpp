@@ -60,15 +60,14 @@ void BackgroundWork::letShow()
         return;
     QEventLoop loop;
     QTimer end;
-    QObject::connect(&end, &QTimer::timeout, &loop, &QEventLoop::quit);
-    end.start(Patience); // whoever always has something to do never waits
-    // When all that follows from each other is done, the loop waits.
-    QObject::connect(
-        QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, &loop,
-        [&end] {
-            if (end.intervalAsDuration() == Patience)
-                end.start(1);
-        },
-        Qt::DirectConnection);
+    end.setSingleShot(true);
+    QTimer limit; // whoever always has something to do never waits
+    for (const QTimer *const timer : {&end, &limit})
+        QObject::connect(timer, &QTimer::timeout, &loop, &QEventLoop::quit);
+    limit.start(Patience);
+    // When all that follows from each other is done, the loop waits. Some dispatchers tell so
+    // before each of their steps.
+    QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
+                     &end, [&end] { end.start(1); });
     loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
