@@ -18,10 +18,13 @@ public:
     /// What becomes of the rows of long and of empty tables.
     struct Rows
     {
-        int most = -1;                      ///< -1: all
-        QString nothing;                    ///< instead of rows if there are none
-        QString more;                       ///< "and %1 more"
-        std::function<QString(int)> number; ///< a count for people
+        int most = -1;   ///< -1: all
+        QString nothing; ///< instead of rows if there are none
+        QString more;    ///< "and %1 more"
+        /// A count for people.
+        std::function<QString(int)> number = [](int count) {
+            return QString::number(count);
+        };
     };
     explicit HtmlPage(const Rows &rows);
 
