@@ -9,6 +9,7 @@
 #include <cmath>
 #include <map>
 #include <optional>
+#include <set>
 #include <utility>
 
 namespace VelkRelease {
@@ -54,8 +55,7 @@ Shown shownBy(const SharedChanges::Tables &tables)
 }
 
 /// Lines with one of the old values, of those whose new line is known.
-void countCases(const SharedChanges::Tables &tables, Shown &shown,
-                const std::map<OldValue, int> &wanted)
+void countCases(const SharedChanges::Tables &tables, Shown &shown, const std::set<OldValue> &wanted)
 {
     if (!shown.match || wanted.empty())
         return;
@@ -119,9 +119,9 @@ std::vector<SharedChanges::Change> SharedChanges::of(const std::vector<Tables> &
             ++counts[change];
     }
     std::erase_if(counts, [](const auto &entry) { return entry.second < LeastProjects; });
-    std::map<OldValue, int> wanted;
+    std::set<OldValue> wanted;
     for (const auto &[change, count] : counts)
-        ++wanted[change.first];
+        wanted.insert(change.first);
     WorkerPool::instance().run(int(projects.size()), [&](int i) {
         countCases(projects[size_t(i)], shown[size_t(i)], wanted);
     });
