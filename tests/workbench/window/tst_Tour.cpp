@@ -22,12 +22,10 @@
 
 #include <QAction>
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QFile>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTableView>
@@ -37,6 +35,7 @@
 namespace {
 
 const QString din933 = QStringLiteral("standardparts/screws/din933.prj");
+const QString iso1207 = QStringLiteral("standardparts/screws/iso1207.prj");
 const QString din125 = QStringLiteral("standardparts/washers/din125.prj");
 
 /// The time of the tour at a calm pace: a key takes 0.3 s and a new thought 1.4 s, as
@@ -147,14 +146,23 @@ void tst_Tour::byKeysAlone()
     TourFixture tour;
     ModalScript script;
     // Look around.
-    tour.goTo("933 scr");
-    QCOMPARE(tour.window->editor()->currentPath(), din933);
+    QVERIFY(tourText().contains("type `1207 scr` and Enter"));
+    tour.goTo("1207 scr");
+    QCOMPARE(tour.window->editor()->currentPath(), iso1207);
 
-    // Decide lines: right, another one, none, not sure, and back.
-    tour.goTo("din933 3");
+    // Decide lines: right, another one, none, not sure, and back. The first one has a proposal.
+    QCOMPARE(tour.window->editor()->currentLine(), 1);
+    QCOMPARE(tour.document()
+                 ->mapping(tour.window->editor()->currentProject())
+                 .findTarget(0)
+                 .getMappedLine(1)
+                 .getTargetLineId(),
+             1);
     tour.key(Qt::Key_F8);
+    QCOMPARE(tour.window->editor()->currentLine(), 2);
+    tour.key(Qt::Key_F8, Qt::ShiftModifier);
     const int first = tour.window->editor()->currentLine();
-    QVERIFY(first >= 0);
+    QCOMPARE(first, 1);
     tour.key(Qt::Key_V);
     QCOMPARE(tour.undone(), 1);
     QVERIFY(tour.window->editor()->currentLine() != first);
@@ -212,36 +220,36 @@ void tst_Tour::byKeysAlone()
     QTRY_COMPARE(tour.confirmedLines(), before + 30);
     QCOMPARE(tour.undone(), 1);
 
-    // A project that became two: conditions by the header's plus.
+    // A project that became two: each target has a proposed condition, which counts once a line of
+    // the target is confirmed.
     tour.goTo("din125");
     QCOMPARE(tour.window->editor()->currentPath(), din125);
     const auto lists = tour.window->editor()->findChildren<QTableView *>("conditionView");
     QCOMPARE(lists.size(), 2);
+    QStringList conditions;
     for (const QTableView *const list : lists) {
-        const QString formula = list == lists.first() ? QStringLiteral("Form .EQ. 'A'")
-                                                      : QStringLiteral("Form .EQ. 'B'");
-        script.then([&](QWidget *dialog) {
-            auto *const edit = dialog->findChild<QPlainTextEdit *>("formulaEdit");
-            tour.type(edit, formula);
-            const auto *const words = edit->findChild<QWidget *>("formulaCompletion");
-            if (words && words->isVisible())
-                QTest::keyClick(edit, Qt::Key_Escape);
-            QTest::keyClick(dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok),
-                            Qt::Key_Return);
-        });
+        QCOMPARE(list->model()->rowCount(), 1);
+        conditions += list->model()->index(0, 1).data().toString();
         QVERIFY(tour.reachByTab(list->horizontalHeader()));
-        tour.key(Qt::Key_Space);
-        QTRY_VERIFY(script.isDone());
     }
+    QCOMPARE(conditions, QStringList({"Form .EQ. 'A'", "Form .EQ. 'B'"}));
+    QVERIFY(text.contains("`17` go to the first one of form B"));
+    const auto confirm = [&](const QString &line) {
+        script.then([&](QWidget *dialog) {
+            tour.type(dialog->findChild<QLineEdit *>(), line);
+            QTest::keyClick(dialog, Qt::Key_Return);
+        });
+        tour.key(Qt::Key_G, Qt::ControlModifier);
+        QTRY_VERIFY(script.isDone());
+        tour.key(Qt::Key_V);
+    };
+    confirm("1");
+    confirm("17");
+    const int assigned = tour.document()->counts().assigned();
     QVERIFY(tour.reachByTab(tour.window->editor()->findChild<QPushButton *>("remapLinesButton")));
     tour.key(Qt::Key_Space);
-    const PrjMappingC split =
-        tour.window->editor()->currentProject().isValid()
-            ? tour.document()->mapping(tour.window->editor()->currentProject())
-            : PrjMappingC();
-    QVERIFY(split.getTargets().size() >= 2); // and what has no target
-    QVERIFY(split.findTarget(0).lineCounts().lines() > 0);
-    QVERIFY(split.findTarget(1).lineCounts().lines() > 0);
+    QVERIFY(text.contains("the other 27 lines pass the check"));
+    QTRY_COMPARE(tour.document()->counts().assigned(), assigned + 27);
 
     // Save, and hand on.
     tour.key(Qt::Key_S, Qt::ControlModifier);
