@@ -45,6 +45,7 @@ private Q_SLOTS:
     void linesOfSeveralTargets();
     void conflictsComeFirst();
     void goesOnWhereItWas();
+    void beginsWithWhatItsProjectHas();
     void staysWithinTheFilter();
     void projectsThatStandTwice();
     void largeTables();
@@ -185,14 +186,17 @@ void tst_OpenLines::kinds()
     QCOMPARE(open.count(), int(lines.size()));
     QCOMPARE(open.count(projectId(QString::fromLatin1(A))), int(lines.size()));
     QCOMPARE(open.projectCount(), lines.isEmpty() ? 0 : 1);
-    LineRef at;
+    OpenLines::Found at;
+    const auto kind = [&at] {
+        return at.line.isValid() ? std::optional(at.kind) : std::nullopt;
+    };
     for (int line : lines) {
-        at = open.next(at).line;
-        QCOMPARE(at, ref(A, line));
+        at = open.next(at.line, OpenLines::Shown(), kind());
+        QCOMPARE(at.line, ref(A, line));
     }
     for (auto line = lines.rbegin() + (lines.isEmpty() ? 0 : 1); line != lines.rend(); ++line) {
-        at = open.previous(at).line;
-        QCOMPARE(at, ref(A, *line));
+        at = open.previous(at.line, OpenLines::Shown(), kind());
+        QCOMPARE(at.line, ref(A, *line));
     }
 }
 
@@ -331,11 +335,12 @@ void tst_OpenLines::conflictsComeFirst()
     // Though they are confirmed, and although the other project comes first.
     OpenLines::Found at;
     for (const LineRef &expected : {ref(D, 2), ref(D, 5), ref(B, 3), ref(D, 3), ref(A, 7)}) {
-        at = open.next(at.line);
+        at = at.line.isValid() ? open.next(at.line, OpenLines::Shown(), at.kind)
+                               : open.next(at.line);
         QCOMPARE(at.line, expected);
         QVERIFY(!at.wrapped);
     }
-    at = open.next(at.line);
+    at = open.next(at.line, OpenLines::Shown(), at.kind);
     QCOMPARE(at.line, ref(D, 2));
     QVERIFY(at.wrapped);
     QCOMPARE(at.kind, OpenLines::Conflict);
@@ -362,6 +367,36 @@ void tst_OpenLines::goesOnWhereItWas()
     m_document->finishStep();
     QCOMPARE(open.next(at.line, OpenLines::Shown(), at.kind).line, ref(A, 6));
     QCOMPARE(open.next(at.line).line, ref(A, 1));
+}
+
+/// Chosen by hand, or the first one of a project that was opened.
+void tst_OpenLines::beginsWithWhatItsProjectHas()
+{
+    QList<SampleLine> lines;
+    for (int i = 1; i <= 8; ++i) {
+        const bool hasTarget = i != 1 && i != 6 && i != 8;
+        lines.append({i, hasTarget ? i : -1, 0, QString(), i == 5});
+    }
+    use({SessionFixture::mapping(QString::fromLatin1(D), lines),
+         SessionFixture::mapping(QString::fromLatin1(B), {{3, -1, 0, QString(), true}}),
+         SessionFixture::mapping(QString::fromLatin1(A), {{2, -1, 0, QString(), false}})});
+    const OpenLines open(m_document.get());
+    QCOMPARE(open.next(ref(D, 1)).line, ref(D, 5));     // a conflict
+    QCOMPARE(open.next(ref(D, 5)).line, ref(D, 2));     // no more of them: those to check
+    QCOMPARE(open.next(ref(D, 6)).line, ref(D, 7));     // to check
+    QCOMPARE(open.next(ref(D, 8)).line, ref(A, 2));     // nothing else behind it
+    QCOMPARE(open.previous(ref(D, 8)).line, ref(D, 5)); // the conflict before
+    QCOMPARE(open.previous(ref(D, 4)).line, ref(D, 3));
+    QCOMPARE(open.next(ref(D, 1), OpenLines::Shown(), OpenLines::NotFound).line, ref(D, 6));
+    // In the order and within what is shown.
+    const QList<int> rows{7, 8, 1, 2};
+    const OpenLines::Shown shown{projectId(QString::fromLatin1(D)), 4, true,
+                                 [rows](int row) { return rows[row]; },
+                                 [rows](int line) {
+                                     return int(rows.indexOf(line));
+                                 }};
+    QCOMPARE(open.next(ref(D, 8), shown).line, ref(D, 2));
+    QCOMPARE(open.next(ref(D, 1), shown).line, ref(D, 2));
 }
 
 void tst_OpenLines::staysWithinTheFilter()

@@ -230,6 +230,25 @@ ProjectId OpenLines::nextProject(const ProjectId &from, bool forward) const
     return next ? ProjectId::of(release.mappingAt(order().positionAt(*next))) : ProjectId();
 }
 
+/// The kind of a line that no search has led to, or one that comes before it and that the rest of
+/// its project has: whoever opens a project whose first line has no target goes through its lines
+/// to check first.
+std::optional<OpenLines::Kind> OpenLines::kindFrom(const LineRef &from, const QList<Kind> &kinds,
+                                                   const Shown &shown, bool forward) const
+{
+    const std::optional<Kind> own = kindOf(from);
+    if (!own || !kinds.contains(*own))
+        return own;
+    const PrjMappingC mapping = m_document->mapping(from.project);
+    const auto isBehind = [&](Kind kind) {
+        return (from.project == shown.project ? shownLine(shown, kind, from.line, forward)
+                                              : lineIn(mapping, kind, from.line, forward))
+            .has_value();
+    };
+    return *std::find_if(kinds.begin(), kinds.end(),
+                         [&](Kind kind) { return kind == *own || isBehind(kind); });
+}
+
 /// Behind a line of a kind: the rest of the kind, then the kinds that follow. From elsewhere: the
 /// first kind of which there are any.
 OpenLines::Found OpenLines::seek(const LineRef &from, const Shown &shown, std::optional<Kind> among,
@@ -241,7 +260,7 @@ OpenLines::Found OpenLines::seek(const LineRef &from, const Shown &shown, std::o
             kinds += kind;
     }
     if (!among)
-        among = kindOf(from);
+        among = kindFrom(from, kinds, shown, forward);
     const qsizetype start = among ? kinds.indexOf(*among) : -1;
     Found found;
     if (start >= 0)

@@ -79,7 +79,8 @@ public:
 
     /// The next one behind \a from, which need not be open nor exist; from the beginning if that is
     /// not valid, and from the project's first line if only its line is not. \a among is the kind
-    /// that the user is at; without it that of \a from, or the first of which there are any.
+    /// that the user is at; without it that of \a from, or an earlier one that the rest of its
+    /// project has, or the first of which there are any.
     [[nodiscard]] Found next(const LineRef &from) const { return next(from, Shown()); }
     [[nodiscard]] Found next(const LineRef &from, const Shown &shown,
                              std::optional<Kind> among = {}) const;
@@ -103,6 +104,8 @@ Q_SIGNALS:
 private:
     void noteCount();
     [[nodiscard]] const ProjectOrder &order() const;
+    [[nodiscard]] std::optional<Kind> kindFrom(const LineRef &from, const QList<Kind> &kinds,
+                                               const Shown &shown, bool forward) const;
     [[nodiscard]] Found seek(const LineRef &from, const Shown &shown, std::optional<Kind> among,
                              bool forward) const;
     [[nodiscard]] Found seekKind(Kind kind, const LineRef &from, const Shown &shown, bool forward,
