@@ -3,33 +3,41 @@
 <TS version="2.1" language="cs" sourcelanguage="de">
 <context>
     <name>VelkGeomCoreGui</name>
-    <message>
-        <source>%1 Projekte gefunden</source>
-        <translation>Nalezeno projektů: %1</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 z %Ln projektu</numerusform>
+            <numerusform>%1 z %Ln projektů</numerusform>
+            <numerusform>%1 z %Ln projektů</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 Zeilen</source>
-        <translation>Řádků: %1</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 z %Ln řádku</numerusform>
+            <numerusform>%1 z %Ln řádků</numerusform>
+            <numerusform>%1 z %Ln řádků</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Projekten</source>
-        <translation>%1 z %2 projektů</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e) gefunden</source>
+        <translation>
+            <numerusform>Nalezen %Ln projekt</numerusform>
+            <numerusform>Nalezeny %Ln projekty</numerusform>
+            <numerusform>Nalezeno %Ln projektů</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Zeilen</source>
-        <translation>%1 z %2 řádků</translation>
+    <message numerus="yes">
+        <source>%Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%Ln řádek</numerusform>
+            <numerusform>%Ln řádky</numerusform>
+            <numerusform>%Ln řádků</numerusform>
+        </translation>
     </message>
     <message>
         <source>(leer)</source>
         <translation>(prázdné)</translation>
-    </message>
-    <message>
-        <source>1 Projekt gefunden</source>
-        <translation>Nalezen 1 projekt</translation>
-    </message>
-    <message>
-        <source>1 Zeile</source>
-        <translation>1 řádek</translation>
     </message>
     <message>
         <source>Alle Spalten einblenden</source>
@@ -87,9 +95,13 @@
         <source>Die Suche steht nicht zur Verfügung.</source>
         <translation>Hledání není k dispozici.</translation>
     </message>
-    <message>
-        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
-        <translation>Prvních %1 projektů; je jich víc. Hledejte přesněji.</translation>
+    <message numerus="yes">
+        <source>Die ersten %Ln Projekt(e); es gibt mehr. Suchen Sie genauer.</source>
+        <translation>
+            <numerusform>První %Ln projekt; je jich víc. Hledejte přesněji.</numerusform>
+            <numerusform>První %Ln projekty; je jich víc. Hledejte přesněji.</numerusform>
+            <numerusform>Prvních %Ln projektů; je jich víc. Hledejte přesněji.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Erneut versuchen</source>
@@ -250,8 +262,8 @@
         <translation>Hodnoty sloupce %1</translation>
     </message>
     <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Rozsah hodnot (%1 hodnot): %2</translation>
+        <source>Wertebereich (Werte: %1): %2</source>
+        <translation>Rozsah hodnot (hodnot: %1): %2</translation>
     </message>
     <message>
         <source>Wird gesucht ...</source>
@@ -329,17 +341,29 @@
         <source>plus</source>
         <translation>plus</translation>
     </message>
-    <message>
-        <source>und %1 seltenere Werte</source>
-        <translation>a %1 vzácnějších hodnot</translation>
+    <message numerus="yes">
+        <source>und %Ln seltenere(r) Wert(e)</source>
+        <translation>
+            <numerusform>a %Ln vzácnější hodnota</numerusform>
+            <numerusform>a %Ln vzácnější hodnoty</numerusform>
+            <numerusform>a %Ln vzácnějších hodnot</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>a další: %1</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>a další: %Ln</numerusform>
+            <numerusform>a další: %Ln</numerusform>
+            <numerusform>a další: %Ln</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere Zeilen</source>
-        <translation>a dalších %1 řádků</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere Zeile(n)</source>
+        <translation>
+            <numerusform>a další %Ln řádek</numerusform>
+            <numerusform>a další %Ln řádky</numerusform>
+            <numerusform>a dalších %Ln řádků</numerusform>
+        </translation>
     </message>
     <message>
         <source>ungleich</source>

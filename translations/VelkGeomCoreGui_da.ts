@@ -3,33 +3,37 @@
 <TS version="2.1" language="da" sourcelanguage="de">
 <context>
     <name>VelkGeomCoreGui</name>
-    <message>
-        <source>%1 Projekte gefunden</source>
-        <translation>%1 projekter fundet</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 af %Ln projekt</numerusform>
+            <numerusform>%1 af %Ln projekter</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 Zeilen</source>
-        <translation>%1 linjer</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 af %Ln linje</numerusform>
+            <numerusform>%1 af %Ln linjer</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Projekten</source>
-        <translation>%1 af %2 projekter</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e) gefunden</source>
+        <translation>
+            <numerusform>%Ln projekt fundet</numerusform>
+            <numerusform>%Ln projekter fundet</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Zeilen</source>
-        <translation>%1 af %2 linjer</translation>
+    <message numerus="yes">
+        <source>%Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%Ln linje</numerusform>
+            <numerusform>%Ln linjer</numerusform>
+        </translation>
     </message>
     <message>
         <source>(leer)</source>
         <translation>(tom)</translation>
-    </message>
-    <message>
-        <source>1 Projekt gefunden</source>
-        <translation>1 projekt fundet</translation>
-    </message>
-    <message>
-        <source>1 Zeile</source>
-        <translation>1 linje</translation>
     </message>
     <message>
         <source>Alle Spalten einblenden</source>
@@ -87,9 +91,12 @@
         <source>Die Suche steht nicht zur Verfügung.</source>
         <translation>Søgningen er ikke tilgængelig.</translation>
     </message>
-    <message>
-        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
-        <translation>De første %1 projekter; der er flere. Søg mere præcist.</translation>
+    <message numerus="yes">
+        <source>Die ersten %Ln Projekt(e); es gibt mehr. Suchen Sie genauer.</source>
+        <translation>
+            <numerusform>Det første %Ln projekt; der er flere. Søg mere præcist.</numerusform>
+            <numerusform>De første %Ln projekter; der er flere. Søg mere præcist.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Erneut versuchen</source>
@@ -250,8 +257,8 @@
         <translation>Værdier i kolonnen %1</translation>
     </message>
     <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Værdiområde (%1 værdier): %2</translation>
+        <source>Wertebereich (Werte: %1): %2</source>
+        <translation>Værdiområde (værdier: %1): %2</translation>
     </message>
     <message>
         <source>Wird gesucht ...</source>
@@ -329,17 +336,26 @@
         <source>plus</source>
         <translation>plus</translation>
     </message>
-    <message>
-        <source>und %1 seltenere Werte</source>
-        <translation>og %1 sjældnere værdier</translation>
+    <message numerus="yes">
+        <source>und %Ln seltenere(r) Wert(e)</source>
+        <translation>
+            <numerusform>og %Ln sjældnere værdi</numerusform>
+            <numerusform>og %Ln sjældnere værdier</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>og %1 mere</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>og %Ln mere</numerusform>
+            <numerusform>og %Ln mere</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere Zeilen</source>
-        <translation>og %1 linjer mere</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere Zeile(n)</source>
+        <translation>
+            <numerusform>og %Ln linje mere</numerusform>
+            <numerusform>og %Ln linjer mere</numerusform>
+        </translation>
     </message>
     <message>
         <source>ungleich</source>

@@ -3,33 +3,37 @@
 <TS version="2.1" language="de" sourcelanguage="de">
 <context>
     <name>VelkGeomCoreGui</name>
-    <message>
-        <source>%1 Projekte gefunden</source>
-        <translation>%1 Projekte gefunden</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 von %Ln Projekt</numerusform>
+            <numerusform>%1 von %Ln Projekten</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 Zeilen</source>
-        <translation>%1 Zeilen</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 von %Ln Zeile</numerusform>
+            <numerusform>%1 von %Ln Zeilen</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Projekten</source>
-        <translation>%1 von %2 Projekten</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e) gefunden</source>
+        <translation>
+            <numerusform>%Ln Projekt gefunden</numerusform>
+            <numerusform>%Ln Projekte gefunden</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Zeilen</source>
-        <translation>%1 von %2 Zeilen</translation>
+    <message numerus="yes">
+        <source>%Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%Ln Zeile</numerusform>
+            <numerusform>%Ln Zeilen</numerusform>
+        </translation>
     </message>
     <message>
         <source>(leer)</source>
         <translation>(leer)</translation>
-    </message>
-    <message>
-        <source>1 Projekt gefunden</source>
-        <translation>1 Projekt gefunden</translation>
-    </message>
-    <message>
-        <source>1 Zeile</source>
-        <translation>1 Zeile</translation>
     </message>
     <message>
         <source>Alle Spalten einblenden</source>
@@ -87,9 +91,12 @@
         <source>Die Suche steht nicht zur Verfügung.</source>
         <translation>Die Suche steht nicht zur Verfügung.</translation>
     </message>
-    <message>
-        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
-        <translation>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</translation>
+    <message numerus="yes">
+        <source>Die ersten %Ln Projekt(e); es gibt mehr. Suchen Sie genauer.</source>
+        <translation>
+            <numerusform>Das erste %Ln Projekt; es gibt mehr. Suchen Sie genauer.</numerusform>
+            <numerusform>Die ersten %Ln Projekte; es gibt mehr. Suchen Sie genauer.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Erneut versuchen</source>
@@ -250,8 +257,8 @@
         <translation>Werte der Spalte %1</translation>
     </message>
     <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Wertebereich (%1 Werte): %2</translation>
+        <source>Wertebereich (Werte: %1): %2</source>
+        <translation>Wertebereich (Werte: %1): %2</translation>
     </message>
     <message>
         <source>Wird gesucht ...</source>
@@ -329,17 +336,26 @@
         <source>plus</source>
         <translation>plus</translation>
     </message>
-    <message>
-        <source>und %1 seltenere Werte</source>
-        <translation>und %1 seltenere Werte</translation>
+    <message numerus="yes">
+        <source>und %Ln seltenere(r) Wert(e)</source>
+        <translation>
+            <numerusform>und %Ln seltenerer Wert</numerusform>
+            <numerusform>und %Ln seltenere Werte</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>und %1 weitere</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>und %Ln weitere</numerusform>
+            <numerusform>und %Ln weitere</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere Zeilen</source>
-        <translation>und %1 weitere Zeilen</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere Zeile(n)</source>
+        <translation>
+            <numerusform>und %Ln weitere Zeile</numerusform>
+            <numerusform>und %Ln weitere Zeilen</numerusform>
+        </translation>
     </message>
     <message>
         <source>ungleich</source>

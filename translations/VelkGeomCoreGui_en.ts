@@ -3,33 +3,37 @@
 <TS version="2.1" language="en" sourcelanguage="de">
 <context>
     <name>VelkGeomCoreGui</name>
-    <message>
-        <source>%1 Projekte gefunden</source>
-        <translation>%1 projects found</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 of %Ln project</numerusform>
+            <numerusform>%1 of %Ln projects</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 Zeilen</source>
-        <translation>%1 lines</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 of %Ln line</numerusform>
+            <numerusform>%1 of %Ln lines</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Projekten</source>
-        <translation>%1 of %2 projects</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e) gefunden</source>
+        <translation>
+            <numerusform>%Ln project found</numerusform>
+            <numerusform>%Ln projects found</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Zeilen</source>
-        <translation>%1 of %2 lines</translation>
+    <message numerus="yes">
+        <source>%Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%Ln line</numerusform>
+            <numerusform>%Ln lines</numerusform>
+        </translation>
     </message>
     <message>
         <source>(leer)</source>
         <translation>(empty)</translation>
-    </message>
-    <message>
-        <source>1 Projekt gefunden</source>
-        <translation>1 project found</translation>
-    </message>
-    <message>
-        <source>1 Zeile</source>
-        <translation>1 line</translation>
     </message>
     <message>
         <source>Alle Spalten einblenden</source>
@@ -87,9 +91,12 @@
         <source>Die Suche steht nicht zur Verfügung.</source>
         <translation>The search is not available.</translation>
     </message>
-    <message>
-        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
-        <translation>The first %1 projects; there are more. Search more precisely.</translation>
+    <message numerus="yes">
+        <source>Die ersten %Ln Projekt(e); es gibt mehr. Suchen Sie genauer.</source>
+        <translation>
+            <numerusform>The first %Ln project; there are more. Search more precisely.</numerusform>
+            <numerusform>The first %Ln projects; there are more. Search more precisely.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Erneut versuchen</source>
@@ -250,8 +257,8 @@
         <translation>Values of column %1</translation>
     </message>
     <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Value range (%1 values): %2</translation>
+        <source>Wertebereich (Werte: %1): %2</source>
+        <translation>Value range (values: %1): %2</translation>
     </message>
     <message>
         <source>Wird gesucht ...</source>
@@ -329,17 +336,26 @@
         <source>plus</source>
         <translation>plus</translation>
     </message>
-    <message>
-        <source>und %1 seltenere Werte</source>
-        <translation>and %1 rarer values</translation>
+    <message numerus="yes">
+        <source>und %Ln seltenere(r) Wert(e)</source>
+        <translation>
+            <numerusform>and %Ln rarer value</numerusform>
+            <numerusform>and %Ln rarer values</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>and %1 more</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>and %Ln more</numerusform>
+            <numerusform>and %Ln more</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere Zeilen</source>
-        <translation>and %1 more lines</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere Zeile(n)</source>
+        <translation>
+            <numerusform>and %Ln more line</numerusform>
+            <numerusform>and %Ln more lines</numerusform>
+        </translation>
     </message>
     <message>
         <source>ungleich</source>

@@ -3,33 +3,37 @@
 <TS version="2.1" language="es" sourcelanguage="de">
 <context>
     <name>VelkGeomCoreGui</name>
-    <message>
-        <source>%1 Projekte gefunden</source>
-        <translation>%1 proyectos encontrados</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 de %Ln proyecto</numerusform>
+            <numerusform>%1 de %Ln proyectos</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 Zeilen</source>
-        <translation>%1 filas</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 de %Ln fila</numerusform>
+            <numerusform>%1 de %Ln filas</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Projekten</source>
-        <translation>%1 de %2 proyectos</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e) gefunden</source>
+        <translation>
+            <numerusform>%Ln proyecto encontrado</numerusform>
+            <numerusform>%Ln proyectos encontrados</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Zeilen</source>
-        <translation>%1 de %2 filas</translation>
+    <message numerus="yes">
+        <source>%Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%Ln fila</numerusform>
+            <numerusform>%Ln filas</numerusform>
+        </translation>
     </message>
     <message>
         <source>(leer)</source>
         <translation>(vacío)</translation>
-    </message>
-    <message>
-        <source>1 Projekt gefunden</source>
-        <translation>1 proyecto encontrado</translation>
-    </message>
-    <message>
-        <source>1 Zeile</source>
-        <translation>1 fila</translation>
     </message>
     <message>
         <source>Alle Spalten einblenden</source>
@@ -87,9 +91,12 @@
         <source>Die Suche steht nicht zur Verfügung.</source>
         <translation>La búsqueda no está disponible.</translation>
     </message>
-    <message>
-        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
-        <translation>Los primeros %1 proyectos; hay más. Busque con más precisión.</translation>
+    <message numerus="yes">
+        <source>Die ersten %Ln Projekt(e); es gibt mehr. Suchen Sie genauer.</source>
+        <translation>
+            <numerusform>El primer %Ln proyecto; hay más. Busque con más precisión.</numerusform>
+            <numerusform>Los primeros %Ln proyectos; hay más. Busque con más precisión.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Erneut versuchen</source>
@@ -250,8 +257,8 @@
         <translation>Valores de la columna %1</translation>
     </message>
     <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Rango de valores (%1 valores): %2</translation>
+        <source>Wertebereich (Werte: %1): %2</source>
+        <translation>Rango de valores (valores: %1): %2</translation>
     </message>
     <message>
         <source>Wird gesucht ...</source>
@@ -329,17 +336,26 @@
         <source>plus</source>
         <translation>más</translation>
     </message>
-    <message>
-        <source>und %1 seltenere Werte</source>
-        <translation>y %1 valores menos frecuentes</translation>
+    <message numerus="yes">
+        <source>und %Ln seltenere(r) Wert(e)</source>
+        <translation>
+            <numerusform>y %Ln valor menos frecuente</numerusform>
+            <numerusform>y %Ln valores menos frecuentes</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>y %1 más</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>y %Ln más</numerusform>
+            <numerusform>y %Ln más</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere Zeilen</source>
-        <translation>y %1 filas más</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere Zeile(n)</source>
+        <translation>
+            <numerusform>y %Ln fila más</numerusform>
+            <numerusform>y %Ln filas más</numerusform>
+        </translation>
     </message>
     <message>
         <source>ungleich</source>

@@ -3,33 +3,37 @@
 <TS version="2.1" language="fi" sourcelanguage="de">
 <context>
     <name>VelkGeomCoreGui</name>
-    <message>
-        <source>%1 Projekte gefunden</source>
-        <translation>%1 projektia löytyi</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1/%Ln projekti</numerusform>
+            <numerusform>%1/%Ln projektia</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 Zeilen</source>
-        <translation>%1 riviä</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 / %Ln rivi</numerusform>
+            <numerusform>%1 / %Ln riviä</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Projekten</source>
-        <translation>%1 / %2 projektia</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e) gefunden</source>
+        <translation>
+            <numerusform>%Ln projekti löytyi</numerusform>
+            <numerusform>%Ln projektia löytyi</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Zeilen</source>
-        <translation>%1 / %2 riviä</translation>
+    <message numerus="yes">
+        <source>%Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%Ln rivi</numerusform>
+            <numerusform>%Ln riviä</numerusform>
+        </translation>
     </message>
     <message>
         <source>(leer)</source>
         <translation>(tyhjä)</translation>
-    </message>
-    <message>
-        <source>1 Projekt gefunden</source>
-        <translation>1 projekti löytyi</translation>
-    </message>
-    <message>
-        <source>1 Zeile</source>
-        <translation>1 rivi</translation>
     </message>
     <message>
         <source>Alle Spalten einblenden</source>
@@ -87,9 +91,12 @@
         <source>Die Suche steht nicht zur Verfügung.</source>
         <translation>Haku ei ole käytettävissä.</translation>
     </message>
-    <message>
-        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
-        <translation>Ensimmäiset %1 projektia; lisää on. Tarkenna hakua.</translation>
+    <message numerus="yes">
+        <source>Die ersten %Ln Projekt(e); es gibt mehr. Suchen Sie genauer.</source>
+        <translation>
+            <numerusform>Ensimmäinen %Ln projekti; lisää on. Tarkenna hakua.</numerusform>
+            <numerusform>Ensimmäiset %Ln projektia; lisää on. Tarkenna hakua.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Erneut versuchen</source>
@@ -250,8 +257,8 @@
         <translation>Sarakkeen %1 arvot</translation>
     </message>
     <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Arvoalue (%1 arvoa): %2</translation>
+        <source>Wertebereich (Werte: %1): %2</source>
+        <translation>Arvoalue (arvoja: %1): %2</translation>
     </message>
     <message>
         <source>Wird gesucht ...</source>
@@ -329,17 +336,26 @@
         <source>plus</source>
         <translation>plus</translation>
     </message>
-    <message>
-        <source>und %1 seltenere Werte</source>
-        <translation>ja %1 harvinaisempaa arvoa</translation>
+    <message numerus="yes">
+        <source>und %Ln seltenere(r) Wert(e)</source>
+        <translation>
+            <numerusform>ja %Ln harvinaisempi arvo</numerusform>
+            <numerusform>ja %Ln harvinaisempaa arvoa</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>ja %1 muuta</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>ja %Ln muu</numerusform>
+            <numerusform>ja %Ln muuta</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere Zeilen</source>
-        <translation>ja %1 riviä lisää</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere Zeile(n)</source>
+        <translation>
+            <numerusform>ja %Ln rivi lisää</numerusform>
+            <numerusform>ja %Ln riviä lisää</numerusform>
+        </translation>
     </message>
     <message>
         <source>ungleich</source>

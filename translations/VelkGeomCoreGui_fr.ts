@@ -3,33 +3,37 @@
 <TS version="2.1" language="fr" sourcelanguage="de">
 <context>
     <name>VelkGeomCoreGui</name>
-    <message>
-        <source>%1 Projekte gefunden</source>
-        <translation>%1 projets trouvés</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 projet sur %Ln</numerusform>
+            <numerusform>%1 projets sur %Ln</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 Zeilen</source>
-        <translation>%1 lignes</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 ligne sur %Ln</numerusform>
+            <numerusform>%1 lignes sur %Ln</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Projekten</source>
-        <translation>%1 projets sur %2</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e) gefunden</source>
+        <translation>
+            <numerusform>%Ln projet trouvé</numerusform>
+            <numerusform>%Ln projets trouvés</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Zeilen</source>
-        <translation>%1 lignes sur %2</translation>
+    <message numerus="yes">
+        <source>%Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%Ln ligne</numerusform>
+            <numerusform>%Ln lignes</numerusform>
+        </translation>
     </message>
     <message>
         <source>(leer)</source>
         <translation>(vide)</translation>
-    </message>
-    <message>
-        <source>1 Projekt gefunden</source>
-        <translation>1 projet trouvé</translation>
-    </message>
-    <message>
-        <source>1 Zeile</source>
-        <translation>1 ligne</translation>
     </message>
     <message>
         <source>Alle Spalten einblenden</source>
@@ -87,9 +91,12 @@
         <source>Die Suche steht nicht zur Verfügung.</source>
         <translation>La recherche n'est pas disponible.</translation>
     </message>
-    <message>
-        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
-        <translation>Les %1 premiers projets ; il y en a d'autres. Précisez la recherche.</translation>
+    <message numerus="yes">
+        <source>Die ersten %Ln Projekt(e); es gibt mehr. Suchen Sie genauer.</source>
+        <translation>
+            <numerusform>Le %Ln premier projet ; il y en a d'autres. Précisez la recherche.</numerusform>
+            <numerusform>Les %Ln premiers projets ; il y en a d'autres. Précisez la recherche.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Erneut versuchen</source>
@@ -250,8 +257,8 @@
         <translation>Valeurs de la colonne %1</translation>
     </message>
     <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Plage de valeurs (%1 valeurs) : %2</translation>
+        <source>Wertebereich (Werte: %1): %2</source>
+        <translation>Plage de valeurs (valeurs : %1) : %2</translation>
     </message>
     <message>
         <source>Wird gesucht ...</source>
@@ -329,17 +336,26 @@
         <source>plus</source>
         <translation>plus</translation>
     </message>
-    <message>
-        <source>und %1 seltenere Werte</source>
-        <translation>et %1 valeurs plus rares</translation>
+    <message numerus="yes">
+        <source>und %Ln seltenere(r) Wert(e)</source>
+        <translation>
+            <numerusform>et %Ln valeur plus rare</numerusform>
+            <numerusform>et %Ln valeurs plus rares</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>et %1 autres</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>et %Ln autre</numerusform>
+            <numerusform>et %Ln autres</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere Zeilen</source>
-        <translation>et %1 lignes de plus</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere Zeile(n)</source>
+        <translation>
+            <numerusform>et %Ln ligne de plus</numerusform>
+            <numerusform>et %Ln lignes de plus</numerusform>
+        </translation>
     </message>
     <message>
         <source>ungleich</source>

@@ -3,33 +3,33 @@
 <TS version="2.1" language="hu" sourcelanguage="de">
 <context>
     <name>VelkGeomCoreGui</name>
-    <message>
-        <source>%1 Projekte gefunden</source>
-        <translation>%1 projekt található</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 / %Ln projekt</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 Zeilen</source>
-        <translation>%1 sor</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 / %Ln sor</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Projekten</source>
-        <translation>%1 / %2 projekt</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e) gefunden</source>
+        <translation>
+            <numerusform>%Ln projekt található</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Zeilen</source>
-        <translation>%1 / %2 sor</translation>
+    <message numerus="yes">
+        <source>%Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%Ln sor</numerusform>
+        </translation>
     </message>
     <message>
         <source>(leer)</source>
         <translation>(üres)</translation>
-    </message>
-    <message>
-        <source>1 Projekt gefunden</source>
-        <translation>1 projekt található</translation>
-    </message>
-    <message>
-        <source>1 Zeile</source>
-        <translation>1 sor</translation>
     </message>
     <message>
         <source>Alle Spalten einblenden</source>
@@ -87,9 +87,11 @@
         <source>Die Suche steht nicht zur Verfügung.</source>
         <translation>A keresés nem érhető el.</translation>
     </message>
-    <message>
-        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
-        <translation>Az első %1 projekt; több is van. Keressen pontosabban.</translation>
+    <message numerus="yes">
+        <source>Die ersten %Ln Projekt(e); es gibt mehr. Suchen Sie genauer.</source>
+        <translation>
+            <numerusform>Az első %Ln projekt; több is van. Keressen pontosabban.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Erneut versuchen</source>
@@ -250,8 +252,8 @@
         <translation>A(z) %1 oszlop értékei</translation>
     </message>
     <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Értéktartomány (%1 érték): %2</translation>
+        <source>Wertebereich (Werte: %1): %2</source>
+        <translation>Értéktartomány (értékek: %1): %2</translation>
     </message>
     <message>
         <source>Wird gesucht ...</source>
@@ -329,17 +331,23 @@
         <source>plus</source>
         <translation>plusz</translation>
     </message>
-    <message>
-        <source>und %1 seltenere Werte</source>
-        <translation>és %1 ritkább érték</translation>
+    <message numerus="yes">
+        <source>und %Ln seltenere(r) Wert(e)</source>
+        <translation>
+            <numerusform>és %Ln ritkább érték</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>és még %1</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>és még %Ln</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere Zeilen</source>
-        <translation>és további %1 sor</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere Zeile(n)</source>
+        <translation>
+            <numerusform>és további %Ln sor</numerusform>
+        </translation>
     </message>
     <message>
         <source>ungleich</source>

@@ -3,33 +3,33 @@
 <TS version="2.1" language="id" sourcelanguage="de">
 <context>
     <name>VelkGeomCoreGui</name>
-    <message>
-        <source>%1 Projekte gefunden</source>
-        <translation>%1 proyek ditemukan</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 dari %Ln proyek</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 Zeilen</source>
-        <translation>%1 baris</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 dari %Ln baris</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Projekten</source>
-        <translation>%1 dari %2 proyek</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e) gefunden</source>
+        <translation>
+            <numerusform>%Ln proyek ditemukan</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Zeilen</source>
-        <translation>%1 dari %2 baris</translation>
+    <message numerus="yes">
+        <source>%Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%Ln baris</numerusform>
+        </translation>
     </message>
     <message>
         <source>(leer)</source>
         <translation>(kosong)</translation>
-    </message>
-    <message>
-        <source>1 Projekt gefunden</source>
-        <translation>1 proyek ditemukan</translation>
-    </message>
-    <message>
-        <source>1 Zeile</source>
-        <translation>1 baris</translation>
     </message>
     <message>
         <source>Alle Spalten einblenden</source>
@@ -87,9 +87,11 @@
         <source>Die Suche steht nicht zur Verfügung.</source>
         <translation>Pencarian tidak tersedia.</translation>
     </message>
-    <message>
-        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
-        <translation>%1 proyek pertama; masih ada lagi. Cari lebih tepat.</translation>
+    <message numerus="yes">
+        <source>Die ersten %Ln Projekt(e); es gibt mehr. Suchen Sie genauer.</source>
+        <translation>
+            <numerusform>%Ln proyek pertama; masih ada lagi. Cari lebih tepat.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Erneut versuchen</source>
@@ -250,8 +252,8 @@
         <translation>Nilai kolom %1</translation>
     </message>
     <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Rentang nilai (%1 nilai): %2</translation>
+        <source>Wertebereich (Werte: %1): %2</source>
+        <translation>Rentang nilai (nilai: %1): %2</translation>
     </message>
     <message>
         <source>Wird gesucht ...</source>
@@ -329,17 +331,23 @@
         <source>plus</source>
         <translation>tambah</translation>
     </message>
-    <message>
-        <source>und %1 seltenere Werte</source>
-        <translation>dan %1 nilai yang lebih jarang</translation>
+    <message numerus="yes">
+        <source>und %Ln seltenere(r) Wert(e)</source>
+        <translation>
+            <numerusform>dan %Ln nilai yang lebih jarang</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>dan %1 lainnya</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>dan %Ln lainnya</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere Zeilen</source>
-        <translation>dan %1 baris lagi</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere Zeile(n)</source>
+        <translation>
+            <numerusform>dan %Ln baris lagi</numerusform>
+        </translation>
     </message>
     <message>
         <source>ungleich</source>

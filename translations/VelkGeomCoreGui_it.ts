@@ -3,33 +3,37 @@
 <TS version="2.1" language="it" sourcelanguage="de">
 <context>
     <name>VelkGeomCoreGui</name>
-    <message>
-        <source>%1 Projekte gefunden</source>
-        <translation>%1 progetti trovati</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 di %Ln progetto</numerusform>
+            <numerusform>%1 di %Ln progetti</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 Zeilen</source>
-        <translation>%1 righe</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 di %Ln riga</numerusform>
+            <numerusform>%1 di %Ln righe</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Projekten</source>
-        <translation>%1 di %2 progetti</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e) gefunden</source>
+        <translation>
+            <numerusform>%Ln progetto trovato</numerusform>
+            <numerusform>%Ln progetti trovati</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Zeilen</source>
-        <translation>%1 di %2 righe</translation>
+    <message numerus="yes">
+        <source>%Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%Ln riga</numerusform>
+            <numerusform>%Ln righe</numerusform>
+        </translation>
     </message>
     <message>
         <source>(leer)</source>
         <translation>(vuoto)</translation>
-    </message>
-    <message>
-        <source>1 Projekt gefunden</source>
-        <translation>1 progetto trovato</translation>
-    </message>
-    <message>
-        <source>1 Zeile</source>
-        <translation>1 riga</translation>
     </message>
     <message>
         <source>Alle Spalten einblenden</source>
@@ -87,9 +91,12 @@
         <source>Die Suche steht nicht zur Verfügung.</source>
         <translation>La ricerca non è disponibile.</translation>
     </message>
-    <message>
-        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
-        <translation>I primi %1 progetti; ce ne sono altri. Cerca con più precisione.</translation>
+    <message numerus="yes">
+        <source>Die ersten %Ln Projekt(e); es gibt mehr. Suchen Sie genauer.</source>
+        <translation>
+            <numerusform>Il primo %Ln progetto; ce ne sono altri. Cerca con più precisione.</numerusform>
+            <numerusform>I primi %Ln progetti; ce ne sono altri. Cerca con più precisione.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Erneut versuchen</source>
@@ -250,8 +257,8 @@
         <translation>Valori della colonna %1</translation>
     </message>
     <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Intervallo di valori (%1 valori): %2</translation>
+        <source>Wertebereich (Werte: %1): %2</source>
+        <translation>Intervallo di valori (valori: %1): %2</translation>
     </message>
     <message>
         <source>Wird gesucht ...</source>
@@ -329,17 +336,26 @@
         <source>plus</source>
         <translation>più</translation>
     </message>
-    <message>
-        <source>und %1 seltenere Werte</source>
-        <translation>e %1 valori più rari</translation>
+    <message numerus="yes">
+        <source>und %Ln seltenere(r) Wert(e)</source>
+        <translation>
+            <numerusform>e %Ln valore più raro</numerusform>
+            <numerusform>e %Ln valori più rari</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>e altre %1</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>e un'altra: %Ln</numerusform>
+            <numerusform>e altre %Ln</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere Zeilen</source>
-        <translation>e altre %1 righe</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere Zeile(n)</source>
+        <translation>
+            <numerusform>e ancora %Ln riga</numerusform>
+            <numerusform>e altre %Ln righe</numerusform>
+        </translation>
     </message>
     <message>
         <source>ungleich</source>

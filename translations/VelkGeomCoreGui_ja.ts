@@ -3,33 +3,33 @@
 <TS version="2.1" language="ja" sourcelanguage="de">
 <context>
     <name>VelkGeomCoreGui</name>
-    <message>
-        <source>%1 Projekte gefunden</source>
-        <translation>%1 件のプロジェクトが見つかりました</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 / %Ln プロジェクト</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 Zeilen</source>
-        <translation>%1 行</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%Ln 行中 %1 行</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Projekten</source>
-        <translation>%1 / %2 プロジェクト</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e) gefunden</source>
+        <translation>
+            <numerusform>%Ln 件のプロジェクトが見つかりました</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Zeilen</source>
-        <translation>%2 行中 %1 行</translation>
+    <message numerus="yes">
+        <source>%Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%Ln 行</numerusform>
+        </translation>
     </message>
     <message>
         <source>(leer)</source>
         <translation>(空)</translation>
-    </message>
-    <message>
-        <source>1 Projekt gefunden</source>
-        <translation>1 件のプロジェクトが見つかりました</translation>
-    </message>
-    <message>
-        <source>1 Zeile</source>
-        <translation>1 行</translation>
     </message>
     <message>
         <source>Alle Spalten einblenden</source>
@@ -87,9 +87,11 @@
         <source>Die Suche steht nicht zur Verfügung.</source>
         <translation>検索は利用できません。</translation>
     </message>
-    <message>
-        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
-        <translation>最初の %1 件です。ほかにもあります。検索を絞り込んでください。</translation>
+    <message numerus="yes">
+        <source>Die ersten %Ln Projekt(e); es gibt mehr. Suchen Sie genauer.</source>
+        <translation>
+            <numerusform>最初の %Ln 件です。ほかにもあります。検索を絞り込んでください。</numerusform>
+        </translation>
     </message>
     <message>
         <source>Erneut versuchen</source>
@@ -250,8 +252,8 @@
         <translation>列 %1 の値</translation>
     </message>
     <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>値範囲（%1個の値）: %2</translation>
+        <source>Wertebereich (Werte: %1): %2</source>
+        <translation>値範囲（値の数: %1）: %2</translation>
     </message>
     <message>
         <source>Wird gesucht ...</source>
@@ -329,17 +331,23 @@
         <source>plus</source>
         <translation>足す</translation>
     </message>
-    <message>
-        <source>und %1 seltenere Werte</source>
-        <translation>ほか %1 件の少ない値</translation>
+    <message numerus="yes">
+        <source>und %Ln seltenere(r) Wert(e)</source>
+        <translation>
+            <numerusform>ほか %Ln 件の少ない値</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>他 %1 件</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>他 %Ln 件</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere Zeilen</source>
-        <translation>ほか %1 行</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere Zeile(n)</source>
+        <translation>
+            <numerusform>ほか %Ln 行</numerusform>
+        </translation>
     </message>
     <message>
         <source>ungleich</source>

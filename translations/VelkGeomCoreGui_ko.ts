@@ -3,33 +3,33 @@
 <TS version="2.1" language="ko" sourcelanguage="de">
 <context>
     <name>VelkGeomCoreGui</name>
-    <message>
-        <source>%1 Projekte gefunden</source>
-        <translation>프로젝트 %1개 찾음</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 / %Ln 프로젝트</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 Zeilen</source>
-        <translation>%1행</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%Ln행 중 %1행</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Projekten</source>
-        <translation>%1 / %2 프로젝트</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e) gefunden</source>
+        <translation>
+            <numerusform>프로젝트 %Ln개 찾음</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Zeilen</source>
-        <translation>%2행 중 %1행</translation>
+    <message numerus="yes">
+        <source>%Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%Ln행</numerusform>
+        </translation>
     </message>
     <message>
         <source>(leer)</source>
         <translation>(비어 있음)</translation>
-    </message>
-    <message>
-        <source>1 Projekt gefunden</source>
-        <translation>프로젝트 1개 찾음</translation>
-    </message>
-    <message>
-        <source>1 Zeile</source>
-        <translation>1행</translation>
     </message>
     <message>
         <source>Alle Spalten einblenden</source>
@@ -87,9 +87,11 @@
         <source>Die Suche steht nicht zur Verfügung.</source>
         <translation>검색을 사용할 수 없습니다.</translation>
     </message>
-    <message>
-        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
-        <translation>처음 %1개 프로젝트입니다. 더 있습니다. 더 정확히 검색하세요.</translation>
+    <message numerus="yes">
+        <source>Die ersten %Ln Projekt(e); es gibt mehr. Suchen Sie genauer.</source>
+        <translation>
+            <numerusform>처음 %Ln개 프로젝트입니다. 더 있습니다. 더 정확히 검색하세요.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Erneut versuchen</source>
@@ -250,8 +252,8 @@
         <translation>%1 열의 값</translation>
     </message>
     <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>값 범위(값 %1개): %2</translation>
+        <source>Wertebereich (Werte: %1): %2</source>
+        <translation>값 범위(값: %1개): %2</translation>
     </message>
     <message>
         <source>Wird gesucht ...</source>
@@ -329,17 +331,23 @@
         <source>plus</source>
         <translation>더하기</translation>
     </message>
-    <message>
-        <source>und %1 seltenere Werte</source>
-        <translation>및 더 드문 값 %1개</translation>
+    <message numerus="yes">
+        <source>und %Ln seltenere(r) Wert(e)</source>
+        <translation>
+            <numerusform>및 더 드문 값 %Ln개</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>외 %1개</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>외 %Ln개</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere Zeilen</source>
-        <translation>외 %1행</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere Zeile(n)</source>
+        <translation>
+            <numerusform>외 %Ln행</numerusform>
+        </translation>
     </message>
     <message>
         <source>ungleich</source>

@@ -3,33 +3,37 @@
 <TS version="2.1" language="nb" sourcelanguage="de">
 <context>
     <name>VelkGeomCoreGui</name>
-    <message>
-        <source>%1 Projekte gefunden</source>
-        <translation>%1 prosjekter funnet</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 av %Ln prosjekt</numerusform>
+            <numerusform>%1 av %Ln prosjekter</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 Zeilen</source>
-        <translation>%1 linjer</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 av %Ln linje</numerusform>
+            <numerusform>%1 av %Ln linjer</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Projekten</source>
-        <translation>%1 av %2 prosjekter</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e) gefunden</source>
+        <translation>
+            <numerusform>%Ln prosjekt funnet</numerusform>
+            <numerusform>%Ln prosjekter funnet</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Zeilen</source>
-        <translation>%1 av %2 linjer</translation>
+    <message numerus="yes">
+        <source>%Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%Ln linje</numerusform>
+            <numerusform>%Ln linjer</numerusform>
+        </translation>
     </message>
     <message>
         <source>(leer)</source>
         <translation>(tom)</translation>
-    </message>
-    <message>
-        <source>1 Projekt gefunden</source>
-        <translation>1 prosjekt funnet</translation>
-    </message>
-    <message>
-        <source>1 Zeile</source>
-        <translation>1 linje</translation>
     </message>
     <message>
         <source>Alle Spalten einblenden</source>
@@ -87,9 +91,12 @@
         <source>Die Suche steht nicht zur Verfügung.</source>
         <translation>Søket er ikke tilgjengelig.</translation>
     </message>
-    <message>
-        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
-        <translation>De første %1 prosjektene; det finnes flere. Søk mer presist.</translation>
+    <message numerus="yes">
+        <source>Die ersten %Ln Projekt(e); es gibt mehr. Suchen Sie genauer.</source>
+        <translation>
+            <numerusform>Det første %Ln prosjektet; det finnes flere. Søk mer presist.</numerusform>
+            <numerusform>De første %Ln prosjektene; det finnes flere. Søk mer presist.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Erneut versuchen</source>
@@ -250,8 +257,8 @@
         <translation>Verdier i kolonnen %1</translation>
     </message>
     <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Verdiområde (%1 verdier): %2</translation>
+        <source>Wertebereich (Werte: %1): %2</source>
+        <translation>Verdiområde (verdier: %1): %2</translation>
     </message>
     <message>
         <source>Wird gesucht ...</source>
@@ -329,17 +336,26 @@
         <source>plus</source>
         <translation>pluss</translation>
     </message>
-    <message>
-        <source>und %1 seltenere Werte</source>
-        <translation>og %1 sjeldnere verdier</translation>
+    <message numerus="yes">
+        <source>und %Ln seltenere(r) Wert(e)</source>
+        <translation>
+            <numerusform>og %Ln sjeldnere verdi</numerusform>
+            <numerusform>og %Ln sjeldnere verdier</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>og %1 til</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>og %Ln til</numerusform>
+            <numerusform>og %Ln til</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere Zeilen</source>
-        <translation>og %1 linjer til</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere Zeile(n)</source>
+        <translation>
+            <numerusform>og %Ln linje til</numerusform>
+            <numerusform>og %Ln linjer til</numerusform>
+        </translation>
     </message>
     <message>
         <source>ungleich</source>

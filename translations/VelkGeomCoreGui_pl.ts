@@ -3,33 +3,41 @@
 <TS version="2.1" language="pl" sourcelanguage="de">
 <context>
     <name>VelkGeomCoreGui</name>
-    <message>
-        <source>%1 Projekte gefunden</source>
-        <translation>Znaleziono projektów: %1</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 z %Ln projektu</numerusform>
+            <numerusform>%1 z %Ln projektów</numerusform>
+            <numerusform>%1 z %Ln projektów</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 Zeilen</source>
-        <translation>Wierszy: %1</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 z %Ln wiersza</numerusform>
+            <numerusform>%1 z %Ln wierszy</numerusform>
+            <numerusform>%1 z %Ln wierszy</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Projekten</source>
-        <translation>%1 z %2 projektów</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e) gefunden</source>
+        <translation>
+            <numerusform>Znaleziono %Ln projekt</numerusform>
+            <numerusform>Znaleziono %Ln projekty</numerusform>
+            <numerusform>Znaleziono %Ln projektów</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Zeilen</source>
-        <translation>%1 z %2 wierszy</translation>
+    <message numerus="yes">
+        <source>%Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%Ln wiersz</numerusform>
+            <numerusform>%Ln wiersze</numerusform>
+            <numerusform>%Ln wierszy</numerusform>
+        </translation>
     </message>
     <message>
         <source>(leer)</source>
         <translation>(puste)</translation>
-    </message>
-    <message>
-        <source>1 Projekt gefunden</source>
-        <translation>Znaleziono 1 projekt</translation>
-    </message>
-    <message>
-        <source>1 Zeile</source>
-        <translation>1 wiersz</translation>
     </message>
     <message>
         <source>Alle Spalten einblenden</source>
@@ -87,9 +95,13 @@
         <source>Die Suche steht nicht zur Verfügung.</source>
         <translation>Wyszukiwanie jest niedostępne.</translation>
     </message>
-    <message>
-        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
-        <translation>Pierwsze %1 projektów; jest ich więcej. Szukaj dokładniej.</translation>
+    <message numerus="yes">
+        <source>Die ersten %Ln Projekt(e); es gibt mehr. Suchen Sie genauer.</source>
+        <translation>
+            <numerusform>Pierwszy %Ln projekt; jest ich więcej. Szukaj dokładniej.</numerusform>
+            <numerusform>Pierwsze %Ln projekty; jest ich więcej. Szukaj dokładniej.</numerusform>
+            <numerusform>Pierwszych %Ln projektów; jest ich więcej. Szukaj dokładniej.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Erneut versuchen</source>
@@ -250,8 +262,8 @@
         <translation>Wartości kolumny %1</translation>
     </message>
     <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Zakres wartości (%1 wartości): %2</translation>
+        <source>Wertebereich (Werte: %1): %2</source>
+        <translation>Zakres wartości (wartości: %1): %2</translation>
     </message>
     <message>
         <source>Wird gesucht ...</source>
@@ -329,17 +341,29 @@
         <source>plus</source>
         <translation>plus</translation>
     </message>
-    <message>
-        <source>und %1 seltenere Werte</source>
-        <translation>i %1 rzadszych wartości</translation>
+    <message numerus="yes">
+        <source>und %Ln seltenere(r) Wert(e)</source>
+        <translation>
+            <numerusform>i %Ln rzadsza wartość</numerusform>
+            <numerusform>i %Ln rzadsze wartości</numerusform>
+            <numerusform>i %Ln rzadszych wartości</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>i jeszcze: %1</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>i jeszcze: %Ln</numerusform>
+            <numerusform>i jeszcze: %Ln</numerusform>
+            <numerusform>i jeszcze: %Ln</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere Zeilen</source>
-        <translation>i %1 wierszy więcej</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere Zeile(n)</source>
+        <translation>
+            <numerusform>i jeszcze %Ln wiersz</numerusform>
+            <numerusform>i jeszcze %Ln wiersze</numerusform>
+            <numerusform>i jeszcze %Ln wierszy</numerusform>
+        </translation>
     </message>
     <message>
         <source>ungleich</source>

@@ -3,33 +3,37 @@
 <TS version="2.1" language="pt" sourcelanguage="de">
 <context>
     <name>VelkGeomCoreGui</name>
-    <message>
-        <source>%1 Projekte gefunden</source>
-        <translation>%1 projetos encontrados</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 de %Ln projeto</numerusform>
+            <numerusform>%1 de %Ln projetos</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 Zeilen</source>
-        <translation>%1 linhas</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 de %Ln linha</numerusform>
+            <numerusform>%1 de %Ln linhas</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Projekten</source>
-        <translation>%1 de %2 projetos</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e) gefunden</source>
+        <translation>
+            <numerusform>%Ln projeto encontrado</numerusform>
+            <numerusform>%Ln projetos encontrados</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Zeilen</source>
-        <translation>%1 de %2 linhas</translation>
+    <message numerus="yes">
+        <source>%Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%Ln linha</numerusform>
+            <numerusform>%Ln linhas</numerusform>
+        </translation>
     </message>
     <message>
         <source>(leer)</source>
         <translation>(vazio)</translation>
-    </message>
-    <message>
-        <source>1 Projekt gefunden</source>
-        <translation>1 projeto encontrado</translation>
-    </message>
-    <message>
-        <source>1 Zeile</source>
-        <translation>1 linha</translation>
     </message>
     <message>
         <source>Alle Spalten einblenden</source>
@@ -87,9 +91,12 @@
         <source>Die Suche steht nicht zur Verfügung.</source>
         <translation>A pesquisa não está disponível.</translation>
     </message>
-    <message>
-        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
-        <translation>Os primeiros %1 projetos; há mais. Pesquise com mais precisão.</translation>
+    <message numerus="yes">
+        <source>Die ersten %Ln Projekt(e); es gibt mehr. Suchen Sie genauer.</source>
+        <translation>
+            <numerusform>O primeiro %Ln projeto; há mais. Pesquise com mais precisão.</numerusform>
+            <numerusform>Os primeiros %Ln projetos; há mais. Pesquise com mais precisão.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Erneut versuchen</source>
@@ -250,8 +257,8 @@
         <translation>Valores da coluna %1</translation>
     </message>
     <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Intervalo de valores (%1 valores): %2</translation>
+        <source>Wertebereich (Werte: %1): %2</source>
+        <translation>Intervalo de valores (valores: %1): %2</translation>
     </message>
     <message>
         <source>Wird gesucht ...</source>
@@ -329,17 +336,26 @@
         <source>plus</source>
         <translation>mais</translation>
     </message>
-    <message>
-        <source>und %1 seltenere Werte</source>
-        <translation>e %1 valores mais raros</translation>
+    <message numerus="yes">
+        <source>und %Ln seltenere(r) Wert(e)</source>
+        <translation>
+            <numerusform>e %Ln valor mais raro</numerusform>
+            <numerusform>e %Ln valores mais raros</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>e mais %1</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>e mais %Ln</numerusform>
+            <numerusform>e mais %Ln</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere Zeilen</source>
-        <translation>e mais %1 linhas</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere Zeile(n)</source>
+        <translation>
+            <numerusform>e mais %Ln linha</numerusform>
+            <numerusform>e mais %Ln linhas</numerusform>
+        </translation>
     </message>
     <message>
         <source>ungleich</source>

@@ -3,33 +3,41 @@
 <TS version="2.1" language="ru" sourcelanguage="de">
 <context>
     <name>VelkGeomCoreGui</name>
-    <message>
-        <source>%1 Projekte gefunden</source>
-        <translation>Найдено проектов: %1</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 из %Ln проекта</numerusform>
+            <numerusform>%1 из %Ln проектов</numerusform>
+            <numerusform>%1 из %Ln проектов</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 Zeilen</source>
-        <translation>Строк: %1</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 из %Ln строки</numerusform>
+            <numerusform>%1 из %Ln строк</numerusform>
+            <numerusform>%1 из %Ln строк</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Projekten</source>
-        <translation>%1 из %2 проектов</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e) gefunden</source>
+        <translation>
+            <numerusform>Найден %Ln проект</numerusform>
+            <numerusform>Найдено %Ln проекта</numerusform>
+            <numerusform>Найдено %Ln проектов</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Zeilen</source>
-        <translation>%1 из %2 строк</translation>
+    <message numerus="yes">
+        <source>%Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%Ln строка</numerusform>
+            <numerusform>%Ln строки</numerusform>
+            <numerusform>%Ln строк</numerusform>
+        </translation>
     </message>
     <message>
         <source>(leer)</source>
         <translation>(пусто)</translation>
-    </message>
-    <message>
-        <source>1 Projekt gefunden</source>
-        <translation>Найден 1 проект</translation>
-    </message>
-    <message>
-        <source>1 Zeile</source>
-        <translation>1 строка</translation>
     </message>
     <message>
         <source>Alle Spalten einblenden</source>
@@ -87,9 +95,13 @@
         <source>Die Suche steht nicht zur Verfügung.</source>
         <translation>Поиск недоступен.</translation>
     </message>
-    <message>
-        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
-        <translation>Первые %1 проектов; есть и другие. Уточните поиск.</translation>
+    <message numerus="yes">
+        <source>Die ersten %Ln Projekt(e); es gibt mehr. Suchen Sie genauer.</source>
+        <translation>
+            <numerusform>Первый %Ln проект; есть и другие. Уточните поиск.</numerusform>
+            <numerusform>Первые %Ln проекта; есть и другие. Уточните поиск.</numerusform>
+            <numerusform>Первые %Ln проектов; есть и другие. Уточните поиск.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Erneut versuchen</source>
@@ -250,7 +262,7 @@
         <translation>Значения столбца %1</translation>
     </message>
     <message>
-        <source>Wertebereich (%1 Werte): %2</source>
+        <source>Wertebereich (Werte: %1): %2</source>
         <translation>Диапазон значений (значений: %1): %2</translation>
     </message>
     <message>
@@ -329,17 +341,29 @@
         <source>plus</source>
         <translation>плюс</translation>
     </message>
-    <message>
-        <source>und %1 seltenere Werte</source>
-        <translation>и ещё %1 более редких значений</translation>
+    <message numerus="yes">
+        <source>und %Ln seltenere(r) Wert(e)</source>
+        <translation>
+            <numerusform>и ещё %Ln более редкое значение</numerusform>
+            <numerusform>и ещё %Ln более редких значения</numerusform>
+            <numerusform>и ещё %Ln более редких значений</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>и ещё %1</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>и ещё %Ln</numerusform>
+            <numerusform>и ещё %Ln</numerusform>
+            <numerusform>и ещё %Ln</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere Zeilen</source>
-        <translation>и ещё строк: %1</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere Zeile(n)</source>
+        <translation>
+            <numerusform>и ещё %Ln строка</numerusform>
+            <numerusform>и ещё %Ln строки</numerusform>
+            <numerusform>и ещё %Ln строк</numerusform>
+        </translation>
     </message>
     <message>
         <source>ungleich</source>

@@ -3,33 +3,45 @@
 <TS version="2.1" language="sl" sourcelanguage="de">
 <context>
     <name>VelkGeomCoreGui</name>
-    <message>
-        <source>%1 Projekte gefunden</source>
-        <translation>Najdenih projektov: %1</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 od %Ln projekta</numerusform>
+            <numerusform>%1 od %Ln projektov</numerusform>
+            <numerusform>%1 od %Ln projektov</numerusform>
+            <numerusform>%1 od %Ln projektov</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 Zeilen</source>
-        <translation>Vrstic: %1</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 od %Ln vrstice</numerusform>
+            <numerusform>%1 od %Ln vrstic</numerusform>
+            <numerusform>%1 od %Ln vrstic</numerusform>
+            <numerusform>%1 od %Ln vrstic</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Projekten</source>
-        <translation>%1 od %2 projektov</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e) gefunden</source>
+        <translation>
+            <numerusform>Najden %Ln projekt</numerusform>
+            <numerusform>Najdena %Ln projekta</numerusform>
+            <numerusform>Najdeni %Ln projekti</numerusform>
+            <numerusform>Najdenih %Ln projektov</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Zeilen</source>
-        <translation>%1 od %2 vrstic</translation>
+    <message numerus="yes">
+        <source>%Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%Ln vrstica</numerusform>
+            <numerusform>%Ln vrstici</numerusform>
+            <numerusform>%Ln vrstice</numerusform>
+            <numerusform>%Ln vrstic</numerusform>
+        </translation>
     </message>
     <message>
         <source>(leer)</source>
         <translation>(prazno)</translation>
-    </message>
-    <message>
-        <source>1 Projekt gefunden</source>
-        <translation>Najden 1 projekt</translation>
-    </message>
-    <message>
-        <source>1 Zeile</source>
-        <translation>1 vrstica</translation>
     </message>
     <message>
         <source>Alle Spalten einblenden</source>
@@ -87,9 +99,14 @@
         <source>Die Suche steht nicht zur Verfügung.</source>
         <translation>Iskanje ni na voljo.</translation>
     </message>
-    <message>
-        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
-        <translation>Prvih %1 projektov; obstajajo še drugi. Iščite natančneje.</translation>
+    <message numerus="yes">
+        <source>Die ersten %Ln Projekt(e); es gibt mehr. Suchen Sie genauer.</source>
+        <translation>
+            <numerusform>Prvi %Ln projekt; obstajajo še drugi. Iščite natančneje.</numerusform>
+            <numerusform>Prva %Ln projekta; obstajajo še drugi. Iščite natančneje.</numerusform>
+            <numerusform>Prvi %Ln projekti; obstajajo še drugi. Iščite natančneje.</numerusform>
+            <numerusform>Prvih %Ln projektov; obstajajo še drugi. Iščite natančneje.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Erneut versuchen</source>
@@ -250,7 +267,7 @@
         <translation>Vrednosti stolpca %1</translation>
     </message>
     <message>
-        <source>Wertebereich (%1 Werte): %2</source>
+        <source>Wertebereich (Werte: %1): %2</source>
         <translation>Območje vrednosti (vrednosti: %1): %2</translation>
     </message>
     <message>
@@ -329,17 +346,32 @@
         <source>plus</source>
         <translation>plus</translation>
     </message>
-    <message>
-        <source>und %1 seltenere Werte</source>
-        <translation>in %1 redkejših vrednosti</translation>
+    <message numerus="yes">
+        <source>und %Ln seltenere(r) Wert(e)</source>
+        <translation>
+            <numerusform>in %Ln redkejša vrednost</numerusform>
+            <numerusform>in %Ln redkejši vrednosti</numerusform>
+            <numerusform>in %Ln redkejše vrednosti</numerusform>
+            <numerusform>in %Ln redkejših vrednosti</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>in še %1</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>in še %Ln</numerusform>
+            <numerusform>in še %Ln</numerusform>
+            <numerusform>in še %Ln</numerusform>
+            <numerusform>in še %Ln</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere Zeilen</source>
-        <translation>in še %1 vrstic</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere Zeile(n)</source>
+        <translation>
+            <numerusform>in še %Ln vrstica</numerusform>
+            <numerusform>in še %Ln vrstici</numerusform>
+            <numerusform>in še %Ln vrstice</numerusform>
+            <numerusform>in še %Ln vrstic</numerusform>
+        </translation>
     </message>
     <message>
         <source>ungleich</source>

@@ -3,33 +3,37 @@
 <TS version="2.1" language="sv" sourcelanguage="de">
 <context>
     <name>VelkGeomCoreGui</name>
-    <message>
-        <source>%1 Projekte gefunden</source>
-        <translation>%1 projekt hittades</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 av %Ln projekt</numerusform>
+            <numerusform>%1 av %Ln projekt</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 Zeilen</source>
-        <translation>%1 rader</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%1 av %Ln rad</numerusform>
+            <numerusform>%1 av %Ln rader</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Projekten</source>
-        <translation>%1 av %2 projekt</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e) gefunden</source>
+        <translation>
+            <numerusform>%Ln projekt hittades</numerusform>
+            <numerusform>%Ln projekt hittades</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Zeilen</source>
-        <translation>%1 av %2 rader</translation>
+    <message numerus="yes">
+        <source>%Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%Ln rad</numerusform>
+            <numerusform>%Ln rader</numerusform>
+        </translation>
     </message>
     <message>
         <source>(leer)</source>
         <translation>(tom)</translation>
-    </message>
-    <message>
-        <source>1 Projekt gefunden</source>
-        <translation>1 projekt hittades</translation>
-    </message>
-    <message>
-        <source>1 Zeile</source>
-        <translation>1 rad</translation>
     </message>
     <message>
         <source>Alle Spalten einblenden</source>
@@ -87,9 +91,12 @@
         <source>Die Suche steht nicht zur Verfügung.</source>
         <translation>Sökningen är inte tillgänglig.</translation>
     </message>
-    <message>
-        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
-        <translation>De första %1 projekten; det finns fler. Sök mer exakt.</translation>
+    <message numerus="yes">
+        <source>Die ersten %Ln Projekt(e); es gibt mehr. Suchen Sie genauer.</source>
+        <translation>
+            <numerusform>Det första %Ln projektet; det finns fler. Sök mer exakt.</numerusform>
+            <numerusform>De första %Ln projekten; det finns fler. Sök mer exakt.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Erneut versuchen</source>
@@ -250,8 +257,8 @@
         <translation>Värden i kolumnen %1</translation>
     </message>
     <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Värdeområde (%1 värden): %2</translation>
+        <source>Wertebereich (Werte: %1): %2</source>
+        <translation>Värdeområde (värden: %1): %2</translation>
     </message>
     <message>
         <source>Wird gesucht ...</source>
@@ -329,17 +336,26 @@
         <source>plus</source>
         <translation>plus</translation>
     </message>
-    <message>
-        <source>und %1 seltenere Werte</source>
-        <translation>och %1 mer sällsynta värden</translation>
+    <message numerus="yes">
+        <source>und %Ln seltenere(r) Wert(e)</source>
+        <translation>
+            <numerusform>och %Ln mer sällsynt värde</numerusform>
+            <numerusform>och %Ln mer sällsynta värden</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>och %1 till</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>och %Ln till</numerusform>
+            <numerusform>och %Ln till</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere Zeilen</source>
-        <translation>och %1 rader till</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere Zeile(n)</source>
+        <translation>
+            <numerusform>och %Ln rad till</numerusform>
+            <numerusform>och %Ln rader till</numerusform>
+        </translation>
     </message>
     <message>
         <source>ungleich</source>

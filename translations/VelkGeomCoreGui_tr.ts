@@ -3,33 +3,33 @@
 <TS version="2.1" language="tr" sourcelanguage="de">
 <context>
     <name>VelkGeomCoreGui</name>
-    <message>
-        <source>%1 Projekte gefunden</source>
-        <translation>%1 proje bulundu</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 / %Ln proje</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 Zeilen</source>
-        <translation>%1 satır</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%Ln satırdan %1</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Projekten</source>
-        <translation>%1 / %2 proje</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e) gefunden</source>
+        <translation>
+            <numerusform>%Ln proje bulundu</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Zeilen</source>
-        <translation>%2 satırdan %1</translation>
+    <message numerus="yes">
+        <source>%Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%Ln satır</numerusform>
+        </translation>
     </message>
     <message>
         <source>(leer)</source>
         <translation>(boş)</translation>
-    </message>
-    <message>
-        <source>1 Projekt gefunden</source>
-        <translation>1 proje bulundu</translation>
-    </message>
-    <message>
-        <source>1 Zeile</source>
-        <translation>1 satır</translation>
     </message>
     <message>
         <source>Alle Spalten einblenden</source>
@@ -87,9 +87,11 @@
         <source>Die Suche steht nicht zur Verfügung.</source>
         <translation>Arama kullanılamıyor.</translation>
     </message>
-    <message>
-        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
-        <translation>İlk %1 proje; daha fazlası var. Daha ayrıntılı arayın.</translation>
+    <message numerus="yes">
+        <source>Die ersten %Ln Projekt(e); es gibt mehr. Suchen Sie genauer.</source>
+        <translation>
+            <numerusform>İlk %Ln proje; daha fazlası var. Daha ayrıntılı arayın.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Erneut versuchen</source>
@@ -250,8 +252,8 @@
         <translation>%1 sütununun değerleri</translation>
     </message>
     <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>Değer aralığı (%1 değer): %2</translation>
+        <source>Wertebereich (Werte: %1): %2</source>
+        <translation>Değer aralığı (değer sayısı: %1): %2</translation>
     </message>
     <message>
         <source>Wird gesucht ...</source>
@@ -329,17 +331,23 @@
         <source>plus</source>
         <translation>artı</translation>
     </message>
-    <message>
-        <source>und %1 seltenere Werte</source>
-        <translation>ve %1 daha seyrek değer</translation>
+    <message numerus="yes">
+        <source>und %Ln seltenere(r) Wert(e)</source>
+        <translation>
+            <numerusform>ve %Ln daha seyrek değer</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>ve %1 tane daha</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>ve %Ln tane daha</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere Zeilen</source>
-        <translation>ve %1 satır daha</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere Zeile(n)</source>
+        <translation>
+            <numerusform>ve %Ln satır daha</numerusform>
+        </translation>
     </message>
     <message>
         <source>ungleich</source>

@@ -3,33 +3,33 @@
 <TS version="2.1" language="zh_CN" sourcelanguage="de">
 <context>
     <name>VelkGeomCoreGui</name>
-    <message>
-        <source>%1 Projekte gefunden</source>
-        <translation>找到 %1 个项目</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Projekt(en)</source>
+        <translation>
+            <numerusform>%1 / %Ln 个项目</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 Zeilen</source>
-        <translation>%1 行</translation>
+    <message numerus="yes">
+        <source>%1 von %Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%Ln 行中的 %1 行</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Projekten</source>
-        <translation>%1 / %2 个项目</translation>
+    <message numerus="yes">
+        <source>%Ln Projekt(e) gefunden</source>
+        <translation>
+            <numerusform>找到 %Ln 个项目</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 von %2 Zeilen</source>
-        <translation>%2 行中的 %1 行</translation>
+    <message numerus="yes">
+        <source>%Ln Zeile(n)</source>
+        <translation>
+            <numerusform>%Ln 行</numerusform>
+        </translation>
     </message>
     <message>
         <source>(leer)</source>
         <translation>(空)</translation>
-    </message>
-    <message>
-        <source>1 Projekt gefunden</source>
-        <translation>找到 1 个项目</translation>
-    </message>
-    <message>
-        <source>1 Zeile</source>
-        <translation>1 行</translation>
     </message>
     <message>
         <source>Alle Spalten einblenden</source>
@@ -87,9 +87,11 @@
         <source>Die Suche steht nicht zur Verfügung.</source>
         <translation>搜索不可用。</translation>
     </message>
-    <message>
-        <source>Die ersten %1 Projekte; es gibt mehr. Suchen Sie genauer.</source>
-        <translation>前 %1 个项目；还有更多。请更精确地搜索。</translation>
+    <message numerus="yes">
+        <source>Die ersten %Ln Projekt(e); es gibt mehr. Suchen Sie genauer.</source>
+        <translation>
+            <numerusform>前 %Ln 个项目；还有更多。请更精确地搜索。</numerusform>
+        </translation>
     </message>
     <message>
         <source>Erneut versuchen</source>
@@ -250,8 +252,8 @@
         <translation>列 %1 的值</translation>
     </message>
     <message>
-        <source>Wertebereich (%1 Werte): %2</source>
-        <translation>值范围（%1 个值）：%2</translation>
+        <source>Wertebereich (Werte: %1): %2</source>
+        <translation>值范围（值的个数：%1）：%2</translation>
     </message>
     <message>
         <source>Wird gesucht ...</source>
@@ -329,17 +331,23 @@
         <source>plus</source>
         <translation>加</translation>
     </message>
-    <message>
-        <source>und %1 seltenere Werte</source>
-        <translation>以及 %1 个较少见的值</translation>
+    <message numerus="yes">
+        <source>und %Ln seltenere(r) Wert(e)</source>
+        <translation>
+            <numerusform>以及 %Ln 个较少见的值</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere</source>
-        <translation>还有 %1 个</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere</source>
+        <translation>
+            <numerusform>还有 %Ln 个</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>und %1 weitere Zeilen</source>
-        <translation>还有 %1 行</translation>
+    <message numerus="yes">
+        <source>und %Ln weitere Zeile(n)</source>
+        <translation>
+            <numerusform>还有 %Ln 行</numerusform>
+        </translation>
     </message>
     <message>
         <source>ungleich</source>

@@ -12,24 +12,12 @@
         <translation>"%1" není adresa databáze odkazů. Možné jsou sqlite:SOUBOR a postgresql://UŽIVATEL@POČÍTAČ:PORT/DATABÁZE.</translation>
     </message>
     <message>
-        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
-        <translation>%1 buněk místo %2 jako v záhlaví</translation>
-    </message>
-    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 v revizi %2 neexistuje</translation>
     </message>
     <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1 je databáze jiného programu</translation>
-    </message>
-    <message>
-        <source>%1 weitere</source>
-        <translation>dalších: %1</translation>
-    </message>
-    <message>
-        <source>%1 weitere Fehler</source>
-        <translation>%1 dalších chyb</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -39,9 +27,29 @@
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Není jisté, zda jsou změny potvrzeny: před opakováním se podívejte.</translation>
     </message>
-    <message>
-        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
-        <translation>1 buňka místo %1 jako v záhlaví</translation>
+    <message numerus="yes">
+        <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
+        <translation>
+            <numerusform>%Ln buňka místo %1 jako v záhlaví</numerusform>
+            <numerusform>%Ln buňky místo %1 jako v záhlaví</numerusform>
+            <numerusform>%Ln buněk místo %1 jako v záhlaví</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere</source>
+        <translation>
+            <numerusform>další: %Ln</numerusform>
+            <numerusform>další: %Ln</numerusform>
+            <numerusform>další: %Ln</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere(r) Fehler</source>
+        <translation>
+            <numerusform>%Ln další chyba</numerusform>
+            <numerusform>%Ln další chyby</numerusform>
+            <numerusform>%Ln dalších chyb</numerusform>
+        </translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -323,9 +331,13 @@
         <source>ERP-Nummer</source>
         <translation>Číslo ERP</translation>
     </message>
-    <message>
-        <source>Ein Text in der Formel für %1 wird länger als %2 Zeichen und bleibt ohne Wert</source>
-        <translation>Text ve vzorci pro %1 je delší než %2 znaků a zůstává bez hodnoty</translation>
+    <message numerus="yes">
+        <source>Ein Text in der Formel für %1 wird länger als %Ln Zeichen und bleibt ohne Wert</source>
+        <translation>
+            <numerusform>Text ve vzorci pro %1 je delší než %Ln znak a zůstává bez hodnoty</numerusform>
+            <numerusform>Text ve vzorci pro %1 je delší než %Ln znaky a zůstává bez hodnoty</numerusform>
+            <numerusform>Text ve vzorci pro %1 je delší než %Ln znaků a zůstává bez hodnoty</numerusform>
+        </translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -549,9 +561,13 @@
         <source>der Name der Datei enthält ein NUL-Zeichen</source>
         <translation>název souboru obsahuje znak NUL</translation>
     </message>
-    <message>
-        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
-        <translation>rozsah hodnot „%1“ pro %2 má %3 hodnot; projde se jen %4</translation>
+    <message numerus="yes">
+        <source>der Wertebereich „%1“ von %2 hat zu viele Werte (%3); nur %Ln werden durchlaufen</source>
+        <translation>
+            <numerusform>rozsah hodnot „%1“ pro %2 má příliš mnoho hodnot (%3); projde se jen %Ln</numerusform>
+            <numerusform>rozsah hodnot „%1“ pro %2 má příliš mnoho hodnot (%3); projdou se jen %Ln</numerusform>
+            <numerusform>rozsah hodnot „%1“ pro %2 má příliš mnoho hodnot (%3); projde se jen %Ln</numerusform>
+        </translation>
     </message>
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
@@ -729,9 +745,13 @@
         <source>ohne Gegenstück: %1</source>
         <translation>bez protějšku: %1</translation>
     </message>
-    <message>
-        <source>so in %1 weiteren Zeilen</source>
-        <translation>takto v dalších řádcích: %1</translation>
+    <message numerus="yes">
+        <source>so in %Ln weiteren Zeile(n)</source>
+        <translation>
+            <numerusform>takto v %Ln dalším řádku</numerusform>
+            <numerusform>takto ve %Ln dalších řádcích</numerusform>
+            <numerusform>takto v %Ln dalších řádcích</numerusform>
+        </translation>
     </message>
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>

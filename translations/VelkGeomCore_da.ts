@@ -12,24 +12,12 @@
         <translation>"%1" er ikke adressen på en linkdatabase. Mulige er sqlite:FIL og postgresql://BRUGER@VÆRT:PORT/DATABASE.</translation>
     </message>
     <message>
-        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
-        <translation>%1 celler i stedet for %2 som i overskriften</translation>
-    </message>
-    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 findes ikke i revision %2</translation>
     </message>
     <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1 er et andet programs database</translation>
-    </message>
-    <message>
-        <source>%1 weitere</source>
-        <translation>%1 flere</translation>
-    </message>
-    <message>
-        <source>%1 weitere Fehler</source>
-        <translation>%1 fejl mere</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -39,9 +27,26 @@
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Det er uvist, om ændringerne er gemt: se efter, før de gentages.</translation>
     </message>
-    <message>
-        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
-        <translation>1 celle i stedet for %1 som i overskriften</translation>
+    <message numerus="yes">
+        <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
+        <translation>
+            <numerusform>%Ln celle i stedet for %1 som i overskriften</numerusform>
+            <numerusform>%Ln celler i stedet for %1 som i overskriften</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere</source>
+        <translation>
+            <numerusform>%Ln anden</numerusform>
+            <numerusform>%Ln flere</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere(r) Fehler</source>
+        <translation>
+            <numerusform>%Ln fejl mere</numerusform>
+            <numerusform>%Ln fejl mere</numerusform>
+        </translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -323,9 +328,12 @@
         <source>ERP-Nummer</source>
         <translation>ERP-nummer</translation>
     </message>
-    <message>
-        <source>Ein Text in der Formel für %1 wird länger als %2 Zeichen und bleibt ohne Wert</source>
-        <translation>En tekst i formlen for %1 bliver længere end %2 tegn og forbliver uden værdi</translation>
+    <message numerus="yes">
+        <source>Ein Text in der Formel für %1 wird länger als %Ln Zeichen und bleibt ohne Wert</source>
+        <translation>
+            <numerusform>En tekst i formlen for %1 bliver længere end %Ln tegn og forbliver uden værdi</numerusform>
+            <numerusform>En tekst i formlen for %1 bliver længere end %Ln tegn og forbliver uden værdi</numerusform>
+        </translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -549,9 +557,12 @@
         <source>der Name der Datei enthält ein NUL-Zeichen</source>
         <translation>filens navn indeholder et NUL-tegn</translation>
     </message>
-    <message>
-        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
-        <translation>værdiområdet "%1" for %2 har %3 værdier; kun %4 gennemløbes</translation>
+    <message numerus="yes">
+        <source>der Wertebereich „%1“ von %2 hat zu viele Werte (%3); nur %Ln werden durchlaufen</source>
+        <translation>
+            <numerusform>værdiområdet "%1" for %2 har for mange værdier (%3); kun %Ln gennemløbes</numerusform>
+            <numerusform>værdiområdet "%1" for %2 har for mange værdier (%3); kun %Ln gennemløbes</numerusform>
+        </translation>
     </message>
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
@@ -729,9 +740,12 @@
         <source>ohne Gegenstück: %1</source>
         <translation>uden modstykke: %1</translation>
     </message>
-    <message>
-        <source>so in %1 weiteren Zeilen</source>
-        <translation>således i %1 andre linjer</translation>
+    <message numerus="yes">
+        <source>so in %Ln weiteren Zeile(n)</source>
+        <translation>
+            <numerusform>således i %Ln anden linje</numerusform>
+            <numerusform>således i %Ln andre linjer</numerusform>
+        </translation>
     </message>
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>

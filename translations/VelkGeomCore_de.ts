@@ -12,24 +12,12 @@
         <translation>"%1" ist keine Adresse einer Linkdatenbank. Möglich sind sqlite:DATEI und postgresql://BENUTZER@RECHNER:PORT/DATENBANK.</translation>
     </message>
     <message>
-        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
-        <translation>%1 Zellen statt %2 wie in der Kopfzeile</translation>
-    </message>
-    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 gibt es in Revision %2 nicht</translation>
     </message>
     <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1 ist die Datenbank eines anderen Programms</translation>
-    </message>
-    <message>
-        <source>%1 weitere</source>
-        <translation>%1 weitere</translation>
-    </message>
-    <message>
-        <source>%1 weitere Fehler</source>
-        <translation>%1 weitere Fehler</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -39,9 +27,26 @@
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</translation>
     </message>
-    <message>
-        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
-        <translation>1 Zelle statt %1 wie in der Kopfzeile</translation>
+    <message numerus="yes">
+        <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
+        <translation>
+            <numerusform>%Ln Zelle statt %1 wie in der Kopfzeile</numerusform>
+            <numerusform>%Ln Zellen statt %1 wie in der Kopfzeile</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere</source>
+        <translation>
+            <numerusform>%Ln weitere</numerusform>
+            <numerusform>%Ln weitere</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere(r) Fehler</source>
+        <translation>
+            <numerusform>%Ln weiterer Fehler</numerusform>
+            <numerusform>%Ln weitere Fehler</numerusform>
+        </translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -323,9 +328,12 @@
         <source>ERP-Nummer</source>
         <translation>ERP-Nummer</translation>
     </message>
-    <message>
-        <source>Ein Text in der Formel für %1 wird länger als %2 Zeichen und bleibt ohne Wert</source>
-        <translation>Ein Text in der Formel für %1 wird länger als %2 Zeichen und bleibt ohne Wert</translation>
+    <message numerus="yes">
+        <source>Ein Text in der Formel für %1 wird länger als %Ln Zeichen und bleibt ohne Wert</source>
+        <translation>
+            <numerusform>Ein Text in der Formel für %1 wird länger als %Ln Zeichen und bleibt ohne Wert</numerusform>
+            <numerusform>Ein Text in der Formel für %1 wird länger als %Ln Zeichen und bleibt ohne Wert</numerusform>
+        </translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -549,9 +557,12 @@
         <source>der Name der Datei enthält ein NUL-Zeichen</source>
         <translation>der Name der Datei enthält ein NUL-Zeichen</translation>
     </message>
-    <message>
-        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
-        <translation>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</translation>
+    <message numerus="yes">
+        <source>der Wertebereich „%1“ von %2 hat zu viele Werte (%3); nur %Ln werden durchlaufen</source>
+        <translation>
+            <numerusform>der Wertebereich „%1“ von %2 hat zu viele Werte (%3); nur %Ln wird durchlaufen</numerusform>
+            <numerusform>der Wertebereich „%1“ von %2 hat zu viele Werte (%3); nur %Ln werden durchlaufen</numerusform>
+        </translation>
     </message>
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
@@ -729,9 +740,12 @@
         <source>ohne Gegenstück: %1</source>
         <translation>ohne Gegenstück: %1</translation>
     </message>
-    <message>
-        <source>so in %1 weiteren Zeilen</source>
-        <translation>so in %1 weiteren Zeilen</translation>
+    <message numerus="yes">
+        <source>so in %Ln weiteren Zeile(n)</source>
+        <translation>
+            <numerusform>so in %Ln weiteren Zeile</numerusform>
+            <numerusform>so in %Ln weiteren Zeilen</numerusform>
+        </translation>
     </message>
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>

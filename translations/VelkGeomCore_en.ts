@@ -12,24 +12,12 @@
         <translation>"%1" is no address of a link database. Possible are sqlite:FILE and postgresql://USER@HOST:PORT/DATABASE.</translation>
     </message>
     <message>
-        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
-        <translation>%1 cells instead of %2, as the header row has</translation>
-    </message>
-    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 does not exist in revision %2</translation>
     </message>
     <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1 is the database of another program</translation>
-    </message>
-    <message>
-        <source>%1 weitere</source>
-        <translation>%1 more</translation>
-    </message>
-    <message>
-        <source>%1 weitere Fehler</source>
-        <translation>%1 more errors</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -39,9 +27,26 @@
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Whether the changes were committed is not certain: look before you repeat them.</translation>
     </message>
-    <message>
-        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
-        <translation>1 cell instead of %1, as the header row has</translation>
+    <message numerus="yes">
+        <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
+        <translation>
+            <numerusform>%Ln cell instead of %1, as the header row has</numerusform>
+            <numerusform>%Ln cells instead of %1, as the header row has</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere</source>
+        <translation>
+            <numerusform>%Ln more</numerusform>
+            <numerusform>%Ln more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere(r) Fehler</source>
+        <translation>
+            <numerusform>%Ln more error</numerusform>
+            <numerusform>%Ln more errors</numerusform>
+        </translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -323,9 +328,12 @@
         <source>ERP-Nummer</source>
         <translation>ERP number</translation>
     </message>
-    <message>
-        <source>Ein Text in der Formel für %1 wird länger als %2 Zeichen und bleibt ohne Wert</source>
-        <translation>A text in the formula for %1 becomes longer than %2 characters and has no value</translation>
+    <message numerus="yes">
+        <source>Ein Text in der Formel für %1 wird länger als %Ln Zeichen und bleibt ohne Wert</source>
+        <translation>
+            <numerusform>A text in the formula for %1 becomes longer than %Ln character and has no value</numerusform>
+            <numerusform>A text in the formula for %1 becomes longer than %Ln characters and has no value</numerusform>
+        </translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -549,9 +557,12 @@
         <source>der Name der Datei enthält ein NUL-Zeichen</source>
         <translation>the name of the file has a NUL in it</translation>
     </message>
-    <message>
-        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
-        <translation>the value range "%1" of %2 has %3 values; only %4 are walked</translation>
+    <message numerus="yes">
+        <source>der Wertebereich „%1“ von %2 hat zu viele Werte (%3); nur %Ln werden durchlaufen</source>
+        <translation>
+            <numerusform>the value range "%1" of %2 has too many values (%3); only %Ln is walked</numerusform>
+            <numerusform>the value range "%1" of %2 has too many values (%3); only %Ln are walked</numerusform>
+        </translation>
     </message>
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
@@ -729,9 +740,12 @@
         <source>ohne Gegenstück: %1</source>
         <translation>without counterpart: %1</translation>
     </message>
-    <message>
-        <source>so in %1 weiteren Zeilen</source>
-        <translation>likewise in %1 other lines</translation>
+    <message numerus="yes">
+        <source>so in %Ln weiteren Zeile(n)</source>
+        <translation>
+            <numerusform>likewise in %Ln other line</numerusform>
+            <numerusform>likewise in %Ln other lines</numerusform>
+        </translation>
     </message>
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>

@@ -12,24 +12,12 @@
         <translation>"%1" no es la dirección de una base de enlaces. Son posibles sqlite:ARCHIVO y postgresql://USUARIO@EQUIPO:PUERTO/BASE.</translation>
     </message>
     <message>
-        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
-        <translation>%1 celdas en lugar de %2, como en la cabecera</translation>
-    </message>
-    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 no existe en la revisión %2</translation>
     </message>
     <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1 es la base de datos de otro programa</translation>
-    </message>
-    <message>
-        <source>%1 weitere</source>
-        <translation>%1 más</translation>
-    </message>
-    <message>
-        <source>%1 weitere Fehler</source>
-        <translation>%1 errores más</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -39,9 +27,26 @@
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. No es seguro que los cambios se hayan confirmado: compruébelo antes de repetirlos.</translation>
     </message>
-    <message>
-        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
-        <translation>1 celda en lugar de %1, como en la cabecera</translation>
+    <message numerus="yes">
+        <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
+        <translation>
+            <numerusform>%Ln celda en lugar de %1, como en la cabecera</numerusform>
+            <numerusform>%Ln celdas en lugar de %1, como en la cabecera</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere</source>
+        <translation>
+            <numerusform>%Ln más</numerusform>
+            <numerusform>%Ln más</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere(r) Fehler</source>
+        <translation>
+            <numerusform>%Ln error más</numerusform>
+            <numerusform>%Ln errores más</numerusform>
+        </translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -323,9 +328,12 @@
         <source>ERP-Nummer</source>
         <translation>Número ERP</translation>
     </message>
-    <message>
-        <source>Ein Text in der Formel für %1 wird länger als %2 Zeichen und bleibt ohne Wert</source>
-        <translation>Un texto de la fórmula de %1 supera los %2 caracteres y queda sin valor</translation>
+    <message numerus="yes">
+        <source>Ein Text in der Formel für %1 wird länger als %Ln Zeichen und bleibt ohne Wert</source>
+        <translation>
+            <numerusform>Un texto de la fórmula de %1 supera %Ln carácter y queda sin valor</numerusform>
+            <numerusform>Un texto de la fórmula de %1 supera los %Ln caracteres y queda sin valor</numerusform>
+        </translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -549,9 +557,12 @@
         <source>der Name der Datei enthält ein NUL-Zeichen</source>
         <translation>el nombre del archivo contiene un carácter NUL</translation>
     </message>
-    <message>
-        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
-        <translation>el rango «%1» de %2 tiene %3 valores; solo se recorren %4</translation>
+    <message numerus="yes">
+        <source>der Wertebereich „%1“ von %2 hat zu viele Werte (%3); nur %Ln werden durchlaufen</source>
+        <translation>
+            <numerusform>el rango «%1» de %2 tiene demasiados valores (%3); solo se recorre %Ln</numerusform>
+            <numerusform>el rango «%1» de %2 tiene demasiados valores (%3); solo se recorren %Ln</numerusform>
+        </translation>
     </message>
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
@@ -729,9 +740,12 @@
         <source>ohne Gegenstück: %1</source>
         <translation>sin correspondencia: %1</translation>
     </message>
-    <message>
-        <source>so in %1 weiteren Zeilen</source>
-        <translation>así en otras %1 filas</translation>
+    <message numerus="yes">
+        <source>so in %Ln weiteren Zeile(n)</source>
+        <translation>
+            <numerusform>así en otra fila: %Ln</numerusform>
+            <numerusform>así en otras %Ln filas</numerusform>
+        </translation>
     </message>
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>

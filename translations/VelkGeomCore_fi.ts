@@ -12,24 +12,12 @@
         <translation>"%1" ei ole linkkitietokannan osoite. Mahdollisia ovat sqlite:TIEDOSTO ja postgresql://KÄYTTÄJÄ@KONE:PORTTI/TIETOKANTA.</translation>
     </message>
     <message>
-        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
-        <translation>%1 solua eikä %2 kuten otsikkorivillä</translation>
-    </message>
-    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>Kohdetta %1 ei ole versiossa %2</translation>
     </message>
     <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1 on toisen ohjelman tietokanta</translation>
-    </message>
-    <message>
-        <source>%1 weitere</source>
-        <translation>%1 muuta</translation>
-    </message>
-    <message>
-        <source>%1 weitere Fehler</source>
-        <translation>%1 muuta virhettä</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -39,9 +27,26 @@
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Ei ole varmaa, vahvistettiinko muutokset: tarkista ennen toistamista.</translation>
     </message>
-    <message>
-        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
-        <translation>1 solu eikä %1 kuten otsikkorivillä</translation>
+    <message numerus="yes">
+        <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
+        <translation>
+            <numerusform>%Ln solu eikä %1 kuten otsikkorivillä</numerusform>
+            <numerusform>%Ln solua eikä %1 kuten otsikkorivillä</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere</source>
+        <translation>
+            <numerusform>%Ln muu</numerusform>
+            <numerusform>%Ln muuta</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere(r) Fehler</source>
+        <translation>
+            <numerusform>%Ln muu virhe</numerusform>
+            <numerusform>%Ln muuta virhettä</numerusform>
+        </translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -323,9 +328,12 @@
         <source>ERP-Nummer</source>
         <translation>ERP-numero</translation>
     </message>
-    <message>
-        <source>Ein Text in der Formel für %1 wird länger als %2 Zeichen und bleibt ohne Wert</source>
-        <translation>Kohteen %1 kaavan teksti ylittää %2 merkkiä ja jää ilman arvoa</translation>
+    <message numerus="yes">
+        <source>Ein Text in der Formel für %1 wird länger als %Ln Zeichen und bleibt ohne Wert</source>
+        <translation>
+            <numerusform>Kohteen %1 kaavan teksti ylittää %Ln merkin ja jää ilman arvoa</numerusform>
+            <numerusform>Kohteen %1 kaavan teksti ylittää %Ln merkkiä ja jää ilman arvoa</numerusform>
+        </translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -549,9 +557,12 @@
         <source>der Name der Datei enthält ein NUL-Zeichen</source>
         <translation>tiedoston nimessä on NUL-merkki</translation>
     </message>
-    <message>
-        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
-        <translation>muuttujan %2 arvoalueessa "%1" on %3 arvoa; vain %4 käydään läpi</translation>
+    <message numerus="yes">
+        <source>der Wertebereich „%1“ von %2 hat zu viele Werte (%3); nur %Ln werden durchlaufen</source>
+        <translation>
+            <numerusform>muuttujan %2 arvoalueessa "%1" on liian monta arvoa (%3); vain %Ln käydään läpi</numerusform>
+            <numerusform>muuttujan %2 arvoalueessa "%1" on liian monta arvoa (%3); vain %Ln käydään läpi</numerusform>
+        </translation>
     </message>
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
@@ -729,9 +740,12 @@
         <source>ohne Gegenstück: %1</source>
         <translation>ilman vastinetta: %1</translation>
     </message>
-    <message>
-        <source>so in %1 weiteren Zeilen</source>
-        <translation>samoin %1 muulla rivillä</translation>
+    <message numerus="yes">
+        <source>so in %Ln weiteren Zeile(n)</source>
+        <translation>
+            <numerusform>samoin %Ln muulla rivillä</numerusform>
+            <numerusform>samoin %Ln muulla rivillä</numerusform>
+        </translation>
     </message>
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>

@@ -12,24 +12,12 @@
         <translation>"%1" n'est pas l'adresse d'une base de liens. Possibles : sqlite:FICHIER et postgresql://UTILISATEUR@HÔTE:PORT/BASE.</translation>
     </message>
     <message>
-        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
-        <translation>%1 cellules au lieu de %2 comme dans l'en-tête</translation>
-    </message>
-    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 n'existe pas dans la révision %2</translation>
     </message>
     <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1 est la base de données d'un autre programme</translation>
-    </message>
-    <message>
-        <source>%1 weitere</source>
-        <translation>%1 autres</translation>
-    </message>
-    <message>
-        <source>%1 weitere Fehler</source>
-        <translation>%1 autres erreurs</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -39,9 +27,26 @@
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Il n'est pas certain que les modifications soient validées : vérifier avant de recommencer.</translation>
     </message>
-    <message>
-        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
-        <translation>1 cellule au lieu de %1 comme dans l'en-tête</translation>
+    <message numerus="yes">
+        <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
+        <translation>
+            <numerusform>%Ln cellule au lieu de %1 comme dans l'en-tête</numerusform>
+            <numerusform>%Ln cellules au lieu de %1 comme dans l'en-tête</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere</source>
+        <translation>
+            <numerusform>%Ln autre</numerusform>
+            <numerusform>%Ln autres</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere(r) Fehler</source>
+        <translation>
+            <numerusform>%Ln autre erreur</numerusform>
+            <numerusform>%Ln autres erreurs</numerusform>
+        </translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -323,9 +328,12 @@
         <source>ERP-Nummer</source>
         <translation>Numéro ERP</translation>
     </message>
-    <message>
-        <source>Ein Text in der Formel für %1 wird länger als %2 Zeichen und bleibt ohne Wert</source>
-        <translation>Un texte de la formule pour %1 dépasse %2 caractères et reste sans valeur</translation>
+    <message numerus="yes">
+        <source>Ein Text in der Formel für %1 wird länger als %Ln Zeichen und bleibt ohne Wert</source>
+        <translation>
+            <numerusform>Un texte de la formule pour %1 dépasse %Ln caractère et reste sans valeur</numerusform>
+            <numerusform>Un texte de la formule pour %1 dépasse %Ln caractères et reste sans valeur</numerusform>
+        </translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -549,9 +557,12 @@
         <source>der Name der Datei enthält ein NUL-Zeichen</source>
         <translation>le nom du fichier contient un caractère NUL</translation>
     </message>
-    <message>
-        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
-        <translation>la plage « %1 » de %2 a %3 valeurs ; seules %4 sont parcourues</translation>
+    <message numerus="yes">
+        <source>der Wertebereich „%1“ von %2 hat zu viele Werte (%3); nur %Ln werden durchlaufen</source>
+        <translation>
+            <numerusform>la plage « %1 » de %2 a trop de valeurs (%3) ; seule %Ln est parcourue</numerusform>
+            <numerusform>la plage « %1 » de %2 a trop de valeurs (%3) ; seules %Ln sont parcourues</numerusform>
+        </translation>
     </message>
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
@@ -729,9 +740,12 @@
         <source>ohne Gegenstück: %1</source>
         <translation>sans équivalent : %1</translation>
     </message>
-    <message>
-        <source>so in %1 weiteren Zeilen</source>
-        <translation>de même dans %1 autres lignes</translation>
+    <message numerus="yes">
+        <source>so in %Ln weiteren Zeile(n)</source>
+        <translation>
+            <numerusform>de même dans %Ln autre ligne</numerusform>
+            <numerusform>de même dans %Ln autres lignes</numerusform>
+        </translation>
     </message>
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>

@@ -12,24 +12,12 @@
         <translation>"%1" nem egy hivatkozási adatbázis címe. Lehetséges: sqlite:FÁJL és postgresql://FELHASZNÁLÓ@GÉP:PORT/ADATBÁZIS.</translation>
     </message>
     <message>
-        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
-        <translation>%1 cella %2 helyett, ahogy a fejlécben van</translation>
-    </message>
-    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 nem létezik a(z) %2. revízióban</translation>
     </message>
     <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1 egy másik program adatbázisa</translation>
-    </message>
-    <message>
-        <source>%1 weitere</source>
-        <translation>további %1</translation>
-    </message>
-    <message>
-        <source>%1 weitere Fehler</source>
-        <translation>további %1 hiba</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -39,9 +27,23 @@
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Bizonytalan, hogy a módosítások véglegesítve vannak-e: ismétlés előtt ellenőrizze.</translation>
     </message>
-    <message>
-        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
-        <translation>1 cella %1 helyett, ahogy a fejlécben van</translation>
+    <message numerus="yes">
+        <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
+        <translation>
+            <numerusform>%Ln cella %1 helyett, ahogy a fejlécben van</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere</source>
+        <translation>
+            <numerusform>további %Ln</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere(r) Fehler</source>
+        <translation>
+            <numerusform>további %Ln hiba</numerusform>
+        </translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -323,9 +325,11 @@
         <source>ERP-Nummer</source>
         <translation>ERP-szám</translation>
     </message>
-    <message>
-        <source>Ein Text in der Formel für %1 wird länger als %2 Zeichen und bleibt ohne Wert</source>
-        <translation>A(z) %1 képletében egy szöveg hosszabb %2 karakternél, ezért érték nélkül marad</translation>
+    <message numerus="yes">
+        <source>Ein Text in der Formel für %1 wird länger als %Ln Zeichen und bleibt ohne Wert</source>
+        <translation>
+            <numerusform>A(z) %1 képletében egy szöveg hosszabb %Ln karakternél, ezért érték nélkül marad</numerusform>
+        </translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -549,9 +553,11 @@
         <source>der Name der Datei enthält ein NUL-Zeichen</source>
         <translation>a fájl neve NUL karaktert tartalmaz</translation>
     </message>
-    <message>
-        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
-        <translation>a(z) %2 „%1” értéktartománya %3 értékű; csak %4 lesz bejárva</translation>
+    <message numerus="yes">
+        <source>der Wertebereich „%1“ von %2 hat zu viele Werte (%3); nur %Ln werden durchlaufen</source>
+        <translation>
+            <numerusform>a(z) %2 „%1” értéktartományának túl sok értéke van (%3); csak %Ln lesz bejárva</numerusform>
+        </translation>
     </message>
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
@@ -729,9 +735,11 @@
         <source>ohne Gegenstück: %1</source>
         <translation>pár nélkül: %1</translation>
     </message>
-    <message>
-        <source>so in %1 weiteren Zeilen</source>
-        <translation>további %1 sorban is így</translation>
+    <message numerus="yes">
+        <source>so in %Ln weiteren Zeile(n)</source>
+        <translation>
+            <numerusform>további %Ln sorban is így</numerusform>
+        </translation>
     </message>
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>

@@ -12,24 +12,12 @@
         <translation>"%1" bukan alamat basis data tautan. Yang mungkin: sqlite:BERKAS dan postgresql://PENGGUNA@HOST:PORT/BASISDATA.</translation>
     </message>
     <message>
-        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
-        <translation>%1 sel, bukan %2 seperti di baris kepala</translation>
-    </message>
-    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 tidak ada di revisi %2</translation>
     </message>
     <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1 adalah basis data program lain</translation>
-    </message>
-    <message>
-        <source>%1 weitere</source>
-        <translation>%1 lainnya</translation>
-    </message>
-    <message>
-        <source>%1 weitere Fehler</source>
-        <translation>%1 kesalahan lagi</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -39,9 +27,23 @@
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Tidak pasti apakah perubahan sudah tersimpan: periksa sebelum mengulang.</translation>
     </message>
-    <message>
-        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
-        <translation>1 sel, bukan %1 seperti di baris kepala</translation>
+    <message numerus="yes">
+        <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
+        <translation>
+            <numerusform>%Ln sel, bukan %1 seperti di baris kepala</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere</source>
+        <translation>
+            <numerusform>%Ln lainnya</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere(r) Fehler</source>
+        <translation>
+            <numerusform>%Ln kesalahan lagi</numerusform>
+        </translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -323,9 +325,11 @@
         <source>ERP-Nummer</source>
         <translation>Nomor ERP</translation>
     </message>
-    <message>
-        <source>Ein Text in der Formel für %1 wird länger als %2 Zeichen und bleibt ohne Wert</source>
-        <translation>Sebuah teks dalam rumus untuk %1 melebihi %2 karakter dan tetap tanpa nilai</translation>
+    <message numerus="yes">
+        <source>Ein Text in der Formel für %1 wird länger als %Ln Zeichen und bleibt ohne Wert</source>
+        <translation>
+            <numerusform>Sebuah teks dalam rumus untuk %1 melebihi %Ln karakter dan tetap tanpa nilai</numerusform>
+        </translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -549,9 +553,11 @@
         <source>der Name der Datei enthält ein NUL-Zeichen</source>
         <translation>nama berkas berisi karakter NUL</translation>
     </message>
-    <message>
-        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
-        <translation>rentang "%1" dari %2 memiliki %3 nilai; hanya %4 yang ditelusuri</translation>
+    <message numerus="yes">
+        <source>der Wertebereich „%1“ von %2 hat zu viele Werte (%3); nur %Ln werden durchlaufen</source>
+        <translation>
+            <numerusform>rentang "%1" dari %2 memiliki terlalu banyak nilai (%3); hanya %Ln yang ditelusuri</numerusform>
+        </translation>
     </message>
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
@@ -729,9 +735,11 @@
         <source>ohne Gegenstück: %1</source>
         <translation>tanpa padanan: %1</translation>
     </message>
-    <message>
-        <source>so in %1 weiteren Zeilen</source>
-        <translation>demikian pula di %1 baris lain</translation>
+    <message numerus="yes">
+        <source>so in %Ln weiteren Zeile(n)</source>
+        <translation>
+            <numerusform>demikian pula di %Ln baris lain</numerusform>
+        </translation>
     </message>
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>

@@ -12,24 +12,12 @@
         <translation>"%1" non è l'indirizzo di un database dei collegamenti. Possibili: sqlite:FILE e postgresql://UTENTE@HOST:PORTA/DATABASE.</translation>
     </message>
     <message>
-        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
-        <translation>%1 celle invece di %2 come nell'intestazione</translation>
-    </message>
-    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 non esiste nella revisione %2</translation>
     </message>
     <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1 è il database di un altro programma</translation>
-    </message>
-    <message>
-        <source>%1 weitere</source>
-        <translation>altri %1</translation>
-    </message>
-    <message>
-        <source>%1 weitere Fehler</source>
-        <translation>altri %1 errori</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -39,9 +27,26 @@
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Non è certo che le modifiche siano state confermate: verificare prima di ripeterle.</translation>
     </message>
-    <message>
-        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
-        <translation>1 cella invece di %1 come nell'intestazione</translation>
+    <message numerus="yes">
+        <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
+        <translation>
+            <numerusform>%Ln cella invece di %1 come nell'intestazione</numerusform>
+            <numerusform>%Ln celle invece di %1 come nell'intestazione</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere</source>
+        <translation>
+            <numerusform>ancora %Ln</numerusform>
+            <numerusform>altri %Ln</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere(r) Fehler</source>
+        <translation>
+            <numerusform>ancora %Ln errore</numerusform>
+            <numerusform>altri %Ln errori</numerusform>
+        </translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -323,9 +328,12 @@
         <source>ERP-Nummer</source>
         <translation>Numero ERP</translation>
     </message>
-    <message>
-        <source>Ein Text in der Formel für %1 wird länger als %2 Zeichen und bleibt ohne Wert</source>
-        <translation>Un testo nella formula per %1 supera %2 caratteri e resta senza valore</translation>
+    <message numerus="yes">
+        <source>Ein Text in der Formel für %1 wird länger als %Ln Zeichen und bleibt ohne Wert</source>
+        <translation>
+            <numerusform>Un testo nella formula per %1 supera %Ln carattere e resta senza valore</numerusform>
+            <numerusform>Un testo nella formula per %1 supera %Ln caratteri e resta senza valore</numerusform>
+        </translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -549,9 +557,12 @@
         <source>der Name der Datei enthält ein NUL-Zeichen</source>
         <translation>il nome del file contiene un carattere NUL</translation>
     </message>
-    <message>
-        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
-        <translation>l'intervallo "%1" di %2 ha %3 valori; ne vengono percorsi solo %4</translation>
+    <message numerus="yes">
+        <source>der Wertebereich „%1“ von %2 hat zu viele Werte (%3); nur %Ln werden durchlaufen</source>
+        <translation>
+            <numerusform>l'intervallo "%1" di %2 ha troppi valori (%3); ne viene percorso solo %Ln</numerusform>
+            <numerusform>l'intervallo "%1" di %2 ha troppi valori (%3); ne vengono percorsi solo %Ln</numerusform>
+        </translation>
     </message>
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
@@ -729,9 +740,12 @@
         <source>ohne Gegenstück: %1</source>
         <translation>senza corrispondente: %1</translation>
     </message>
-    <message>
-        <source>so in %1 weiteren Zeilen</source>
-        <translation>così in altre %1 righe</translation>
+    <message numerus="yes">
+        <source>so in %Ln weiteren Zeile(n)</source>
+        <translation>
+            <numerusform>così in un'altra riga: %Ln</numerusform>
+            <numerusform>così in altre %Ln righe</numerusform>
+        </translation>
     </message>
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>

@@ -12,24 +12,12 @@
         <translation>"%1" はリンクデータベースのアドレスではありません。sqlite:ファイル または postgresql://ユーザー@ホスト:ポート/データベース を使えます。</translation>
     </message>
     <message>
-        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
-        <translation>セルが %1 個です。見出し行は %2 個です</translation>
-    </message>
-    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 はリビジョン %2 にありません</translation>
     </message>
     <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1 は別のプログラムのデータベースです</translation>
-    </message>
-    <message>
-        <source>%1 weitere</source>
-        <translation>ほか %1 件</translation>
-    </message>
-    <message>
-        <source>%1 weitere Fehler</source>
-        <translation>ほかに %1 件の誤り</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -39,9 +27,23 @@
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1。変更が確定されたかどうか不明です。繰り返す前に確認してください。</translation>
     </message>
-    <message>
-        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
-        <translation>セルが 1 個です。見出し行は %1 個です</translation>
+    <message numerus="yes">
+        <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
+        <translation>
+            <numerusform>セルが %Ln 個です。見出し行は %1 個です</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere</source>
+        <translation>
+            <numerusform>ほか %Ln 件</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere(r) Fehler</source>
+        <translation>
+            <numerusform>ほかに %Ln 件の誤り</numerusform>
+        </translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -323,9 +325,11 @@
         <source>ERP-Nummer</source>
         <translation>ERP番号</translation>
     </message>
-    <message>
-        <source>Ein Text in der Formel für %1 wird länger als %2 Zeichen und bleibt ohne Wert</source>
-        <translation>%1 の式のテキストが %2 文字を超えるため、値はありません</translation>
+    <message numerus="yes">
+        <source>Ein Text in der Formel für %1 wird länger als %Ln Zeichen und bleibt ohne Wert</source>
+        <translation>
+            <numerusform>%1 の式のテキストが %Ln 文字を超えるため、値はありません</numerusform>
+        </translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -549,9 +553,11 @@
         <source>der Name der Datei enthält ein NUL-Zeichen</source>
         <translation>ファイル名に NUL 文字が含まれています</translation>
     </message>
-    <message>
-        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
-        <translation>%2 の値範囲「%1」には値が %3 個あります。%4 個だけを調べます</translation>
+    <message numerus="yes">
+        <source>der Wertebereich „%1“ von %2 hat zu viele Werte (%3); nur %Ln werden durchlaufen</source>
+        <translation>
+            <numerusform>%2 の値範囲「%1」は値が多すぎます（%3 個）。%Ln 個だけを調べます</numerusform>
+        </translation>
     </message>
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
@@ -729,9 +735,11 @@
         <source>ohne Gegenstück: %1</source>
         <translation>対応なし: %1</translation>
     </message>
-    <message>
-        <source>so in %1 weiteren Zeilen</source>
-        <translation>ほか %1 行でも同様</translation>
+    <message numerus="yes">
+        <source>so in %Ln weiteren Zeile(n)</source>
+        <translation>
+            <numerusform>ほか %Ln 行でも同様</numerusform>
+        </translation>
     </message>
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>

@@ -12,24 +12,12 @@
         <translation>"%1"은(는) 링크 데이터베이스의 주소가 아닙니다. sqlite:파일 또는 postgresql://사용자@호스트:포트/데이터베이스를 쓸 수 있습니다.</translation>
     </message>
     <message>
-        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
-        <translation>셀이 %1개입니다. 머리글 행은 %2개입니다</translation>
-    </message>
-    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1은(는) 리비전 %2에 없습니다</translation>
     </message>
     <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1은(는) 다른 프로그램의 데이터베이스입니다</translation>
-    </message>
-    <message>
-        <source>%1 weitere</source>
-        <translation>외 %1개</translation>
-    </message>
-    <message>
-        <source>%1 weitere Fehler</source>
-        <translation>그 밖의 오류 %1개</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -39,9 +27,23 @@
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. 변경이 확정되었는지 확실하지 않습니다. 반복하기 전에 확인하십시오.</translation>
     </message>
-    <message>
-        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
-        <translation>셀이 1개입니다. 머리글 행은 %1개입니다</translation>
+    <message numerus="yes">
+        <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
+        <translation>
+            <numerusform>셀이 %Ln개입니다. 머리글 행은 %1개입니다</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere</source>
+        <translation>
+            <numerusform>외 %Ln개</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere(r) Fehler</source>
+        <translation>
+            <numerusform>그 밖의 오류 %Ln개</numerusform>
+        </translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -323,9 +325,11 @@
         <source>ERP-Nummer</source>
         <translation>ERP 번호</translation>
     </message>
-    <message>
-        <source>Ein Text in der Formel für %1 wird länger als %2 Zeichen und bleibt ohne Wert</source>
-        <translation>%1 수식의 텍스트가 %2자를 넘어 값이 없습니다</translation>
+    <message numerus="yes">
+        <source>Ein Text in der Formel für %1 wird länger als %Ln Zeichen und bleibt ohne Wert</source>
+        <translation>
+            <numerusform>%1 수식의 텍스트가 %Ln자를 넘어 값이 없습니다</numerusform>
+        </translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -549,9 +553,11 @@
         <source>der Name der Datei enthält ein NUL-Zeichen</source>
         <translation>파일 이름에 NUL 문자가 있습니다</translation>
     </message>
-    <message>
-        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
-        <translation>%2의 값 범위 "%1"에는 값이 %3개 있습니다. %4개만 살펴봅니다</translation>
+    <message numerus="yes">
+        <source>der Wertebereich „%1“ von %2 hat zu viele Werte (%3); nur %Ln werden durchlaufen</source>
+        <translation>
+            <numerusform>%2의 값 범위 "%1"에는 값이 너무 많습니다(%3개). %Ln개만 살펴봅니다</numerusform>
+        </translation>
     </message>
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
@@ -729,9 +735,11 @@
         <source>ohne Gegenstück: %1</source>
         <translation>대응 없음: %1</translation>
     </message>
-    <message>
-        <source>so in %1 weiteren Zeilen</source>
-        <translation>다른 %1개 행에서도 동일</translation>
+    <message numerus="yes">
+        <source>so in %Ln weiteren Zeile(n)</source>
+        <translation>
+            <numerusform>다른 %Ln개 행에서도 동일</numerusform>
+        </translation>
     </message>
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>

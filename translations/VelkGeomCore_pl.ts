@@ -12,24 +12,12 @@
         <translation>"%1" nie jest adresem bazy łączy. Możliwe są sqlite:PLIK i postgresql://UŻYTKOWNIK@KOMPUTER:PORT/BAZA.</translation>
     </message>
     <message>
-        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
-        <translation>%1 komórek zamiast %2 jak w nagłówku</translation>
-    </message>
-    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 nie istnieje w rewizji %2</translation>
     </message>
     <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1 jest bazą innego programu</translation>
-    </message>
-    <message>
-        <source>%1 weitere</source>
-        <translation>jeszcze %1</translation>
-    </message>
-    <message>
-        <source>%1 weitere Fehler</source>
-        <translation>jeszcze %1 błędów</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -39,9 +27,29 @@
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Nie wiadomo, czy zmiany zostały zatwierdzone: przed powtórzeniem należy sprawdzić.</translation>
     </message>
-    <message>
-        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
-        <translation>1 komórka zamiast %1 jak w nagłówku</translation>
+    <message numerus="yes">
+        <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
+        <translation>
+            <numerusform>%Ln komórka zamiast %1 jak w nagłówku</numerusform>
+            <numerusform>%Ln komórki zamiast %1 jak w nagłówku</numerusform>
+            <numerusform>%Ln komórek zamiast %1 jak w nagłówku</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere</source>
+        <translation>
+            <numerusform>jeszcze %Ln</numerusform>
+            <numerusform>jeszcze %Ln</numerusform>
+            <numerusform>jeszcze %Ln</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere(r) Fehler</source>
+        <translation>
+            <numerusform>jeszcze %Ln błąd</numerusform>
+            <numerusform>jeszcze %Ln błędy</numerusform>
+            <numerusform>jeszcze %Ln błędów</numerusform>
+        </translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -323,9 +331,13 @@
         <source>ERP-Nummer</source>
         <translation>Numer ERP</translation>
     </message>
-    <message>
-        <source>Ein Text in der Formel für %1 wird länger als %2 Zeichen und bleibt ohne Wert</source>
-        <translation>Tekst w formule dla %1 jest dłuższy niż %2 znaków i pozostaje bez wartości</translation>
+    <message numerus="yes">
+        <source>Ein Text in der Formel für %1 wird länger als %Ln Zeichen und bleibt ohne Wert</source>
+        <translation>
+            <numerusform>Tekst w formule dla %1 jest dłuższy niż %Ln znak i pozostaje bez wartości</numerusform>
+            <numerusform>Tekst w formule dla %1 jest dłuższy niż %Ln znaki i pozostaje bez wartości</numerusform>
+            <numerusform>Tekst w formule dla %1 jest dłuższy niż %Ln znaków i pozostaje bez wartości</numerusform>
+        </translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -549,9 +561,13 @@
         <source>der Name der Datei enthält ein NUL-Zeichen</source>
         <translation>nazwa pliku zawiera znak NUL</translation>
     </message>
-    <message>
-        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
-        <translation>zakres „%1” dla %2 ma %3 wartości; przegląda się tylko %4</translation>
+    <message numerus="yes">
+        <source>der Wertebereich „%1“ von %2 hat zu viele Werte (%3); nur %Ln werden durchlaufen</source>
+        <translation>
+            <numerusform>zakres „%1” dla %2 ma za dużo wartości (%3); przegląda się tylko %Ln</numerusform>
+            <numerusform>zakres „%1” dla %2 ma za dużo wartości (%3); przegląda się tylko %Ln</numerusform>
+            <numerusform>zakres „%1” dla %2 ma za dużo wartości (%3); przegląda się tylko %Ln</numerusform>
+        </translation>
     </message>
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
@@ -729,9 +745,13 @@
         <source>ohne Gegenstück: %1</source>
         <translation>bez odpowiednika: %1</translation>
     </message>
-    <message>
-        <source>so in %1 weiteren Zeilen</source>
-        <translation>tak samo w innych wierszach: %1</translation>
+    <message numerus="yes">
+        <source>so in %Ln weiteren Zeile(n)</source>
+        <translation>
+            <numerusform>tak samo w %Ln innym wierszu</numerusform>
+            <numerusform>tak samo w %Ln innych wierszach</numerusform>
+            <numerusform>tak samo w %Ln innych wierszach</numerusform>
+        </translation>
     </message>
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>

@@ -12,24 +12,12 @@
         <translation>"%1" não é o endereço de uma base de ligações. São possíveis sqlite:FICHEIRO e postgresql://UTILIZADOR@HOST:PORTA/BASE.</translation>
     </message>
     <message>
-        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
-        <translation>%1 células em vez de %2 como no cabeçalho</translation>
-    </message>
-    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 não existe na revisão %2</translation>
     </message>
     <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1 é a base de dados de outro programa</translation>
-    </message>
-    <message>
-        <source>%1 weitere</source>
-        <translation>mais %1</translation>
-    </message>
-    <message>
-        <source>%1 weitere Fehler</source>
-        <translation>mais %1 erros</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -39,9 +27,26 @@
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Não é certo que as alterações tenham sido confirmadas: verifique antes de repetir.</translation>
     </message>
-    <message>
-        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
-        <translation>1 célula em vez de %1 como no cabeçalho</translation>
+    <message numerus="yes">
+        <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
+        <translation>
+            <numerusform>%Ln célula em vez de %1 como no cabeçalho</numerusform>
+            <numerusform>%Ln células em vez de %1 como no cabeçalho</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere</source>
+        <translation>
+            <numerusform>mais %Ln</numerusform>
+            <numerusform>mais %Ln</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere(r) Fehler</source>
+        <translation>
+            <numerusform>mais %Ln erro</numerusform>
+            <numerusform>mais %Ln erros</numerusform>
+        </translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -323,9 +328,12 @@
         <source>ERP-Nummer</source>
         <translation>Número ERP</translation>
     </message>
-    <message>
-        <source>Ein Text in der Formel für %1 wird länger als %2 Zeichen und bleibt ohne Wert</source>
-        <translation>Um texto na fórmula de %1 ultrapassa %2 caracteres e fica sem valor</translation>
+    <message numerus="yes">
+        <source>Ein Text in der Formel für %1 wird länger als %Ln Zeichen und bleibt ohne Wert</source>
+        <translation>
+            <numerusform>Um texto na fórmula de %1 ultrapassa %Ln caractere e fica sem valor</numerusform>
+            <numerusform>Um texto na fórmula de %1 ultrapassa %Ln caracteres e fica sem valor</numerusform>
+        </translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -549,9 +557,12 @@
         <source>der Name der Datei enthält ein NUL-Zeichen</source>
         <translation>o nome do ficheiro contém um carácter NUL</translation>
     </message>
-    <message>
-        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
-        <translation>o intervalo "%1" de %2 tem %3 valores; só se percorrem %4</translation>
+    <message numerus="yes">
+        <source>der Wertebereich „%1“ von %2 hat zu viele Werte (%3); nur %Ln werden durchlaufen</source>
+        <translation>
+            <numerusform>o intervalo "%1" de %2 tem demasiados valores (%3); só se percorre %Ln</numerusform>
+            <numerusform>o intervalo "%1" de %2 tem demasiados valores (%3); só se percorrem %Ln</numerusform>
+        </translation>
     </message>
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
@@ -729,9 +740,12 @@
         <source>ohne Gegenstück: %1</source>
         <translation>sem correspondente: %1</translation>
     </message>
-    <message>
-        <source>so in %1 weiteren Zeilen</source>
-        <translation>assim em outras %1 linhas</translation>
+    <message numerus="yes">
+        <source>so in %Ln weiteren Zeile(n)</source>
+        <translation>
+            <numerusform>assim em %Ln outra linha</numerusform>
+            <numerusform>assim em %Ln outras linhas</numerusform>
+        </translation>
     </message>
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>

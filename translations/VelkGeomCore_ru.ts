@@ -12,24 +12,12 @@
         <translation>"%1" не является адресом базы связей. Возможны sqlite:ФАЙЛ и postgresql://ПОЛЬЗОВАТЕЛЬ@УЗЕЛ:ПОРТ/БАЗА.</translation>
     </message>
     <message>
-        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
-        <translation>%1 ячеек вместо %2, как в заголовке</translation>
-    </message>
-    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 нет в ревизии %2</translation>
     </message>
     <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1 — база данных другой программы</translation>
-    </message>
-    <message>
-        <source>%1 weitere</source>
-        <translation>ещё %1</translation>
-    </message>
-    <message>
-        <source>%1 weitere Fehler</source>
-        <translation>ещё ошибок: %1</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -39,9 +27,29 @@
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Неизвестно, зафиксированы ли изменения: проверьте перед повторением.</translation>
     </message>
-    <message>
-        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
-        <translation>1 ячейка вместо %1, как в заголовке</translation>
+    <message numerus="yes">
+        <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
+        <translation>
+            <numerusform>%Ln ячейка вместо %1, как в заголовке</numerusform>
+            <numerusform>%Ln ячейки вместо %1, как в заголовке</numerusform>
+            <numerusform>%Ln ячеек вместо %1, как в заголовке</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere</source>
+        <translation>
+            <numerusform>ещё %Ln</numerusform>
+            <numerusform>ещё %Ln</numerusform>
+            <numerusform>ещё %Ln</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere(r) Fehler</source>
+        <translation>
+            <numerusform>ещё %Ln ошибка</numerusform>
+            <numerusform>ещё %Ln ошибки</numerusform>
+            <numerusform>ещё %Ln ошибок</numerusform>
+        </translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -323,9 +331,13 @@
         <source>ERP-Nummer</source>
         <translation>Номер ERP</translation>
     </message>
-    <message>
-        <source>Ein Text in der Formel für %1 wird länger als %2 Zeichen und bleibt ohne Wert</source>
-        <translation>Текст в формуле для %1 длиннее %2 символов и остаётся без значения</translation>
+    <message numerus="yes">
+        <source>Ein Text in der Formel für %1 wird länger als %Ln Zeichen und bleibt ohne Wert</source>
+        <translation>
+            <numerusform>Текст в формуле для %1 длиннее %Ln символа и остаётся без значения</numerusform>
+            <numerusform>Текст в формуле для %1 длиннее %Ln символов и остаётся без значения</numerusform>
+            <numerusform>Текст в формуле для %1 длиннее %Ln символов и остаётся без значения</numerusform>
+        </translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -549,9 +561,13 @@
         <source>der Name der Datei enthält ein NUL-Zeichen</source>
         <translation>имя файла содержит символ NUL</translation>
     </message>
-    <message>
-        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
-        <translation>в диапазоне «%1» для %2 значений: %3; просматривается лишь %4</translation>
+    <message numerus="yes">
+        <source>der Wertebereich „%1“ von %2 hat zu viele Werte (%3); nur %Ln werden durchlaufen</source>
+        <translation>
+            <numerusform>в диапазоне «%1» для %2 слишком много значений (%3); просматривается лишь %Ln</numerusform>
+            <numerusform>в диапазоне «%1» для %2 слишком много значений (%3); просматриваются лишь %Ln</numerusform>
+            <numerusform>в диапазоне «%1» для %2 слишком много значений (%3); просматривается лишь %Ln</numerusform>
+        </translation>
     </message>
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
@@ -729,9 +745,13 @@
         <source>ohne Gegenstück: %1</source>
         <translation>без соответствия: %1</translation>
     </message>
-    <message>
-        <source>so in %1 weiteren Zeilen</source>
-        <translation>так же в других строках: %1</translation>
+    <message numerus="yes">
+        <source>so in %Ln weiteren Zeile(n)</source>
+        <translation>
+            <numerusform>так же в %Ln другой строке</numerusform>
+            <numerusform>так же в %Ln других строках</numerusform>
+            <numerusform>так же в %Ln других строках</numerusform>
+        </translation>
     </message>
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>

@@ -12,24 +12,12 @@
         <translation>"%1" ni naslov zbirke povezav. Možna sta sqlite:DATOTEKA in postgresql://UPORABNIK@GOSTITELJ:VRATA/ZBIRKA.</translation>
     </message>
     <message>
-        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
-        <translation>%1 celic namesto %2 kot v glavi</translation>
-    </message>
-    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 v reviziji %2 ne obstaja</translation>
     </message>
     <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1 je zbirka drugega programa</translation>
-    </message>
-    <message>
-        <source>%1 weitere</source>
-        <translation>še %1</translation>
-    </message>
-    <message>
-        <source>%1 weitere Fehler</source>
-        <translation>še %1 napak</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -39,9 +27,32 @@
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Ni gotovo, ali so spremembe potrjene: pred ponovitvijo preverite.</translation>
     </message>
-    <message>
-        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
-        <translation>1 celica namesto %1 kot v glavi</translation>
+    <message numerus="yes">
+        <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
+        <translation>
+            <numerusform>%Ln celica namesto %1 kot v glavi</numerusform>
+            <numerusform>%Ln celici namesto %1 kot v glavi</numerusform>
+            <numerusform>%Ln celice namesto %1 kot v glavi</numerusform>
+            <numerusform>%Ln celic namesto %1 kot v glavi</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere</source>
+        <translation>
+            <numerusform>še %Ln</numerusform>
+            <numerusform>še %Ln</numerusform>
+            <numerusform>še %Ln</numerusform>
+            <numerusform>še %Ln</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere(r) Fehler</source>
+        <translation>
+            <numerusform>še %Ln napaka</numerusform>
+            <numerusform>še %Ln napaki</numerusform>
+            <numerusform>še %Ln napake</numerusform>
+            <numerusform>še %Ln napak</numerusform>
+        </translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -323,9 +334,14 @@
         <source>ERP-Nummer</source>
         <translation>Številka ERP</translation>
     </message>
-    <message>
-        <source>Ein Text in der Formel für %1 wird länger als %2 Zeichen und bleibt ohne Wert</source>
-        <translation>Besedilo v formuli za %1 je daljše od %2 znakov in ostane brez vrednosti</translation>
+    <message numerus="yes">
+        <source>Ein Text in der Formel für %1 wird länger als %Ln Zeichen und bleibt ohne Wert</source>
+        <translation>
+            <numerusform>Besedilo v formuli za %1 je daljše od %Ln znaka in ostane brez vrednosti</numerusform>
+            <numerusform>Besedilo v formuli za %1 je daljše od %Ln znakov in ostane brez vrednosti</numerusform>
+            <numerusform>Besedilo v formuli za %1 je daljše od %Ln znakov in ostane brez vrednosti</numerusform>
+            <numerusform>Besedilo v formuli za %1 je daljše od %Ln znakov in ostane brez vrednosti</numerusform>
+        </translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -549,9 +565,14 @@
         <source>der Name der Datei enthält ein NUL-Zeichen</source>
         <translation>ime datoteke vsebuje znak NUL</translation>
     </message>
-    <message>
-        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
-        <translation>območje »%1« za %2 ima %3 vrednosti; pregleda se jih le %4</translation>
+    <message numerus="yes">
+        <source>der Wertebereich „%1“ von %2 hat zu viele Werte (%3); nur %Ln werden durchlaufen</source>
+        <translation>
+            <numerusform>območje »%1« za %2 ima preveč vrednosti (%3); pregleda se le %Ln</numerusform>
+            <numerusform>območje »%1« za %2 ima preveč vrednosti (%3); pregledata se le %Ln</numerusform>
+            <numerusform>območje »%1« za %2 ima preveč vrednosti (%3); pregledajo se le %Ln</numerusform>
+            <numerusform>območje »%1« za %2 ima preveč vrednosti (%3); pregleda se jih le %Ln</numerusform>
+        </translation>
     </message>
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
@@ -729,9 +750,14 @@
         <source>ohne Gegenstück: %1</source>
         <translation>brez ustreznika: %1</translation>
     </message>
-    <message>
-        <source>so in %1 weiteren Zeilen</source>
-        <translation>tako še v %1 vrsticah</translation>
+    <message numerus="yes">
+        <source>so in %Ln weiteren Zeile(n)</source>
+        <translation>
+            <numerusform>tako še v %Ln vrstici</numerusform>
+            <numerusform>tako še v %Ln vrsticah</numerusform>
+            <numerusform>tako še v %Ln vrsticah</numerusform>
+            <numerusform>tako še v %Ln vrsticah</numerusform>
+        </translation>
     </message>
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>

@@ -12,24 +12,12 @@
         <translation>"%1" är ingen adress till en länkdatabas. Möjliga är sqlite:FIL och postgresql://ANVÄNDARE@VÄRD:PORT/DATABAS.</translation>
     </message>
     <message>
-        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
-        <translation>%1 celler i stället för %2 som i rubriken</translation>
-    </message>
-    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 finns inte i revision %2</translation>
     </message>
     <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1 är ett annat programs databas</translation>
-    </message>
-    <message>
-        <source>%1 weitere</source>
-        <translation>%1 till</translation>
-    </message>
-    <message>
-        <source>%1 weitere Fehler</source>
-        <translation>%1 fel till</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -39,9 +27,26 @@
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Det är ovisst om ändringarna är sparade: se efter innan de upprepas.</translation>
     </message>
-    <message>
-        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
-        <translation>1 cell i stället för %1 som i rubriken</translation>
+    <message numerus="yes">
+        <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
+        <translation>
+            <numerusform>%Ln cell i stället för %1 som i rubriken</numerusform>
+            <numerusform>%Ln celler i stället för %1 som i rubriken</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere</source>
+        <translation>
+            <numerusform>%Ln till</numerusform>
+            <numerusform>%Ln till</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere(r) Fehler</source>
+        <translation>
+            <numerusform>%Ln fel till</numerusform>
+            <numerusform>%Ln fel till</numerusform>
+        </translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -323,9 +328,12 @@
         <source>ERP-Nummer</source>
         <translation>ERP-nummer</translation>
     </message>
-    <message>
-        <source>Ein Text in der Formel für %1 wird länger als %2 Zeichen und bleibt ohne Wert</source>
-        <translation>En text i formeln för %1 blir längre än %2 tecken och får inget värde</translation>
+    <message numerus="yes">
+        <source>Ein Text in der Formel für %1 wird länger als %Ln Zeichen und bleibt ohne Wert</source>
+        <translation>
+            <numerusform>En text i formeln för %1 blir längre än %Ln tecken och får inget värde</numerusform>
+            <numerusform>En text i formeln för %1 blir längre än %Ln tecken och får inget värde</numerusform>
+        </translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -549,9 +557,12 @@
         <source>der Name der Datei enthält ein NUL-Zeichen</source>
         <translation>filens namn innehåller ett NUL-tecken</translation>
     </message>
-    <message>
-        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
-        <translation>värdeområdet "%1" för %2 har %3 värden; bara %4 gås igenom</translation>
+    <message numerus="yes">
+        <source>der Wertebereich „%1“ von %2 hat zu viele Werte (%3); nur %Ln werden durchlaufen</source>
+        <translation>
+            <numerusform>värdeområdet "%1" för %2 har för många värden (%3); bara %Ln gås igenom</numerusform>
+            <numerusform>värdeområdet "%1" för %2 har för många värden (%3); bara %Ln gås igenom</numerusform>
+        </translation>
     </message>
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
@@ -729,9 +740,12 @@
         <source>ohne Gegenstück: %1</source>
         <translation>utan motsvarighet: %1</translation>
     </message>
-    <message>
-        <source>so in %1 weiteren Zeilen</source>
-        <translation>likaså i %1 andra rader</translation>
+    <message numerus="yes">
+        <source>so in %Ln weiteren Zeile(n)</source>
+        <translation>
+            <numerusform>likaså i %Ln annan rad</numerusform>
+            <numerusform>likaså i %Ln andra rader</numerusform>
+        </translation>
     </message>
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>

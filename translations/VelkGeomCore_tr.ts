@@ -12,24 +12,12 @@
         <translation>"%1" bir bağlantı veritabanının adresi değil. Olası olanlar: sqlite:DOSYA ve postgresql://KULLANICI@SUNUCU:PORT/VERİTABANI.</translation>
     </message>
     <message>
-        <source>%1 Zellen statt %2 wie in der Kopfzeile</source>
-        <translation>başlık satırındaki gibi %2 yerine %1 hücre</translation>
-    </message>
-    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1, %2 sürümünde yok</translation>
     </message>
     <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1 başka bir programın veritabanı</translation>
-    </message>
-    <message>
-        <source>%1 weitere</source>
-        <translation>%1 tane daha</translation>
-    </message>
-    <message>
-        <source>%1 weitere Fehler</source>
-        <translation>%1 hata daha</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -39,9 +27,23 @@
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Değişikliklerin kaydedilip kaydedilmediği belirsiz: yinelemeden önce bakın.</translation>
     </message>
-    <message>
-        <source>1 Zelle statt %1 wie in der Kopfzeile</source>
-        <translation>başlık satırındaki gibi %1 yerine 1 hücre</translation>
+    <message numerus="yes">
+        <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
+        <translation>
+            <numerusform>başlık satırındaki gibi %1 yerine %Ln hücre</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere</source>
+        <translation>
+            <numerusform>%Ln tane daha</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln weitere(r) Fehler</source>
+        <translation>
+            <numerusform>%Ln hata daha</numerusform>
+        </translation>
     </message>
     <message>
         <source>Abgebrochen: %1</source>
@@ -323,9 +325,11 @@
         <source>ERP-Nummer</source>
         <translation>ERP numarası</translation>
     </message>
-    <message>
-        <source>Ein Text in der Formel für %1 wird länger als %2 Zeichen und bleibt ohne Wert</source>
-        <translation>%1 formülündeki bir metin %2 karakteri aşıyor ve değersiz kalıyor</translation>
+    <message numerus="yes">
+        <source>Ein Text in der Formel für %1 wird länger als %Ln Zeichen und bleibt ohne Wert</source>
+        <translation>
+            <numerusform>%1 formülündeki bir metin %Ln karakteri aşıyor ve değersiz kalıyor</numerusform>
+        </translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -549,9 +553,11 @@
         <source>der Name der Datei enthält ein NUL-Zeichen</source>
         <translation>dosyanın adı bir NUL karakteri içeriyor</translation>
     </message>
-    <message>
-        <source>der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen</source>
-        <translation>%2 için "%1" aralığında %3 değer var; yalnızca %4 tanesi gezilir</translation>
+    <message numerus="yes">
+        <source>der Wertebereich „%1“ von %2 hat zu viele Werte (%3); nur %Ln werden durchlaufen</source>
+        <translation>
+            <numerusform>%2 için "%1" aralığında çok fazla değer var (%3); yalnızca %Ln tanesi gezilir</numerusform>
+        </translation>
     </message>
     <message>
         <source>die Anführungszeichen der Zelle passen nicht zueinander</source>
@@ -729,9 +735,11 @@
         <source>ohne Gegenstück: %1</source>
         <translation>karşılıksız: %1</translation>
     </message>
-    <message>
-        <source>so in %1 weiteren Zeilen</source>
-        <translation>diğer %1 satırda da böyle</translation>
+    <message numerus="yes">
+        <source>so in %Ln weiteren Zeile(n)</source>
+        <translation>
+            <numerusform>diğer %Ln satırda da böyle</numerusform>
+        </translation>
     </message>
     <message>
         <source>sslmode "%1" gibt es nicht; möglich sind: %2</source>

@@ -6,6 +6,7 @@
 #include "TargetMappingWidget.h"
 
 #include <core/message/PStringMessageImpl.h>
+#include <core/text/countText.h>
 #include <core/text/PString.h>
 #include <formula/DlgFormulaEditor.h>
 #include <geomcore/binding/VarsetConditionC.h>
@@ -145,7 +146,7 @@ void TargetMappingWidget::offerCondition(DlgFormulaEditor *dialog)
     if (shown.size() > ShownCondition)
         shown = shown.left(ShownCondition) + QStringLiteral("…");
     button->setText(PString::translate("Aus der Auswahl (%1): %2", "VelkLinkDbGui")
-                        .arg(QString::number(lines.size()), shown.replace(u'&', "&&")));
+                        .arg(countText(lines.size()), shown.replace(u'&', "&&")));
     button->setToolTip(common.condition.toHtmlEscaped());
     dialog->layout()->addWidget(button);
     connect(button, &QPushButton::clicked, dialog, [dialog, condition = common.condition] {

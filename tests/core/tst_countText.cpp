@@ -30,6 +30,17 @@ private Q_SLOTS:
         QLocale::setDefault(before);
         QCOMPARE(usual, countText(count, locale));
     }
+    void groupsDigitsInATextWithoutACatalog()
+    {
+        const QLocale before;
+        QLocale::setDefault(QLocale(QLocale::German));
+        const QString text = translateCount("%Ln Zeile(n) von %1", "VelkLinkDbGui", 1234567);
+        QLocale::setDefault(QLocale::c());
+        const QString plain = translateCount("%Ln Zeile(n) von %1", "VelkLinkDbGui", 1234567);
+        QLocale::setDefault(before);
+        QCOMPARE(text, QString("1.234.567 Zeile(n) von %1"));
+        QCOMPARE(plain, QString("1234567 Zeile(n) von %1"));
+    }
 };
 
 QTEST_GUILESS_MAIN(tst_countText)

@@ -1,3 +1,4 @@
+#include "../support/GermanTexts.h"
 #include "MapperFixture.h"
 
 #include <core/parallel/WorkerPool.h>

@@ -397,8 +397,8 @@ void tst_TableData::marksLargeRanges()
     QVERIFY(result);
     QCOMPARE(result.data->markedRows(), (std::vector<int>{1, 2}));
     QCOMPARE(result.data->warnings().first().toString(),
-             "memory: row 3, column 1: the value range \"0..100000/1\" of L has 100001 values; "
-             "only 100000 are walked");
+             "memory: row 3, column 1: the value range \"0..100000/1\" of L has too many values "
+             "(100001); only 100000 are walked");
     QVERIFY(result.data->warnings().last().text.size() < 400);
 }
 

@@ -1,13 +1,18 @@
+#include "../support/CatalogCheck.h"
 #include "ViewTables.h"
 
 #include <core/json/PJsonValue.h>
 #include <core/message/PScriptedMessageSink.h>
 #include <core/plugin/PTranslateManager.h>
+#include <core/text/countText.h>
 #include <core/text/PString.h>
 #include <geomcore/binding/VarsetConditionC.h>
 #include <geomcore/csv/TableDescriptor.h>
 #include <geomcoregui/table/VkTableView.h>
 
+#include <TestPaths.h>
+
+#include <QDir>
 #include <QFile>
 #include <QLineEdit>
 #include <QTest>
@@ -71,6 +76,91 @@ private Q_SLOTS:
         QTEST(QString(PString::translate(text.toUtf8(), context.toUtf8())), "english");
         PTranslateManager::instance().setLanguage({});
         QCOMPARE(QString(PString::translate(text.toUtf8(), context.toUtf8())), text);
+    }
+
+    void catalogsKeepPlaces_data() { eachLanguageHasACatalog_data(); }
+    void catalogsKeepPlaces()
+    {
+        QFETCH(QString, language);
+        const QDir folder(VELK_SOURCE_DIR "/translations");
+        const QStringList names = folder.entryList({"*_" + language + ".ts"});
+        QStringList faults;
+        for (const QString &name : names) {
+            const CatalogCheck::Faults found =
+                CatalogCheck::faultsOf(folder.filePath(name), language);
+            QVERIFY2(found.texts > 5, qPrintable(name));
+            for (const QString &fault : found.list)
+                faults += name + ": " + fault;
+        }
+        QVERIFY(names.size() >= 5);
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
+    }
+
+    void countsBeforeWordsHaveForms()
+    {
+        QVERIFY(CatalogCheck::countsByHand("1 Zelle statt %1"));
+        const QDir folder(VELK_SOURCE_DIR "/translations");
+        const QStringList names = folder.entryList({"*_en.ts"});
+        QStringList faults;
+        for (const QString &name : names) {
+            QFile file(folder.filePath(name));
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            QXmlStreamReader xml(&file);
+            while (xml.readNext() != QXmlStreamReader::EndDocument && !xml.hasError()) {
+                if (!xml.isStartElement() || xml.name() != QLatin1String("source"))
+                    continue;
+                const QString source = xml.readElementText();
+                if (CatalogCheck::countsByHand(source))
+                    faults += source;
+            }
+        }
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
+    }
+
+    void countsChooseTheForm_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QByteArray>("context");
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<int>("count");
+        QTest::addColumn<QString>("expected");
+        const auto row = [](const char *language, const char *context, const char *text, int count,
+                            const char *expected) {
+            QTest::addRow("%s, %d, %s", language, count, text)
+                << language << QByteArray(context) << QByteArray(text) << count
+                << QString::fromUtf8(expected);
+        };
+        const char *const lines = "%Ln Zeile(n)";
+        row("de", "VelkGeomCoreGui", lines, 1, "1 Zeile");
+        row("de", "VelkGeomCoreGui", lines, 1234, "1.234 Zeilen");
+        row("en", "VelkGeomCoreGui", lines, 1, "1 line");
+        row("en", "VelkGeomCoreGui", lines, 1234, "1,234 lines");
+        row("fr", "VelkGeomCoreGui", lines, 0, "0 ligne");
+        row("pl", "VelkGeomCoreGui", lines, 3, "3 wiersze");
+        row("pl", "VelkGeomCoreGui", lines, 12, "12 wierszy");
+        row("ru", "VelkGeomCoreGui", lines, 21, "21 строка");
+        row("sl", "VelkGeomCoreGui", lines, 2, "2 vrstici");
+        row("sl", "VelkGeomCoreGui", lines, 4, "4 vrstice");
+        row("cs", "VelkGeomCoreGui", lines, 3, "3 řádky");
+        row("tr", "VelkGeomCoreGui", lines, 5, "5 satır");
+        const char *const likewise = "so in %Ln weiteren Zeile(n)";
+        row("de", "VelkGeomCore", likewise, 1, "so in 1 weiteren Zeile");
+        row("de", "VelkGeomCore", likewise, 12345, "so in 12.345 weiteren Zeilen");
+        row("en", "VelkGeomCore", likewise, 1, "likewise in 1 other line");
+        row("ru", "VelkGeomCore", likewise, 2, "так же в 2 других строках");
+    }
+    void countsChooseTheForm()
+    {
+        QFETCH(QString, language);
+        QFETCH(QByteArray, context);
+        QFETCH(QByteArray, text);
+        QFETCH(int, count);
+        PTranslateManager::instance().setLanguage(language);
+        const QLocale before;
+        QLocale::setDefault(QLocale(language));
+        const QString shown = translateCount(text, context, count);
+        QLocale::setDefault(before);
+        QTEST(shown, "expected");
     }
 
     void faultsOfFormulas()

@@ -1,4 +1,5 @@
 #include "../geomcore/IndexTreeFolder.h"
+#include "../support/GermanTexts.h"
 #include "SearchFakes.h"
 
 #include <geomcoregui/search/FileTreeGroup.h>
@@ -328,6 +329,8 @@ void tst_SearchWidget::progress()
     QCOMPARE(bar->value(), 12);
     QCOMPARE(bar->maximum(), 195);
     QCOMPARE(bar->text(), QString("12 von 195 Projekten"));
+    Q_EMIT searcher->updateProgress(1, 1);
+    QCOMPARE(bar->text(), QString("1 von 1 Projekt"));
     Q_EMIT searcher->updateProgress(0, 0); // a number that is not known yet
     QCOMPARE(bar->maximum(), 0);
 }

@@ -1,3 +1,5 @@
+#include "../support/GermanTexts.h"
+
 // What a user chooses about the columns and rows of a table view, and that it comes back.
 #include "ViewTables.h"
 

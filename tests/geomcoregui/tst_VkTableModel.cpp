@@ -107,9 +107,9 @@ void tst_VkTableModel::showsRanges()
     QCOMPARE(cell(0, "L").toString(), QString("10;12;16"));
     QCOMPARE(cell(0, "L", VkTableModel::RangeRole).toString(), QString("10;12;16"));
     QCOMPARE(cell(0, "L", Qt::ToolTipRole).toString(),
-             QString("Wertebereich (3 Werte): 10; 12; 16"));
+             QString("Wertebereich (Werte: 3): 10; 12; 16"));
     QCOMPARE(cell(2, "L", Qt::ToolTipRole).toString(),
-             QString("Wertebereich (9 Werte): 10; 15; 20; 25; 30; 35; 40; 45; 50"));
+             QString("Wertebereich (Werte: 9): 10; 15; 20; 25; 30; 35; 40; 45; 50"));
     QCOMPARE(cell(0, "Dia", VkTableModel::RangeRole).toString(), QString());
     QCOMPARE(cell(3, "L", Qt::ToolTipRole).toString(), QString());
     Line line = m_table.getLine(1, false);

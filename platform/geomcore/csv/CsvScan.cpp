@@ -3,6 +3,7 @@
 #include "ByteMasks.h"
 #include "CsvCells.h"
 #include "Utf8Check.h"
+#include <core/text/countText.h>
 #include <core/text/PString.h>
 #include <geomcore/value/CellKey.h>
 
@@ -193,11 +194,8 @@ void CsvScan::wrongCellCount()
 {
     const int found = m_commas + 1;
     error(std::min(found, m_columnCount) + 1,
-          found == 1 ? PString::translate("1 Zelle statt %1 wie in der Kopfzeile", "VelkGeomCore")
-                           .arg(m_columnCount)
-                     : PString::translate("%1 Zellen statt %2 wie in der Kopfzeile", "VelkGeomCore")
-                           .arg(found)
-                           .arg(m_columnCount));
+          translateCount("%Ln Zelle(n) statt %1 wie in der Kopfzeile", "VelkGeomCore", found)
+              .arg(countText(m_columnCount)));
 }
 
 void CsvScan::error(int column, const QString &text)

@@ -1,6 +1,6 @@
 #include "TableErrors.h"
 
-#include <core/text/PString.h>
+#include <core/text/countText.h>
 
 namespace VKTab {
 
@@ -17,7 +17,7 @@ TableErrorList TableErrors::list() const
     TableErrorList all = m_kept;
     if (m_more > 0)
         all.append({m_kept.last().file, 0, 0,
-                    PString::translate("%1 weitere Fehler", "VelkGeomCore").arg(m_more)});
+                    translateCount("%Ln weitere(r) Fehler", "VelkGeomCore", int(m_more))});
     return all;
 }
 

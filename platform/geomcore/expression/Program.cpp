@@ -5,7 +5,7 @@
 #include "ProgramWriter.h"
 
 #include <core/message/PMessage.h>
-#include <core/text/PString.h>
+#include <core/text/countText.h>
 
 #include <QSet>
 
@@ -251,12 +251,11 @@ void Program::tellRefused() const
 {
     if (m_told.test_and_set(std::memory_order_relaxed))
         return;
-    const QString text = PString::translate("Ein Text in der Formel für %1 wird länger als %2 "
-                                            "Zeichen und bleibt ohne Wert",
-                                            "VelkGeomCore");
+    const QString text = translateCount("Ein Text in der Formel für %1 wird länger als %Ln "
+                                        "Zeichen und bleibt ohne Wert",
+                                        "VelkGeomCore", int(EvaluationMemory::MostCharacters));
     const QString names = variableNames().join(QLatin1String(", "));
-    PMessage::LogToWindow(text.arg(m_target.isEmpty() ? names : m_target,
-                                   QString::number(EvaluationMemory::MostCharacters)));
+    PMessage::LogToWindow(text.arg(m_target.isEmpty() ? names : m_target));
 }
 
 } // namespace VKTab

@@ -3,6 +3,7 @@
 #include "LinkDbSchema.h"
 #include "LinkDbSecret.h"
 
+#include <core/text/countText.h>
 #include <core/text/PString.h>
 
 #include <QDir>
@@ -30,7 +31,7 @@ QString LinkDbConnection::lostChangesText(int statements)
 {
     return PString::translate("Nicht festgeschriebene Änderungen sind verloren (Anweisungen: %1).",
                               "VelkGeomCore")
-        .arg(statements);
+        .arg(countText(statements));
 }
 
 QString LinkDbConnection::uncertainText(const QString &cause)

@@ -4,6 +4,7 @@
 #include "ExactSearch.h"
 #include "TargetTable.h"
 
+#include <core/text/countText.h>
 #include <core/text/PString.h>
 #include <geomcore/plan/PairEvidence.h>
 
@@ -26,6 +27,11 @@ QString tr(const char *text)
     return PString::translate(text, "VelkGeomCore");
 }
 
+QString tr(const char *text, qsizetype count)
+{
+    return translateCount(text, "VelkGeomCore", int(count));
+}
+
 QString cutValue(const QString &value)
 {
     return value.size() > MaxShown ? value.left(MaxShown) + QChar(0x2026) : value;
@@ -36,7 +42,7 @@ QString change(const ComparedVariableC &variable)
     QString text = variable.name + u' ' + cutValue(variable.oldValue) + QChar(u' ') +
                    QChar(0x2192) + QChar(u' ') + cutValue(variable.newValue);
     if (variable.supports > 0)
-        text += QStringLiteral(" (") + tr("so in %1 weiteren Zeilen").arg(variable.supports) + u')';
+        text += QStringLiteral(" (") + tr("so in %Ln weiteren Zeile(n)", variable.supports) + u')';
     return text;
 }
 
@@ -51,7 +57,7 @@ QString joined(const QString &kind, const QStringList &parts)
 {
     QString text = parts.mid(0, MaxNamedVariables).join(QStringLiteral(", "));
     if (parts.size() > MaxNamedVariables)
-        text += QStringLiteral(", ") + tr("%1 weitere").arg(parts.size() - MaxNamedVariables);
+        text += QStringLiteral(", ") + tr("%Ln weitere", parts.size() - MaxNamedVariables);
     return kind.arg(text);
 }
 

@@ -5,6 +5,7 @@
 
 #include <core/files/DurableFile.h>
 #include <core/files/LockFile.h>
+#include <core/text/countText.h>
 #include <core/text/PString.h>
 
 #include <QDir>
@@ -237,7 +238,7 @@ RepositoryAnswer CatalogMirror::tooLarge(const Wanted &wanted) const
     return failed(PString::translate("Der Katalog %1 passt nicht in den Zwischenspeicher von %2 "
                                      "MB; die Suche kennt ihn nicht",
                                      "VelkGeomCore")
-                      .arg(wanted.url, QString::number(m_limit >> 20)));
+                      .arg(wanted.url, countText(m_limit >> 20)));
 }
 
 RepositoryAnswer CatalogMirror::fetchAll(const Wanted &wanted, const RepositoryClient &client,

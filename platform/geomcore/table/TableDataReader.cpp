@@ -3,6 +3,7 @@
 #include "ComputedColumns.h"
 #include "tableExpressions.h"
 #include <core/file/openRegularFile.h>
+#include <core/text/countText.h>
 #include <core/text/PString.h>
 #include <geomcore/csv/CsvCells.h>
 #include <geomcore/csv/CsvScan.h>
@@ -360,11 +361,10 @@ QString TableDataReader::rangeFault(const TableField &field, std::string_view ce
             .arg(shortened(text), field.name, shortened(problem));
     if (range->count() <= RangeText::MaxValues)
         return {};
-    return PString::translate(
-               "der Wertebereich „%1“ von %2 hat %3 Werte; nur %4 werden durchlaufen",
-               "VelkGeomCore")
-        .arg(shortened(text), field.name, QString::number(range->count()),
-             QString::number(RangeText::MaxValues));
+    return translateCount(
+               "der Wertebereich „%1“ von %2 hat zu viele Werte (%3); nur %Ln werden durchlaufen",
+               "VelkGeomCore", RangeText::MaxValues)
+        .arg(shortened(text), field.name, countText(range->count()));
 }
 
 void TableDataReader::error(int row, int column, const QString &text)

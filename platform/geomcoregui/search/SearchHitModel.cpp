@@ -2,7 +2,6 @@
 
 #include "searchText.h"
 
-#include <core/text/countText.h>
 #include <geomcore/index/IndexTreeC.h>
 
 #include <QIcon>
@@ -31,10 +30,7 @@ QString titleOf(const CatalogSearchHit &hit)
 
 QString sizeOf(const CatalogSearchHit &hit)
 {
-    if (hit.lineCount < 0)
-        return {};
-    return hit.lineCount == 1 ? searchText("1 Zeile")
-                              : searchText("%1 Zeilen").arg(countText(hit.lineCount));
+    return hit.lineCount < 0 ? QString() : searchText("%Ln Zeile(n)", hit.lineCount);
 }
 
 QStringList linesOf(const CatalogSearchHit &hit)
@@ -44,7 +40,7 @@ QStringList linesOf(const CatalogSearchHit &hit)
         texts.append(QStringLiteral("%1: ").arg(line.lineNumber) + plain(line.text));
     const qsizetype more = hit.matchingLines - hit.lines.size();
     if (!texts.isEmpty() && more > 0)
-        texts.append(searchText("und %1 weitere").arg(countText(more)));
+        texts.append(searchText("und %Ln weitere", more));
     return texts;
 }
 

@@ -155,13 +155,12 @@ void SearchWidgetPrivate::onFinished(int token, const CatalogSearchResult &resul
 void SearchWidgetPrivate::showState(const CatalogSearchResult &result)
 {
     const qsizetype hits = result.hits.size();
-    const QString found = hits == 1 ? searchText("1 Projekt gefunden")
-                                    : searchText("%1 Projekte gefunden").arg(countText(hits));
+    const QString found = searchText("%Ln Projekt(e) gefunden", hits);
     switch (result.state) {
     case CatalogSearchState::Found:
-        return showText(result.hasMore ? searchText("Die ersten %1 Projekte; es gibt mehr. Suchen "
-                                                    "Sie genauer.")
-                                             .arg(countText(hits))
+        return showText(result.hasMore ? searchText("Die ersten %Ln Projekt(e); es gibt mehr. "
+                                                    "Suchen Sie genauer.",
+                                                    hits)
                                        : found,
                         false);
     case CatalogSearchState::NothingFound:
@@ -209,11 +208,11 @@ void SearchWidgetPrivate::onProgress(int done, int total)
         sendQuery();
     m_progress->setRange(0, total);
     m_progress->setValue(done);
-    const QString text = searchText("%1 von %2 Projekten");
-    m_progress->setFormat(text.arg(countText(done), countText(total)));
+    const QString text = searchText("%1 von %Ln Projekt(en)", total);
+    m_progress->setFormat(text.arg(countText(done)));
     const QFontMetrics font = m_progress->fontMetrics();
-    m_progress->setMinimumWidth(
-        font.horizontalAdvance(text.arg(countText(total), countText(total))) + 2 * font.height());
+    m_progress->setMinimumWidth(font.horizontalAdvance(text.arg(countText(total))) +
+                                2 * font.height());
 }
 
 void SearchWidgetPrivate::showOutdated(const QString &problem)

@@ -1,5 +1,6 @@
 #include "TableBar.h"
 
+#include <core/text/countText.h>
 #include <core/text/PString.h>
 
 #include <QToolButton>
@@ -7,6 +8,11 @@
 QString tableText(const char *text)
 {
     return PString::translate(text, "VelkGeomCoreGui");
+}
+
+QString tableText(const char *text, qsizetype count)
+{
+    return translateCount(text, "VelkGeomCoreGui", int(count));
 }
 
 QToolButton *makeBarButton(const QString &objectName, const QString &sign, const QString &meaning,

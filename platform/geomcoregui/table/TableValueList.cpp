@@ -77,7 +77,7 @@ void TableValueList::fill(VkTableModel *model, const VKTab::VarId &variable)
     }
     if (left > 0) {
         auto *const rest =
-            new QListWidgetItem(tableText("und %1 seltenere Werte").arg(countText(left)), m_list);
+            new QListWidgetItem(tableText("und %Ln seltenere(r) Wert(e)", left), m_list);
         rest->setFlags(Qt::NoItemFlags);
     }
 }

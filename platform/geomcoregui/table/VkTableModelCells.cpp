@@ -167,7 +167,7 @@ QString VkTableModelPrivate::valueToolTip(int row, const VKTab::Var &var) const
         values.append(range->value(i));
     if (range->count() > most)
         values.append(QStringLiteral("…"));
-    return translated("Wertebereich (%1 Werte): %2")
+    return translated("Wertebereich (Werte: %1): %2")
         .arg(countText(range->count()), values.join(QStringLiteral("; ")));
 }
 

@@ -158,11 +158,12 @@ QString VkTableView::title() const
 
 bool VkTableView::print(QPagedPaintDevice &device, const PageHead &head) const
 {
+    const int left = std::max(0, d->model->rowCount() - PrintedRows);
     return TablePages(device, *d->grid,
                       {.textRole = VkTableModel::WholeTextRole,
                        .repeated = int(d->grid->frozenColumns().size()),
                        .mostRows = PrintedRows,
-                       .more = tableText("und %1 weitere Zeilen")},
+                       .more = tableText("und %Ln weitere Zeile(n)", left)},
                       head)
         .print();
 }

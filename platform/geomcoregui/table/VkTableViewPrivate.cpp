@@ -227,10 +227,9 @@ void VkTableViewPrivate::showHits()
     if (!model->hasQuickFilter())
         return;
     const int all = model->getTable().getLineMapping().count();
-    hits->setText(
-        model->rowCount() == 0
-            ? tableText("Keine Zeile passt zu den Spaltenfiltern")
-            : tableText("%1 von %2 Zeilen").arg(countText(model->rowCount()), countText(all)));
+    hits->setText(model->rowCount() == 0
+                      ? tableText("Keine Zeile passt zu den Spaltenfiltern")
+                      : tableText("%1 von %Ln Zeile(n)", all).arg(countText(model->rowCount())));
     hits->setToolTip(hits->text());
 }
 

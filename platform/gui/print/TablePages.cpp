@@ -213,6 +213,5 @@ void TablePages::paintBody(QPainter &painter, int page) const
         y += height;
     }
     if (rows.first + rows.count == m_rowCount && m_rowCount < m_model.rowCount())
-        painter.drawText(QPointF(0, y + m_pad + m_metrics.ascent()),
-                         m_form.more.arg(m_model.rowCount() - m_rowCount));
+        painter.drawText(QPointF(0, y + m_pad + m_metrics.ascent()), m_form.more);
 }

@@ -26,9 +26,9 @@ public:
         int textRole = Qt::DisplayRole;
         /// So many of the first columns that are shown stand on each page.
         int repeated = 0;
-        /// Rows behind these are counted at the end by \a more; -1: all are printed.
+        /// Of rows behind these \a more tells at the end; -1: all are printed.
         int mostRows = -1;
-        /// "and %1 more"
+        /// "and 12 more"
         QString more;
     };
 
