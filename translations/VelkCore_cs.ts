@@ -104,6 +104,10 @@
         <translation>to je adresář</translation>
     </message>
     <message>
+        <source>das ist keine Erweiterung: VELK_EXTENSION fehlt</source>
+        <translation>není to rozšíření: chybí VELK_EXTENSION</translation>
+    </message>
+    <message>
         <source>das ist keine gewöhnliche Datei</source>
         <translation>to není běžný soubor</translation>
     </message>
@@ -118,6 +122,10 @@
     <message>
         <source>die Datei ist UTF-16; speichern Sie sie als UTF-8</source>
         <translation>soubor je v UTF-16; uložte jej jako UTF-8</translation>
+    </message>
+    <message>
+        <source>die Erweiterung ist für Version %1 gemacht, dies ist %2; übersetzen Sie sie neu</source>
+        <translation>rozšíření je vytvořeno pro verzi %1, toto je %2; přeložte je znovu</translation>
     </message>
     <message>
         <source>die Zeilen enden allein mit Wagenrückläufen; speichern Sie die Datei mit Zeilenvorschüben</source>

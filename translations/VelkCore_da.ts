@@ -104,6 +104,10 @@
         <translation>det er en mappe</translation>
     </message>
     <message>
+        <source>das ist keine Erweiterung: VELK_EXTENSION fehlt</source>
+        <translation>det er ingen udvidelse: VELK_EXTENSION mangler</translation>
+    </message>
+    <message>
         <source>das ist keine gewöhnliche Datei</source>
         <translation>det er ikke en almindelig fil</translation>
     </message>
@@ -118,6 +122,10 @@
     <message>
         <source>die Datei ist UTF-16; speichern Sie sie als UTF-8</source>
         <translation>filen er UTF-16; gem den som UTF-8</translation>
+    </message>
+    <message>
+        <source>die Erweiterung ist für Version %1 gemacht, dies ist %2; übersetzen Sie sie neu</source>
+        <translation>udvidelsen er lavet til version %1, dette er %2; oversæt den igen</translation>
     </message>
     <message>
         <source>die Zeilen enden allein mit Wagenrückläufen; speichern Sie die Datei mit Zeilenvorschüben</source>

@@ -104,6 +104,10 @@
         <translation>das ist ein Verzeichnis</translation>
     </message>
     <message>
+        <source>das ist keine Erweiterung: VELK_EXTENSION fehlt</source>
+        <translation>das ist keine Erweiterung: VELK_EXTENSION fehlt</translation>
+    </message>
+    <message>
         <source>das ist keine gewöhnliche Datei</source>
         <translation>das ist keine gewöhnliche Datei</translation>
     </message>
@@ -118,6 +122,10 @@
     <message>
         <source>die Datei ist UTF-16; speichern Sie sie als UTF-8</source>
         <translation>die Datei ist UTF-16; speichern Sie sie als UTF-8</translation>
+    </message>
+    <message>
+        <source>die Erweiterung ist für Version %1 gemacht, dies ist %2; übersetzen Sie sie neu</source>
+        <translation>die Erweiterung ist für Version %1 gemacht, dies ist %2; übersetzen Sie sie neu</translation>
     </message>
     <message>
         <source>die Zeilen enden allein mit Wagenrückläufen; speichern Sie die Datei mit Zeilenvorschüben</source>

@@ -104,6 +104,10 @@
         <translation>it is a directory</translation>
     </message>
     <message>
+        <source>das ist keine Erweiterung: VELK_EXTENSION fehlt</source>
+        <translation>it is no extension: it does not have VELK_EXTENSION</translation>
+    </message>
+    <message>
         <source>das ist keine gewöhnliche Datei</source>
         <translation>it is no regular file</translation>
     </message>
@@ -118,6 +122,10 @@
     <message>
         <source>die Datei ist UTF-16; speichern Sie sie als UTF-8</source>
         <translation>the file is UTF-16; save it as UTF-8</translation>
+    </message>
+    <message>
+        <source>die Erweiterung ist für Version %1 gemacht, dies ist %2; übersetzen Sie sie neu</source>
+        <translation>it is made for version %1, this is %2; compile it again</translation>
     </message>
     <message>
         <source>die Zeilen enden allein mit Wagenrückläufen; speichern Sie die Datei mit Zeilenvorschüben</source>

@@ -104,6 +104,10 @@
         <translation>es un directorio</translation>
     </message>
     <message>
+        <source>das ist keine Erweiterung: VELK_EXTENSION fehlt</source>
+        <translation>no es una extensión: falta VELK_EXTENSION</translation>
+    </message>
+    <message>
         <source>das ist keine gewöhnliche Datei</source>
         <translation>no es un archivo normal</translation>
     </message>
@@ -118,6 +122,10 @@
     <message>
         <source>die Datei ist UTF-16; speichern Sie sie als UTF-8</source>
         <translation>el archivo es UTF-16; guárdelo como UTF-8</translation>
+    </message>
+    <message>
+        <source>die Erweiterung ist für Version %1 gemacht, dies ist %2; übersetzen Sie sie neu</source>
+        <translation>la extensión está hecha para la versión %1, esta es la %2; compílela de nuevo</translation>
     </message>
     <message>
         <source>die Zeilen enden allein mit Wagenrückläufen; speichern Sie die Datei mit Zeilenvorschüben</source>

@@ -12,12 +12,72 @@
         <translation>"%1" není adresa databáze odkazů. Možné jsou sqlite:SOUBOR a postgresql://UŽIVATEL@POČÍTAČ:PORT/DATABÁZE.</translation>
     </message>
     <message>
+        <source>%1 darf nicht mehr „supports“ als „cases“ haben</source>
+        <translation>%1 nesmí mít víc „supports“ než „cases“</translation>
+    </message>
+    <message>
+        <source>%1 darf nur Objekte enthalten</source>
+        <translation>%1 smí obsahovat jen objekty</translation>
+    </message>
+    <message>
+        <source>%1 enthält zu tief verschachtelte Werte</source>
+        <translation>%1 obsahuje příliš hluboko vnořené hodnoty</translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 v revizi %2 neexistuje</translation>
     </message>
     <message>
+        <source>%1 hat einen leeren Eintrag „sourcePath“</source>
+        <translation>%1 má prázdnou položku „sourcePath“</translation>
+    </message>
+    <message>
+        <source>%1 hat keinen Eintrag „%2“</source>
+        <translation>%1 nemá položku „%2“</translation>
+    </message>
+    <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1 je databáze jiného programu</translation>
+    </message>
+    <message>
+        <source>%1 ist kein Suchindex und kann nicht ersetzt werden</source>
+        <translation>%1 není index vyhledávání a nelze jej nahradit</translation>
+    </message>
+    <message>
+        <source>%1 muss [Quellzeile, Zielzeile, Zustand] sein, dann der erweiterte Text, wenn es einen gibt, dann true für einen Konflikt; Zeilen zählen ab 0, -1 ist keine Zielzeile</source>
+        <translation>%1 musí být [zdrojový řádek, cílový řádek, stav], pak rozšířený text, pokud existuje, pak true pro konflikt; řádky se číslují od 0, -1 znamená žádný cílový řádek</translation>
+    </message>
+    <message>
+        <source>%1 muss ein Objekt sein</source>
+        <translation>%1 musí být objekt</translation>
+    </message>
+    <message>
+        <source>%1 muss ein Text sein</source>
+        <translation>%1 musí být text</translation>
+    </message>
+    <message>
+        <source>%1 muss eine Liste sein</source>
+        <translation>%1 musí být seznam</translation>
+    </message>
+    <message>
+        <source>%1 muss eine Variable nennen, dazu Texte als „before“ und „after“ oder Dezimalzahlen als „factor“ und „offset“</source>
+        <translation>%1 musí uvést proměnnou a k ní texty „before“ a „after“ nebo desetinná čísla „factor“ a „offset“</translation>
+    </message>
+    <message>
+        <source>%1 muss eine ganze Zahl von 0 bis 2147483647 sein</source>
+        <translation>%1 musí být celé číslo od 0 do 2147483647</translation>
+    </message>
+    <message>
+        <source>%1 muss true oder false sein</source>
+        <translation>%1 musí být true nebo false</translation>
+    </message>
+    <message>
+        <source>%1 muss von der Art „var“ mit „source“ und „target“ oder von der Art „value“ mit „formula“ sein</source>
+        <translation>%1 musí být druhu „var“ s „source“ a „target“, nebo druhu „value“ s „formula“</translation>
+    </message>
+    <message>
+        <source>%1 nennt die Quellzeile %2 noch einmal</source>
+        <translation>%1 uvádí zdrojový řádek %2 znovu</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -26,6 +86,10 @@
     <message>
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Není jisté, zda jsou změny potvrzeny: před opakováním se podívejte.</translation>
+    </message>
+    <message>
+        <source>%1: das Ziel mit leerem „path“ steht jetzt am Ende</source>
+        <translation>%1: cíl s prázdným „path“ je teď na konci</translation>
     </message>
     <message numerus="yes">
         <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
@@ -112,6 +176,14 @@
         <translation>Katalog %1 se nevejde do mezipaměti o velikosti %2 MB; hledání ho nezná</translation>
     </message>
     <message>
+        <source>Der Katalogstand</source>
+        <translation>Verze katalogu</translation>
+    </message>
+    <message>
+        <source>Der Katalogstand nennt „%1“ als sein sourceDate.</source>
+        <translation>Verze katalogu uvádí „%1“ jako své sourceDate.</translation>
+    </message>
+    <message>
         <source>Der Kosinus eines Winkels in Grad.</source>
         <translation>The cosine of an angle in degrees.</translation>
     </message>
@@ -194,6 +266,10 @@
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
+    </message>
+    <message>
+        <source>Die Datei hat sich geändert, während sie gelesen wurde.</source>
+        <translation>Soubor se během čtení změnil.</translation>
     </message>
     <message>
         <source>Die Funktion %1 ist nicht bekannt</source>
@@ -360,6 +436,14 @@
         <translation>Vzorec musí přiřadit hodnotu proměnné</translation>
     </message>
     <message>
+        <source>Eine Mapping-Datei muss ein Objekt enthalten.</source>
+        <translation>Soubor mapování musí obsahovat objekt.</translation>
+    </message>
+    <message>
+        <source>Er steht zwischen zwei Katalogständen desselben Datums.</source>
+        <translation>Stojí mezi dvěma verzemi katalogu se stejným datem.</translation>
+    </message>
+    <message>
         <source>Erwartet wird %1, gefunden wurde %2</source>
         <translation>Očekáváno: %1, nalezeno: %2</translation>
     </message>
@@ -394,6 +478,10 @@
     <message>
         <source>Hier wird ein Wert erwartet, kein Vergleich</source>
         <translation>Zde se očekává hodnota, ne porovnání</translation>
+    </message>
+    <message>
+        <source>Hinter dem Dokument steht ein Byte mit dem Wert 0.</source>
+        <translation>Za dokumentem je bajt s hodnotou 0.</translation>
     </message>
     <message>
         <source>In %1 ist keine Linkdatenbank, oder eine älterer Form. Sie wird beim ersten Schreiben angelegt oder erneuert.</source>
@@ -470,6 +558,10 @@
     <message>
         <source>Wert, Wert, ...</source>
         <translation>hodnota, hodnota, ...</translation>
+    </message>
+    <message>
+        <source>Werte sind zu tief verschachtelt.</source>
+        <translation>Hodnoty jsou vnořeny příliš hluboko.</translation>
     </message>
     <message>
         <source>Winkel</source>
@@ -816,6 +908,10 @@
     <message>
         <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
         <translation>„%1“ leží mimo „%2“; přesuňte to tam, nebo povolte příslušný adresář</translation>
+    </message>
+    <message>
+        <source>„%1“ steht mehr als einmal da; der letzte Eintrag gilt.</source>
+        <translation>„%1“ je uvedeno víckrát; platí poslední položka.</translation>
     </message>
 </context>
 </TS>

@@ -12,12 +12,72 @@
         <translation>"%1" ist keine Adresse einer Linkdatenbank. Möglich sind sqlite:DATEI und postgresql://BENUTZER@RECHNER:PORT/DATENBANK.</translation>
     </message>
     <message>
+        <source>%1 darf nicht mehr „supports“ als „cases“ haben</source>
+        <translation>%1 darf nicht mehr „supports“ als „cases“ haben</translation>
+    </message>
+    <message>
+        <source>%1 darf nur Objekte enthalten</source>
+        <translation>%1 darf nur Objekte enthalten</translation>
+    </message>
+    <message>
+        <source>%1 enthält zu tief verschachtelte Werte</source>
+        <translation>%1 enthält zu tief verschachtelte Werte</translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 gibt es in Revision %2 nicht</translation>
     </message>
     <message>
+        <source>%1 hat einen leeren Eintrag „sourcePath“</source>
+        <translation>%1 hat einen leeren Eintrag „sourcePath“</translation>
+    </message>
+    <message>
+        <source>%1 hat keinen Eintrag „%2“</source>
+        <translation>%1 hat keinen Eintrag „%2“</translation>
+    </message>
+    <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1 ist die Datenbank eines anderen Programms</translation>
+    </message>
+    <message>
+        <source>%1 ist kein Suchindex und kann nicht ersetzt werden</source>
+        <translation>%1 ist kein Suchindex und kann nicht ersetzt werden</translation>
+    </message>
+    <message>
+        <source>%1 muss [Quellzeile, Zielzeile, Zustand] sein, dann der erweiterte Text, wenn es einen gibt, dann true für einen Konflikt; Zeilen zählen ab 0, -1 ist keine Zielzeile</source>
+        <translation>%1 muss [Quellzeile, Zielzeile, Zustand] sein, dann der erweiterte Text, wenn es einen gibt, dann true für einen Konflikt; Zeilen zählen ab 0, -1 ist keine Zielzeile</translation>
+    </message>
+    <message>
+        <source>%1 muss ein Objekt sein</source>
+        <translation>%1 muss ein Objekt sein</translation>
+    </message>
+    <message>
+        <source>%1 muss ein Text sein</source>
+        <translation>%1 muss ein Text sein</translation>
+    </message>
+    <message>
+        <source>%1 muss eine Liste sein</source>
+        <translation>%1 muss eine Liste sein</translation>
+    </message>
+    <message>
+        <source>%1 muss eine Variable nennen, dazu Texte als „before“ und „after“ oder Dezimalzahlen als „factor“ und „offset“</source>
+        <translation>%1 muss eine Variable nennen, dazu Texte als „before“ und „after“ oder Dezimalzahlen als „factor“ und „offset“</translation>
+    </message>
+    <message>
+        <source>%1 muss eine ganze Zahl von 0 bis 2147483647 sein</source>
+        <translation>%1 muss eine ganze Zahl von 0 bis 2147483647 sein</translation>
+    </message>
+    <message>
+        <source>%1 muss true oder false sein</source>
+        <translation>%1 muss true oder false sein</translation>
+    </message>
+    <message>
+        <source>%1 muss von der Art „var“ mit „source“ und „target“ oder von der Art „value“ mit „formula“ sein</source>
+        <translation>%1 muss von der Art „var“ mit „source“ und „target“ oder von der Art „value“ mit „formula“ sein</translation>
+    </message>
+    <message>
+        <source>%1 nennt die Quellzeile %2 noch einmal</source>
+        <translation>%1 nennt die Quellzeile %2 noch einmal</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -26,6 +86,10 @@
     <message>
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</translation>
+    </message>
+    <message>
+        <source>%1: das Ziel mit leerem „path“ steht jetzt am Ende</source>
+        <translation>%1: das Ziel mit leerem „path“ steht jetzt am Ende</translation>
     </message>
     <message numerus="yes">
         <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
@@ -107,6 +171,14 @@
     <message>
         <source>Der Katalog %1 passt nicht in den Zwischenspeicher von %2 MB; die Suche kennt ihn nicht</source>
         <translation>Der Katalog %1 passt nicht in den Zwischenspeicher von %2 MB; die Suche kennt ihn nicht</translation>
+    </message>
+    <message>
+        <source>Der Katalogstand</source>
+        <translation>Der Katalogstand</translation>
+    </message>
+    <message>
+        <source>Der Katalogstand nennt „%1“ als sein sourceDate.</source>
+        <translation>Der Katalogstand nennt „%1“ als sein sourceDate.</translation>
     </message>
     <message>
         <source>Der Kosinus eines Winkels in Grad.</source>
@@ -191,6 +263,10 @@
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>Die Anzahl der Zeichen des Textes.</translation>
+    </message>
+    <message>
+        <source>Die Datei hat sich geändert, während sie gelesen wurde.</source>
+        <translation>Die Datei hat sich geändert, während sie gelesen wurde.</translation>
     </message>
     <message>
         <source>Die Funktion %1 ist nicht bekannt</source>
@@ -356,6 +432,14 @@
         <translation>Eine Formel muss einer Variablen einen Wert zuweisen</translation>
     </message>
     <message>
+        <source>Eine Mapping-Datei muss ein Objekt enthalten.</source>
+        <translation>Eine Mapping-Datei muss ein Objekt enthalten.</translation>
+    </message>
+    <message>
+        <source>Er steht zwischen zwei Katalogständen desselben Datums.</source>
+        <translation>Er steht zwischen zwei Katalogständen desselben Datums.</translation>
+    </message>
+    <message>
         <source>Erwartet wird %1, gefunden wurde %2</source>
         <translation>Erwartet wird %1, gefunden wurde %2</translation>
     </message>
@@ -390,6 +474,10 @@
     <message>
         <source>Hier wird ein Wert erwartet, kein Vergleich</source>
         <translation>Hier wird ein Wert erwartet, kein Vergleich</translation>
+    </message>
+    <message>
+        <source>Hinter dem Dokument steht ein Byte mit dem Wert 0.</source>
+        <translation>Hinter dem Dokument steht ein Byte mit dem Wert 0.</translation>
     </message>
     <message>
         <source>In %1 ist keine Linkdatenbank, oder eine älterer Form. Sie wird beim ersten Schreiben angelegt oder erneuert.</source>
@@ -466,6 +554,10 @@
     <message>
         <source>Wert, Wert, ...</source>
         <translation>Wert, Wert, ...</translation>
+    </message>
+    <message>
+        <source>Werte sind zu tief verschachtelt.</source>
+        <translation>Werte sind zu tief verschachtelt.</translation>
     </message>
     <message>
         <source>Winkel</source>
@@ -810,6 +902,10 @@
     <message>
         <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
         <translation>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</translation>
+    </message>
+    <message>
+        <source>„%1“ steht mehr als einmal da; der letzte Eintrag gilt.</source>
+        <translation>„%1“ steht mehr als einmal da; der letzte Eintrag gilt.</translation>
     </message>
 </context>
 </TS>

@@ -12,12 +12,72 @@
         <translation>"%1" is no address of a link database. Possible are sqlite:FILE and postgresql://USER@HOST:PORT/DATABASE.</translation>
     </message>
     <message>
+        <source>%1 darf nicht mehr „supports“ als „cases“ haben</source>
+        <translation>%1 must not have more "supports" than "cases"</translation>
+    </message>
+    <message>
+        <source>%1 darf nur Objekte enthalten</source>
+        <translation>%1 must hold nothing but objects</translation>
+    </message>
+    <message>
+        <source>%1 enthält zu tief verschachtelte Werte</source>
+        <translation>%1 holds values that are nested too deeply</translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 does not exist in revision %2</translation>
     </message>
     <message>
+        <source>%1 hat einen leeren Eintrag „sourcePath“</source>
+        <translation>%1 has an empty "sourcePath"</translation>
+    </message>
+    <message>
+        <source>%1 hat keinen Eintrag „%2“</source>
+        <translation>%1 lacks the member "%2"</translation>
+    </message>
+    <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1 is the database of another program</translation>
+    </message>
+    <message>
+        <source>%1 ist kein Suchindex und kann nicht ersetzt werden</source>
+        <translation>%1 is no index and cannot be replaced</translation>
+    </message>
+    <message>
+        <source>%1 muss [Quellzeile, Zielzeile, Zustand] sein, dann der erweiterte Text, wenn es einen gibt, dann true für einen Konflikt; Zeilen zählen ab 0, -1 ist keine Zielzeile</source>
+        <translation>%1 must be [source line, target line, state], then the extended text if there is one, then true for a conflict; lines count from 0, -1 is no target line</translation>
+    </message>
+    <message>
+        <source>%1 muss ein Objekt sein</source>
+        <translation>%1 must be an object</translation>
+    </message>
+    <message>
+        <source>%1 muss ein Text sein</source>
+        <translation>%1 must be a text</translation>
+    </message>
+    <message>
+        <source>%1 muss eine Liste sein</source>
+        <translation>%1 must be an array</translation>
+    </message>
+    <message>
+        <source>%1 muss eine Variable nennen, dazu Texte als „before“ und „after“ oder Dezimalzahlen als „factor“ und „offset“</source>
+        <translation>%1 must name a variable, and texts as "before" and "after" or decimal numbers as "factor" and "offset"</translation>
+    </message>
+    <message>
+        <source>%1 muss eine ganze Zahl von 0 bis 2147483647 sein</source>
+        <translation>%1 must be an integer from 0 to 2147483647</translation>
+    </message>
+    <message>
+        <source>%1 muss true oder false sein</source>
+        <translation>%1 must be true or false</translation>
+    </message>
+    <message>
+        <source>%1 muss von der Art „var“ mit „source“ und „target“ oder von der Art „value“ mit „formula“ sein</source>
+        <translation>%1 must be of kind "var" with "source" and "target", or of kind "value" with "formula"</translation>
+    </message>
+    <message>
+        <source>%1 nennt die Quellzeile %2 noch einmal</source>
+        <translation>%1 names source line %2 once more</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -26,6 +86,10 @@
     <message>
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Whether the changes were committed is not certain: look before you repeat them.</translation>
+    </message>
+    <message>
+        <source>%1: das Ziel mit leerem „path“ steht jetzt am Ende</source>
+        <translation>%1: the target with an empty "path" was moved to the end</translation>
     </message>
     <message numerus="yes">
         <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
@@ -107,6 +171,14 @@
     <message>
         <source>Der Katalog %1 passt nicht in den Zwischenspeicher von %2 MB; die Suche kennt ihn nicht</source>
         <translation>The catalog %1 does not fit into the cache of %2 MB; the search does not know it</translation>
+    </message>
+    <message>
+        <source>Der Katalogstand</source>
+        <translation>The release</translation>
+    </message>
+    <message>
+        <source>Der Katalogstand nennt „%1“ als sein sourceDate.</source>
+        <translation>The release says "%1" as its sourceDate.</translation>
     </message>
     <message>
         <source>Der Kosinus eines Winkels in Grad.</source>
@@ -191,6 +263,10 @@
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
+    </message>
+    <message>
+        <source>Die Datei hat sich geändert, während sie gelesen wurde.</source>
+        <translation>The file changed while it was read.</translation>
     </message>
     <message>
         <source>Die Funktion %1 ist nicht bekannt</source>
@@ -356,6 +432,14 @@
         <translation>A formula must assign a value to a variable</translation>
     </message>
     <message>
+        <source>Eine Mapping-Datei muss ein Objekt enthalten.</source>
+        <translation>A mapping file must hold an object.</translation>
+    </message>
+    <message>
+        <source>Er steht zwischen zwei Katalogständen desselben Datums.</source>
+        <translation>It stands between two releases of one date.</translation>
+    </message>
+    <message>
         <source>Erwartet wird %1, gefunden wurde %2</source>
         <translation>Expected %1, found %2</translation>
     </message>
@@ -390,6 +474,10 @@
     <message>
         <source>Hier wird ein Wert erwartet, kein Vergleich</source>
         <translation>A value is expected here, not a comparison</translation>
+    </message>
+    <message>
+        <source>Hinter dem Dokument steht ein Byte mit dem Wert 0.</source>
+        <translation>A byte of value 0 stands behind the document.</translation>
     </message>
     <message>
         <source>In %1 ist keine Linkdatenbank, oder eine älterer Form. Sie wird beim ersten Schreiben angelegt oder erneuert.</source>
@@ -466,6 +554,10 @@
     <message>
         <source>Wert, Wert, ...</source>
         <translation>value, value, ...</translation>
+    </message>
+    <message>
+        <source>Werte sind zu tief verschachtelt.</source>
+        <translation>Values are nested too deeply.</translation>
     </message>
     <message>
         <source>Winkel</source>
@@ -810,6 +902,10 @@
     <message>
         <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
         <translation>"%1" lies outside of "%2"; move it there, or allow its directory</translation>
+    </message>
+    <message>
+        <source>„%1“ steht mehr als einmal da; der letzte Eintrag gilt.</source>
+        <translation>"%1" stands there more than once; the last one counts.</translation>
     </message>
 </context>
 </TS>

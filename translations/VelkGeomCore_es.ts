@@ -12,12 +12,72 @@
         <translation>"%1" no es la dirección de una base de enlaces. Son posibles sqlite:ARCHIVO y postgresql://USUARIO@EQUIPO:PUERTO/BASE.</translation>
     </message>
     <message>
+        <source>%1 darf nicht mehr „supports“ als „cases“ haben</source>
+        <translation>%1 no puede tener más «supports» que «cases»</translation>
+    </message>
+    <message>
+        <source>%1 darf nur Objekte enthalten</source>
+        <translation>%1 solo puede contener objetos</translation>
+    </message>
+    <message>
+        <source>%1 enthält zu tief verschachtelte Werte</source>
+        <translation>%1 contiene valores anidados a demasiada profundidad</translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 no existe en la revisión %2</translation>
     </message>
     <message>
+        <source>%1 hat einen leeren Eintrag „sourcePath“</source>
+        <translation>%1 tiene vacía la entrada «sourcePath»</translation>
+    </message>
+    <message>
+        <source>%1 hat keinen Eintrag „%2“</source>
+        <translation>%1 no tiene la entrada «%2»</translation>
+    </message>
+    <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1 es la base de datos de otro programa</translation>
+    </message>
+    <message>
+        <source>%1 ist kein Suchindex und kann nicht ersetzt werden</source>
+        <translation>%1 no es un índice de búsqueda y no se puede reemplazar</translation>
+    </message>
+    <message>
+        <source>%1 muss [Quellzeile, Zielzeile, Zustand] sein, dann der erweiterte Text, wenn es einen gibt, dann true für einen Konflikt; Zeilen zählen ab 0, -1 ist keine Zielzeile</source>
+        <translation>%1 debe ser [fila de origen, fila de destino, estado], después el texto ampliado, si lo hay, y después true en caso de conflicto; las filas cuentan desde 0, -1 es ninguna fila de destino</translation>
+    </message>
+    <message>
+        <source>%1 muss ein Objekt sein</source>
+        <translation>%1 debe ser un objeto</translation>
+    </message>
+    <message>
+        <source>%1 muss ein Text sein</source>
+        <translation>%1 debe ser un texto</translation>
+    </message>
+    <message>
+        <source>%1 muss eine Liste sein</source>
+        <translation>%1 debe ser una lista</translation>
+    </message>
+    <message>
+        <source>%1 muss eine Variable nennen, dazu Texte als „before“ und „after“ oder Dezimalzahlen als „factor“ und „offset“</source>
+        <translation>%1 debe nombrar una variable, y textos como «before» y «after» o números decimales como «factor» y «offset»</translation>
+    </message>
+    <message>
+        <source>%1 muss eine ganze Zahl von 0 bis 2147483647 sein</source>
+        <translation>%1 debe ser un número entero de 0 a 2147483647</translation>
+    </message>
+    <message>
+        <source>%1 muss true oder false sein</source>
+        <translation>%1 debe ser true o false</translation>
+    </message>
+    <message>
+        <source>%1 muss von der Art „var“ mit „source“ und „target“ oder von der Art „value“ mit „formula“ sein</source>
+        <translation>%1 debe ser del tipo «var» con «source» y «target», o del tipo «value» con «formula»</translation>
+    </message>
+    <message>
+        <source>%1 nennt die Quellzeile %2 noch einmal</source>
+        <translation>%1 vuelve a nombrar la fila de origen %2</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -26,6 +86,10 @@
     <message>
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. No es seguro que los cambios se hayan confirmado: compruébelo antes de repetirlos.</translation>
+    </message>
+    <message>
+        <source>%1: das Ziel mit leerem „path“ steht jetzt am Ende</source>
+        <translation>%1: el destino con «path» vacío está ahora al final</translation>
     </message>
     <message numerus="yes">
         <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
@@ -107,6 +171,14 @@
     <message>
         <source>Der Katalog %1 passt nicht in den Zwischenspeicher von %2 MB; die Suche kennt ihn nicht</source>
         <translation>El catálogo %1 no cabe en la caché de %2 MB; la búsqueda no lo conoce</translation>
+    </message>
+    <message>
+        <source>Der Katalogstand</source>
+        <translation>La versión del catálogo</translation>
+    </message>
+    <message>
+        <source>Der Katalogstand nennt „%1“ als sein sourceDate.</source>
+        <translation>La versión del catálogo indica «%1» como su sourceDate.</translation>
     </message>
     <message>
         <source>Der Kosinus eines Winkels in Grad.</source>
@@ -191,6 +263,10 @@
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
+    </message>
+    <message>
+        <source>Die Datei hat sich geändert, während sie gelesen wurde.</source>
+        <translation>El archivo cambió mientras se leía.</translation>
     </message>
     <message>
         <source>Die Funktion %1 ist nicht bekannt</source>
@@ -356,6 +432,14 @@
         <translation>Una fórmula debe asignar un valor a una variable</translation>
     </message>
     <message>
+        <source>Eine Mapping-Datei muss ein Objekt enthalten.</source>
+        <translation>Un archivo de mapeo debe contener un objeto.</translation>
+    </message>
+    <message>
+        <source>Er steht zwischen zwei Katalogständen desselben Datums.</source>
+        <translation>Está entre dos versiones del catálogo de la misma fecha.</translation>
+    </message>
+    <message>
         <source>Erwartet wird %1, gefunden wurde %2</source>
         <translation>Se esperaba %1, se encontró %2</translation>
     </message>
@@ -390,6 +474,10 @@
     <message>
         <source>Hier wird ein Wert erwartet, kein Vergleich</source>
         <translation>Aquí se espera un valor, no una comparación</translation>
+    </message>
+    <message>
+        <source>Hinter dem Dokument steht ein Byte mit dem Wert 0.</source>
+        <translation>Detrás del documento hay un byte de valor 0.</translation>
     </message>
     <message>
         <source>In %1 ist keine Linkdatenbank, oder eine älterer Form. Sie wird beim ersten Schreiben angelegt oder erneuert.</source>
@@ -466,6 +554,10 @@
     <message>
         <source>Wert, Wert, ...</source>
         <translation>valor, valor, ...</translation>
+    </message>
+    <message>
+        <source>Werte sind zu tief verschachtelt.</source>
+        <translation>Los valores están anidados a demasiada profundidad.</translation>
     </message>
     <message>
         <source>Winkel</source>
@@ -810,6 +902,10 @@
     <message>
         <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
         <translation>«%1» está fuera de «%2»; muévalo allí o permita su directorio</translation>
+    </message>
+    <message>
+        <source>„%1“ steht mehr als einmal da; der letzte Eintrag gilt.</source>
+        <translation>«%1» aparece más de una vez; vale la última entrada.</translation>
     </message>
 </context>
 </TS>

@@ -12,12 +12,72 @@
         <translation>"%1" ei ole linkkitietokannan osoite. Mahdollisia ovat sqlite:TIEDOSTO ja postgresql://KÄYTTÄJÄ@KONE:PORTTI/TIETOKANTA.</translation>
     </message>
     <message>
+        <source>%1 darf nicht mehr „supports“ als „cases“ haben</source>
+        <translation>%1: "supports" ei saa olla suurempi kuin "cases"</translation>
+    </message>
+    <message>
+        <source>%1 darf nur Objekte enthalten</source>
+        <translation>%1 saa sisältää vain objekteja</translation>
+    </message>
+    <message>
+        <source>%1 enthält zu tief verschachtelte Werte</source>
+        <translation>%1 sisältää liian syvälle sisäkkäisiä arvoja</translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>Kohdetta %1 ei ole versiossa %2</translation>
     </message>
     <message>
+        <source>%1 hat einen leeren Eintrag „sourcePath“</source>
+        <translation>%1: kohta "sourcePath" on tyhjä</translation>
+    </message>
+    <message>
+        <source>%1 hat keinen Eintrag „%2“</source>
+        <translation>%1: kohta "%2" puuttuu</translation>
+    </message>
+    <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1 on toisen ohjelman tietokanta</translation>
+    </message>
+    <message>
+        <source>%1 ist kein Suchindex und kann nicht ersetzt werden</source>
+        <translation>%1 ei ole hakuindeksi, eikä sitä voi korvata</translation>
+    </message>
+    <message>
+        <source>%1 muss [Quellzeile, Zielzeile, Zustand] sein, dann der erweiterte Text, wenn es einen gibt, dann true für einen Konflikt; Zeilen zählen ab 0, -1 ist keine Zielzeile</source>
+        <translation>%1: muodon on oltava [lähderivi, kohderivi, tila], sitten laajennettu teksti, jos sellainen on, sitten true ristiriidalle; rivit lasketaan nollasta, -1 tarkoittaa, ettei kohderiviä ole</translation>
+    </message>
+    <message>
+        <source>%1 muss ein Objekt sein</source>
+        <translation>%1: arvon on oltava objekti</translation>
+    </message>
+    <message>
+        <source>%1 muss ein Text sein</source>
+        <translation>%1: arvon on oltava teksti</translation>
+    </message>
+    <message>
+        <source>%1 muss eine Liste sein</source>
+        <translation>%1: arvon on oltava luettelo</translation>
+    </message>
+    <message>
+        <source>%1 muss eine Variable nennen, dazu Texte als „before“ und „after“ oder Dezimalzahlen als „factor“ und „offset“</source>
+        <translation>%1: on nimettävä muuttuja ja joko tekstit "before" ja "after" tai desimaaliluvut "factor" ja "offset"</translation>
+    </message>
+    <message>
+        <source>%1 muss eine ganze Zahl von 0 bis 2147483647 sein</source>
+        <translation>%1: arvon on oltava kokonaisluku väliltä 0–2147483647</translation>
+    </message>
+    <message>
+        <source>%1 muss true oder false sein</source>
+        <translation>%1: arvon on oltava true tai false</translation>
+    </message>
+    <message>
+        <source>%1 muss von der Art „var“ mit „source“ und „target“ oder von der Art „value“ mit „formula“ sein</source>
+        <translation>%1: lajin on oltava "var" kohtineen "source" ja "target" tai "value" kohtineen "formula"</translation>
+    </message>
+    <message>
+        <source>%1 nennt die Quellzeile %2 noch einmal</source>
+        <translation>%1 mainitsee lähderivin %2 uudelleen</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -26,6 +86,10 @@
     <message>
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Ei ole varmaa, vahvistettiinko muutokset: tarkista ennen toistamista.</translation>
+    </message>
+    <message>
+        <source>%1: das Ziel mit leerem „path“ steht jetzt am Ende</source>
+        <translation>%1: kohde, jonka "path" on tyhjä, on nyt viimeisenä</translation>
     </message>
     <message numerus="yes">
         <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
@@ -107,6 +171,14 @@
     <message>
         <source>Der Katalog %1 passt nicht in den Zwischenspeicher von %2 MB; die Suche kennt ihn nicht</source>
         <translation>Luettelo %1 ei mahdu %2 Mt:n välimuistiin; haku ei tunne sitä</translation>
+    </message>
+    <message>
+        <source>Der Katalogstand</source>
+        <translation>Luetteloversio</translation>
+    </message>
+    <message>
+        <source>Der Katalogstand nennt „%1“ als sein sourceDate.</source>
+        <translation>Luetteloversio ilmoittaa sourceDate-arvokseen "%1".</translation>
     </message>
     <message>
         <source>Der Kosinus eines Winkels in Grad.</source>
@@ -191,6 +263,10 @@
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
+    </message>
+    <message>
+        <source>Die Datei hat sich geändert, während sie gelesen wurde.</source>
+        <translation>Tiedosto muuttui lukemisen aikana.</translation>
     </message>
     <message>
         <source>Die Funktion %1 ist nicht bekannt</source>
@@ -356,6 +432,14 @@
         <translation>Kaavan on annettava muuttujalle arvo</translation>
     </message>
     <message>
+        <source>Eine Mapping-Datei muss ein Objekt enthalten.</source>
+        <translation>Kohdistustiedoston on sisällettävä objekti.</translation>
+    </message>
+    <message>
+        <source>Er steht zwischen zwei Katalogständen desselben Datums.</source>
+        <translation>Se on kahden samanpäiväisen luetteloversion välissä.</translation>
+    </message>
+    <message>
         <source>Erwartet wird %1, gefunden wurde %2</source>
         <translation>Odotettiin: %1, löytyi: %2</translation>
     </message>
@@ -390,6 +474,10 @@
     <message>
         <source>Hier wird ein Wert erwartet, kein Vergleich</source>
         <translation>Tässä odotetaan arvoa, ei vertailua</translation>
+    </message>
+    <message>
+        <source>Hinter dem Dokument steht ein Byte mit dem Wert 0.</source>
+        <translation>Asiakirjan jälkeen on tavu, jonka arvo on 0.</translation>
     </message>
     <message>
         <source>In %1 ist keine Linkdatenbank, oder eine älterer Form. Sie wird beim ersten Schreiben angelegt oder erneuert.</source>
@@ -466,6 +554,10 @@
     <message>
         <source>Wert, Wert, ...</source>
         <translation>arvo, arvo, ...</translation>
+    </message>
+    <message>
+        <source>Werte sind zu tief verschachtelt.</source>
+        <translation>Arvot ovat liian syvällä sisäkkäin.</translation>
     </message>
     <message>
         <source>Winkel</source>
@@ -810,6 +902,10 @@
     <message>
         <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
         <translation>”%1” on paikan ”%2” ulkopuolella; siirrä se sinne tai salli sen hakemisto</translation>
+    </message>
+    <message>
+        <source>„%1“ steht mehr als einmal da; der letzte Eintrag gilt.</source>
+        <translation>"%1" esiintyy useammin kuin kerran; viimeinen pätee.</translation>
     </message>
 </context>
 </TS>

@@ -12,12 +12,72 @@
         <translation>"%1" n'est pas l'adresse d'une base de liens. Possibles : sqlite:FICHIER et postgresql://UTILISATEUR@HÔTE:PORT/BASE.</translation>
     </message>
     <message>
+        <source>%1 darf nicht mehr „supports“ als „cases“ haben</source>
+        <translation>%1 ne doit pas avoir plus de « supports » que de « cases »</translation>
+    </message>
+    <message>
+        <source>%1 darf nur Objekte enthalten</source>
+        <translation>%1 ne doit contenir que des objets</translation>
+    </message>
+    <message>
+        <source>%1 enthält zu tief verschachtelte Werte</source>
+        <translation>%1 contient des valeurs imbriquées trop profondément</translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 n'existe pas dans la révision %2</translation>
     </message>
     <message>
+        <source>%1 hat einen leeren Eintrag „sourcePath“</source>
+        <translation>%1 a une entrée « sourcePath » vide</translation>
+    </message>
+    <message>
+        <source>%1 hat keinen Eintrag „%2“</source>
+        <translation>%1 n'a pas d'entrée « %2 »</translation>
+    </message>
+    <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1 est la base de données d'un autre programme</translation>
+    </message>
+    <message>
+        <source>%1 ist kein Suchindex und kann nicht ersetzt werden</source>
+        <translation>%1 n'est pas un index de recherche et ne peut pas être remplacé</translation>
+    </message>
+    <message>
+        <source>%1 muss [Quellzeile, Zielzeile, Zustand] sein, dann der erweiterte Text, wenn es einen gibt, dann true für einen Konflikt; Zeilen zählen ab 0, -1 ist keine Zielzeile</source>
+        <translation>%1 doit être [ligne source, ligne cible, état], puis le texte étendu s'il y en a un, puis true en cas de conflit ; les lignes comptent à partir de 0, -1 signifie aucune ligne cible</translation>
+    </message>
+    <message>
+        <source>%1 muss ein Objekt sein</source>
+        <translation>%1 doit être un objet</translation>
+    </message>
+    <message>
+        <source>%1 muss ein Text sein</source>
+        <translation>%1 doit être un texte</translation>
+    </message>
+    <message>
+        <source>%1 muss eine Liste sein</source>
+        <translation>%1 doit être une liste</translation>
+    </message>
+    <message>
+        <source>%1 muss eine Variable nennen, dazu Texte als „before“ und „after“ oder Dezimalzahlen als „factor“ und „offset“</source>
+        <translation>%1 doit nommer une variable, et des textes « before » et « after » ou des nombres décimaux « factor » et « offset »</translation>
+    </message>
+    <message>
+        <source>%1 muss eine ganze Zahl von 0 bis 2147483647 sein</source>
+        <translation>%1 doit être un entier de 0 à 2147483647</translation>
+    </message>
+    <message>
+        <source>%1 muss true oder false sein</source>
+        <translation>%1 doit être true ou false</translation>
+    </message>
+    <message>
+        <source>%1 muss von der Art „var“ mit „source“ und „target“ oder von der Art „value“ mit „formula“ sein</source>
+        <translation>%1 doit être du genre « var » avec « source » et « target », ou du genre « value » avec « formula »</translation>
+    </message>
+    <message>
+        <source>%1 nennt die Quellzeile %2 noch einmal</source>
+        <translation>%1 nomme encore une fois la ligne source %2</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -26,6 +86,10 @@
     <message>
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Il n'est pas certain que les modifications soient validées : vérifier avant de recommencer.</translation>
+    </message>
+    <message>
+        <source>%1: das Ziel mit leerem „path“ steht jetzt am Ende</source>
+        <translation>%1 : la cible au « path » vide se trouve maintenant à la fin</translation>
     </message>
     <message numerus="yes">
         <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
@@ -107,6 +171,14 @@
     <message>
         <source>Der Katalog %1 passt nicht in den Zwischenspeicher von %2 MB; die Suche kennt ihn nicht</source>
         <translation>Le catalogue %1 ne tient pas dans le cache de %2 Mo ; la recherche ne le connaît pas</translation>
+    </message>
+    <message>
+        <source>Der Katalogstand</source>
+        <translation>La version du catalogue</translation>
+    </message>
+    <message>
+        <source>Der Katalogstand nennt „%1“ als sein sourceDate.</source>
+        <translation>La version du catalogue indique « %1 » comme sourceDate.</translation>
     </message>
     <message>
         <source>Der Kosinus eines Winkels in Grad.</source>
@@ -191,6 +263,10 @@
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
+    </message>
+    <message>
+        <source>Die Datei hat sich geändert, während sie gelesen wurde.</source>
+        <translation>Le fichier a changé pendant sa lecture.</translation>
     </message>
     <message>
         <source>Die Funktion %1 ist nicht bekannt</source>
@@ -356,6 +432,14 @@
         <translation>Une formule doit affecter une valeur à une variable</translation>
     </message>
     <message>
+        <source>Eine Mapping-Datei muss ein Objekt enthalten.</source>
+        <translation>Un fichier de mapping doit contenir un objet.</translation>
+    </message>
+    <message>
+        <source>Er steht zwischen zwei Katalogständen desselben Datums.</source>
+        <translation>Elle se trouve entre deux versions du catalogue de même date.</translation>
+    </message>
+    <message>
         <source>Erwartet wird %1, gefunden wurde %2</source>
         <translation>%1 attendu, %2 trouvé</translation>
     </message>
@@ -390,6 +474,10 @@
     <message>
         <source>Hier wird ein Wert erwartet, kein Vergleich</source>
         <translation>Une valeur est attendue ici, pas une comparaison</translation>
+    </message>
+    <message>
+        <source>Hinter dem Dokument steht ein Byte mit dem Wert 0.</source>
+        <translation>Un octet de valeur 0 suit le document.</translation>
     </message>
     <message>
         <source>In %1 ist keine Linkdatenbank, oder eine älterer Form. Sie wird beim ersten Schreiben angelegt oder erneuert.</source>
@@ -466,6 +554,10 @@
     <message>
         <source>Wert, Wert, ...</source>
         <translation>valeur, valeur, ...</translation>
+    </message>
+    <message>
+        <source>Werte sind zu tief verschachtelt.</source>
+        <translation>Des valeurs sont imbriquées trop profondément.</translation>
     </message>
     <message>
         <source>Winkel</source>
@@ -810,6 +902,10 @@
     <message>
         <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
         <translation>« %1 » se trouve hors de « %2 » ; déplacez-le ou autorisez son répertoire</translation>
+    </message>
+    <message>
+        <source>„%1“ steht mehr als einmal da; der letzte Eintrag gilt.</source>
+        <translation>« %1 » figure plus d'une fois ; la dernière entrée compte.</translation>
     </message>
 </context>
 </TS>

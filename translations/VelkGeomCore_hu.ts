@@ -12,12 +12,72 @@
         <translation>"%1" nem egy hivatkozási adatbázis címe. Lehetséges: sqlite:FÁJL és postgresql://FELHASZNÁLÓ@GÉP:PORT/ADATBÁZIS.</translation>
     </message>
     <message>
+        <source>%1 darf nicht mehr „supports“ als „cases“ haben</source>
+        <translation>%1 nem tartalmazhat több „supports”-ot, mint „cases”-t</translation>
+    </message>
+    <message>
+        <source>%1 darf nur Objekte enthalten</source>
+        <translation>%1 csak objektumokat tartalmazhat</translation>
+    </message>
+    <message>
+        <source>%1 enthält zu tief verschachtelte Werte</source>
+        <translation>%1 túl mélyen egymásba ágyazott értékeket tartalmaz</translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 nem létezik a(z) %2. revízióban</translation>
     </message>
     <message>
+        <source>%1 hat einen leeren Eintrag „sourcePath“</source>
+        <translation>%1 „sourcePath” bejegyzése üres</translation>
+    </message>
+    <message>
+        <source>%1 hat keinen Eintrag „%2“</source>
+        <translation>%1 nem tartalmaz „%2” bejegyzést</translation>
+    </message>
+    <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1 egy másik program adatbázisa</translation>
+    </message>
+    <message>
+        <source>%1 ist kein Suchindex und kann nicht ersetzt werden</source>
+        <translation>%1 nem keresőindex, és nem cserélhető le</translation>
+    </message>
+    <message>
+        <source>%1 muss [Quellzeile, Zielzeile, Zustand] sein, dann der erweiterte Text, wenn es einen gibt, dann true für einen Konflikt; Zeilen zählen ab 0, -1 ist keine Zielzeile</source>
+        <translation>%1 alakja: [forrássor, célsor, állapot], majd a bővített szöveg, ha van, majd ütközésnél true; a sorok számozása 0-tól indul, -1 azt jelenti, hogy nincs célsor</translation>
+    </message>
+    <message>
+        <source>%1 muss ein Objekt sein</source>
+        <translation>%1 csak objektum lehet</translation>
+    </message>
+    <message>
+        <source>%1 muss ein Text sein</source>
+        <translation>%1 csak szöveg lehet</translation>
+    </message>
+    <message>
+        <source>%1 muss eine Liste sein</source>
+        <translation>%1 csak lista lehet</translation>
+    </message>
+    <message>
+        <source>%1 muss eine Variable nennen, dazu Texte als „before“ und „after“ oder Dezimalzahlen als „factor“ und „offset“</source>
+        <translation>%1 egy változót nevez meg, hozzá „before” és „after” szöveget vagy „factor” és „offset” tizedes számot</translation>
+    </message>
+    <message>
+        <source>%1 muss eine ganze Zahl von 0 bis 2147483647 sein</source>
+        <translation>%1 csak 0 és 2147483647 közötti egész szám lehet</translation>
+    </message>
+    <message>
+        <source>%1 muss true oder false sein</source>
+        <translation>%1 csak true vagy false lehet</translation>
+    </message>
+    <message>
+        <source>%1 muss von der Art „var“ mit „source“ und „target“ oder von der Art „value“ mit „formula“ sein</source>
+        <translation>%1 fajtája „var” lehet „source” és „target” bejegyzéssel, vagy „value” „formula” bejegyzéssel</translation>
+    </message>
+    <message>
+        <source>%1 nennt die Quellzeile %2 noch einmal</source>
+        <translation>%1 még egyszer megnevezi a(z) %2. forrássort</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -26,6 +86,10 @@
     <message>
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Bizonytalan, hogy a módosítások véglegesítve vannak-e: ismétlés előtt ellenőrizze.</translation>
+    </message>
+    <message>
+        <source>%1: das Ziel mit leerem „path“ steht jetzt am Ende</source>
+        <translation>%1: az üres „path” értékű cél most a végén áll</translation>
     </message>
     <message numerus="yes">
         <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
@@ -104,6 +168,14 @@
     <message>
         <source>Der Katalog %1 passt nicht in den Zwischenspeicher von %2 MB; die Suche kennt ihn nicht</source>
         <translation>A(z) %1 katalógus nem fér el a %2 MB-os gyorsítótárban; a keresés nem ismeri</translation>
+    </message>
+    <message>
+        <source>Der Katalogstand</source>
+        <translation>A katalógusverzió</translation>
+    </message>
+    <message>
+        <source>Der Katalogstand nennt „%1“ als sein sourceDate.</source>
+        <translation>A katalógusverzió sourceDate értéke „%1”.</translation>
     </message>
     <message>
         <source>Der Kosinus eines Winkels in Grad.</source>
@@ -188,6 +260,10 @@
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
+    </message>
+    <message>
+        <source>Die Datei hat sich geändert, während sie gelesen wurde.</source>
+        <translation>A fájl olvasás közben megváltozott.</translation>
     </message>
     <message>
         <source>Die Funktion %1 ist nicht bekannt</source>
@@ -352,6 +428,14 @@
         <translation>A képletnek értéket kell adnia egy változónak</translation>
     </message>
     <message>
+        <source>Eine Mapping-Datei muss ein Objekt enthalten.</source>
+        <translation>A leképezési fájlnak egy objektumot kell tartalmaznia.</translation>
+    </message>
+    <message>
+        <source>Er steht zwischen zwei Katalogständen desselben Datums.</source>
+        <translation>Két azonos dátumú katalógusverzió között áll.</translation>
+    </message>
+    <message>
         <source>Erwartet wird %1, gefunden wurde %2</source>
         <translation>Várt: %1, talált: %2</translation>
     </message>
@@ -386,6 +470,10 @@
     <message>
         <source>Hier wird ein Wert erwartet, kein Vergleich</source>
         <translation>Itt érték várt, nem összehasonlítás</translation>
+    </message>
+    <message>
+        <source>Hinter dem Dokument steht ein Byte mit dem Wert 0.</source>
+        <translation>A dokumentum után egy 0 értékű bájt áll.</translation>
     </message>
     <message>
         <source>In %1 ist keine Linkdatenbank, oder eine älterer Form. Sie wird beim ersten Schreiben angelegt oder erneuert.</source>
@@ -462,6 +550,10 @@
     <message>
         <source>Wert, Wert, ...</source>
         <translation>érték, érték, ...</translation>
+    </message>
+    <message>
+        <source>Werte sind zu tief verschachtelt.</source>
+        <translation>Az értékek túl mélyen vannak egymásba ágyazva.</translation>
     </message>
     <message>
         <source>Winkel</source>
@@ -804,6 +896,10 @@
     <message>
         <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
         <translation>a(z) „%1” ezen kívül van: „%2”; helyezze át oda, vagy engedélyezze a könyvtárát</translation>
+    </message>
+    <message>
+        <source>„%1“ steht mehr als einmal da; der letzte Eintrag gilt.</source>
+        <translation>„%1” többször szerepel; az utolsó bejegyzés érvényes.</translation>
     </message>
 </context>
 </TS>

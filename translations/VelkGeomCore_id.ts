@@ -12,12 +12,72 @@
         <translation>"%1" bukan alamat basis data tautan. Yang mungkin: sqlite:BERKAS dan postgresql://PENGGUNA@HOST:PORT/BASISDATA.</translation>
     </message>
     <message>
+        <source>%1 darf nicht mehr „supports“ als „cases“ haben</source>
+        <translation>%1 tidak boleh memiliki lebih banyak "supports" daripada "cases"</translation>
+    </message>
+    <message>
+        <source>%1 darf nur Objekte enthalten</source>
+        <translation>%1 hanya boleh berisi objek</translation>
+    </message>
+    <message>
+        <source>%1 enthält zu tief verschachtelte Werte</source>
+        <translation>%1 berisi nilai yang bersarang terlalu dalam</translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 tidak ada di revisi %2</translation>
     </message>
     <message>
+        <source>%1 hat einen leeren Eintrag „sourcePath“</source>
+        <translation>%1 memiliki entri "sourcePath" yang kosong</translation>
+    </message>
+    <message>
+        <source>%1 hat keinen Eintrag „%2“</source>
+        <translation>%1 tidak memiliki entri "%2"</translation>
+    </message>
+    <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1 adalah basis data program lain</translation>
+    </message>
+    <message>
+        <source>%1 ist kein Suchindex und kann nicht ersetzt werden</source>
+        <translation>%1 bukan indeks pencarian dan tidak dapat diganti</translation>
+    </message>
+    <message>
+        <source>%1 muss [Quellzeile, Zielzeile, Zustand] sein, dann der erweiterte Text, wenn es einen gibt, dann true für einen Konflikt; Zeilen zählen ab 0, -1 ist keine Zielzeile</source>
+        <translation>%1 harus berupa [baris sumber, baris tujuan, status], lalu teks tambahan bila ada, lalu true untuk konflik; baris dihitung dari 0, -1 berarti tanpa baris tujuan</translation>
+    </message>
+    <message>
+        <source>%1 muss ein Objekt sein</source>
+        <translation>%1 harus berupa objek</translation>
+    </message>
+    <message>
+        <source>%1 muss ein Text sein</source>
+        <translation>%1 harus berupa teks</translation>
+    </message>
+    <message>
+        <source>%1 muss eine Liste sein</source>
+        <translation>%1 harus berupa daftar</translation>
+    </message>
+    <message>
+        <source>%1 muss eine Variable nennen, dazu Texte als „before“ und „after“ oder Dezimalzahlen als „factor“ und „offset“</source>
+        <translation>%1 harus menyebut sebuah variabel, beserta teks "before" dan "after" atau bilangan desimal "factor" dan "offset"</translation>
+    </message>
+    <message>
+        <source>%1 muss eine ganze Zahl von 0 bis 2147483647 sein</source>
+        <translation>%1 harus berupa bilangan bulat dari 0 sampai 2147483647</translation>
+    </message>
+    <message>
+        <source>%1 muss true oder false sein</source>
+        <translation>%1 harus true atau false</translation>
+    </message>
+    <message>
+        <source>%1 muss von der Art „var“ mit „source“ und „target“ oder von der Art „value“ mit „formula“ sein</source>
+        <translation>%1 harus berjenis "var" dengan "source" dan "target", atau berjenis "value" dengan "formula"</translation>
+    </message>
+    <message>
+        <source>%1 nennt die Quellzeile %2 noch einmal</source>
+        <translation>%1 menyebut baris sumber %2 sekali lagi</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -26,6 +86,10 @@
     <message>
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Tidak pasti apakah perubahan sudah tersimpan: periksa sebelum mengulang.</translation>
+    </message>
+    <message>
+        <source>%1: das Ziel mit leerem „path“ steht jetzt am Ende</source>
+        <translation>%1: tujuan dengan "path" kosong sekarang berada di akhir</translation>
     </message>
     <message numerus="yes">
         <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
@@ -104,6 +168,14 @@
     <message>
         <source>Der Katalog %1 passt nicht in den Zwischenspeicher von %2 MB; die Suche kennt ihn nicht</source>
         <translation>Katalog %1 tidak muat dalam tembolok %2 MB; pencarian tidak mengenalnya</translation>
+    </message>
+    <message>
+        <source>Der Katalogstand</source>
+        <translation>Rilis katalog</translation>
+    </message>
+    <message>
+        <source>Der Katalogstand nennt „%1“ als sein sourceDate.</source>
+        <translation>Rilis katalog menyebut "%1" sebagai sourceDate.</translation>
     </message>
     <message>
         <source>Der Kosinus eines Winkels in Grad.</source>
@@ -188,6 +260,10 @@
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
+    </message>
+    <message>
+        <source>Die Datei hat sich geändert, während sie gelesen wurde.</source>
+        <translation>Berkas berubah saat dibaca.</translation>
     </message>
     <message>
         <source>Die Funktion %1 ist nicht bekannt</source>
@@ -352,6 +428,14 @@
         <translation>Rumus harus memberi nilai kepada variabel</translation>
     </message>
     <message>
+        <source>Eine Mapping-Datei muss ein Objekt enthalten.</source>
+        <translation>Berkas pemetaan harus berisi sebuah objek.</translation>
+    </message>
+    <message>
+        <source>Er steht zwischen zwei Katalogständen desselben Datums.</source>
+        <translation>Rilis ini berada di antara dua rilis bertanggal sama.</translation>
+    </message>
+    <message>
         <source>Erwartet wird %1, gefunden wurde %2</source>
         <translation>Diharapkan %1, ditemukan %2</translation>
     </message>
@@ -386,6 +470,10 @@
     <message>
         <source>Hier wird ein Wert erwartet, kein Vergleich</source>
         <translation>Di sini diharapkan nilai, bukan perbandingan</translation>
+    </message>
+    <message>
+        <source>Hinter dem Dokument steht ein Byte mit dem Wert 0.</source>
+        <translation>Di belakang dokumen ada bita bernilai 0.</translation>
     </message>
     <message>
         <source>In %1 ist keine Linkdatenbank, oder eine älterer Form. Sie wird beim ersten Schreiben angelegt oder erneuert.</source>
@@ -462,6 +550,10 @@
     <message>
         <source>Wert, Wert, ...</source>
         <translation>nilai, nilai, ...</translation>
+    </message>
+    <message>
+        <source>Werte sind zu tief verschachtelt.</source>
+        <translation>Nilai bersarang terlalu dalam.</translation>
     </message>
     <message>
         <source>Winkel</source>
@@ -804,6 +896,10 @@
     <message>
         <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
         <translation>“%1” berada di luar “%2”; pindahkan ke sana, atau izinkan direktorinya</translation>
+    </message>
+    <message>
+        <source>„%1“ steht mehr als einmal da; der letzte Eintrag gilt.</source>
+        <translation>"%1" ada lebih dari sekali; entri terakhir yang berlaku.</translation>
     </message>
 </context>
 </TS>

@@ -12,12 +12,72 @@
         <translation>"%1"은(는) 링크 데이터베이스의 주소가 아닙니다. sqlite:파일 또는 postgresql://사용자@호스트:포트/데이터베이스를 쓸 수 있습니다.</translation>
     </message>
     <message>
+        <source>%1 darf nicht mehr „supports“ als „cases“ haben</source>
+        <translation>%1: "supports"는 "cases"보다 클 수 없습니다</translation>
+    </message>
+    <message>
+        <source>%1 darf nur Objekte enthalten</source>
+        <translation>%1: 객체만 포함할 수 있습니다</translation>
+    </message>
+    <message>
+        <source>%1 enthält zu tief verschachtelte Werte</source>
+        <translation>%1: 값이 너무 깊게 중첩되어 있습니다</translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1은(는) 리비전 %2에 없습니다</translation>
     </message>
     <message>
+        <source>%1 hat einen leeren Eintrag „sourcePath“</source>
+        <translation>%1: "sourcePath" 항목이 비어 있습니다</translation>
+    </message>
+    <message>
+        <source>%1 hat keinen Eintrag „%2“</source>
+        <translation>%1: "%2" 항목이 없습니다</translation>
+    </message>
+    <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1은(는) 다른 프로그램의 데이터베이스입니다</translation>
+    </message>
+    <message>
+        <source>%1 ist kein Suchindex und kann nicht ersetzt werden</source>
+        <translation>%1은(는) 검색 색인이 아니며 바꿀 수 없습니다</translation>
+    </message>
+    <message>
+        <source>%1 muss [Quellzeile, Zielzeile, Zustand] sein, dann der erweiterte Text, wenn es einen gibt, dann true für einen Konflikt; Zeilen zählen ab 0, -1 ist keine Zielzeile</source>
+        <translation>%1: [원본 행, 대상 행, 상태], 이어서 확장 텍스트(있는 경우), 충돌이면 true여야 합니다. 행은 0부터 세며 -1은 대상 행 없음입니다</translation>
+    </message>
+    <message>
+        <source>%1 muss ein Objekt sein</source>
+        <translation>%1: 객체여야 합니다</translation>
+    </message>
+    <message>
+        <source>%1 muss ein Text sein</source>
+        <translation>%1: 텍스트여야 합니다</translation>
+    </message>
+    <message>
+        <source>%1 muss eine Liste sein</source>
+        <translation>%1: 목록이어야 합니다</translation>
+    </message>
+    <message>
+        <source>%1 muss eine Variable nennen, dazu Texte als „before“ und „after“ oder Dezimalzahlen als „factor“ und „offset“</source>
+        <translation>%1: 변수와 함께 텍스트 "before" 및 "after" 또는 소수 "factor" 및 "offset"이 있어야 합니다</translation>
+    </message>
+    <message>
+        <source>%1 muss eine ganze Zahl von 0 bis 2147483647 sein</source>
+        <translation>%1: 0에서 2147483647 사이의 정수여야 합니다</translation>
+    </message>
+    <message>
+        <source>%1 muss true oder false sein</source>
+        <translation>%1: true 또는 false여야 합니다</translation>
+    </message>
+    <message>
+        <source>%1 muss von der Art „var“ mit „source“ und „target“ oder von der Art „value“ mit „formula“ sein</source>
+        <translation>%1: "source"와 "target"이 있는 "var" 종류이거나 "formula"가 있는 "value" 종류여야 합니다</translation>
+    </message>
+    <message>
+        <source>%1 nennt die Quellzeile %2 noch einmal</source>
+        <translation>%1: 원본 행 %2이(가) 다시 나옵니다</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -26,6 +86,10 @@
     <message>
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. 변경이 확정되었는지 확실하지 않습니다. 반복하기 전에 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>%1: das Ziel mit leerem „path“ steht jetzt am Ende</source>
+        <translation>%1: "path"가 빈 대상을 끝으로 옮겼습니다</translation>
     </message>
     <message numerus="yes">
         <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
@@ -104,6 +168,14 @@
     <message>
         <source>Der Katalog %1 passt nicht in den Zwischenspeicher von %2 MB; die Suche kennt ihn nicht</source>
         <translation>카탈로그 %1이(가) %2MB 캐시에 들어가지 않아 검색에 포함되지 않습니다</translation>
+    </message>
+    <message>
+        <source>Der Katalogstand</source>
+        <translation>카탈로그 릴리스</translation>
+    </message>
+    <message>
+        <source>Der Katalogstand nennt „%1“ als sein sourceDate.</source>
+        <translation>카탈로그 릴리스의 sourceDate가 "%1"입니다.</translation>
     </message>
     <message>
         <source>Der Kosinus eines Winkels in Grad.</source>
@@ -188,6 +260,10 @@
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
+    </message>
+    <message>
+        <source>Die Datei hat sich geändert, während sie gelesen wurde.</source>
+        <translation>읽는 동안 파일이 변경되었습니다.</translation>
     </message>
     <message>
         <source>Die Funktion %1 ist nicht bekannt</source>
@@ -352,6 +428,14 @@
         <translation>수식은 변수에 값을 지정해야 합니다</translation>
     </message>
     <message>
+        <source>Eine Mapping-Datei muss ein Objekt enthalten.</source>
+        <translation>매핑 파일에는 객체가 있어야 합니다.</translation>
+    </message>
+    <message>
+        <source>Er steht zwischen zwei Katalogständen desselben Datums.</source>
+        <translation>같은 날짜의 두 릴리스 사이에 있습니다.</translation>
+    </message>
+    <message>
         <source>Erwartet wird %1, gefunden wurde %2</source>
         <translation>%1이(가) 필요하지만 %2을(를) 찾았습니다</translation>
     </message>
@@ -386,6 +470,10 @@
     <message>
         <source>Hier wird ein Wert erwartet, kein Vergleich</source>
         <translation>여기에는 비교가 아니라 값이 필요합니다</translation>
+    </message>
+    <message>
+        <source>Hinter dem Dokument steht ein Byte mit dem Wert 0.</source>
+        <translation>문서 뒤에 값이 0인 바이트가 있습니다.</translation>
     </message>
     <message>
         <source>In %1 ist keine Linkdatenbank, oder eine älterer Form. Sie wird beim ersten Schreiben angelegt oder erneuert.</source>
@@ -462,6 +550,10 @@
     <message>
         <source>Wert, Wert, ...</source>
         <translation>값, 값, ...</translation>
+    </message>
+    <message>
+        <source>Werte sind zu tief verschachtelt.</source>
+        <translation>값이 너무 깊게 중첩되어 있습니다.</translation>
     </message>
     <message>
         <source>Winkel</source>
@@ -804,6 +896,10 @@
     <message>
         <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
         <translation>‘%1’은(는) ‘%2’ 밖에 있습니다. 그리로 옮기거나 그 디렉터리를 허용하십시오</translation>
+    </message>
+    <message>
+        <source>„%1“ steht mehr als einmal da; der letzte Eintrag gilt.</source>
+        <translation>"%1"이(가) 두 번 이상 있습니다. 마지막 항목이 적용됩니다.</translation>
     </message>
 </context>
 </TS>

@@ -12,12 +12,72 @@
         <translation>"%1" nie jest adresem bazy łączy. Możliwe są sqlite:PLIK i postgresql://UŻYTKOWNIK@KOMPUTER:PORT/BAZA.</translation>
     </message>
     <message>
+        <source>%1 darf nicht mehr „supports“ als „cases“ haben</source>
+        <translation>%1 nie może mieć więcej „supports” niż „cases”</translation>
+    </message>
+    <message>
+        <source>%1 darf nur Objekte enthalten</source>
+        <translation>%1 może zawierać tylko obiekty</translation>
+    </message>
+    <message>
+        <source>%1 enthält zu tief verschachtelte Werte</source>
+        <translation>%1 zawiera zbyt głęboko zagnieżdżone wartości</translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 nie istnieje w rewizji %2</translation>
     </message>
     <message>
+        <source>%1 hat einen leeren Eintrag „sourcePath“</source>
+        <translation>%1 ma pusty wpis „sourcePath”</translation>
+    </message>
+    <message>
+        <source>%1 hat keinen Eintrag „%2“</source>
+        <translation>%1 nie ma wpisu „%2”</translation>
+    </message>
+    <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1 jest bazą innego programu</translation>
+    </message>
+    <message>
+        <source>%1 ist kein Suchindex und kann nicht ersetzt werden</source>
+        <translation>%1 nie jest indeksem wyszukiwania i nie można go zastąpić</translation>
+    </message>
+    <message>
+        <source>%1 muss [Quellzeile, Zielzeile, Zustand] sein, dann der erweiterte Text, wenn es einen gibt, dann true für einen Konflikt; Zeilen zählen ab 0, -1 ist keine Zielzeile</source>
+        <translation>%1 musi mieć postać [wiersz źródłowy, wiersz docelowy, stan], potem tekst rozszerzony, jeśli jest, potem true dla konfliktu; wiersze liczy się od 0, -1 to brak wiersza docelowego</translation>
+    </message>
+    <message>
+        <source>%1 muss ein Objekt sein</source>
+        <translation>%1 musi być obiektem</translation>
+    </message>
+    <message>
+        <source>%1 muss ein Text sein</source>
+        <translation>%1 musi być tekstem</translation>
+    </message>
+    <message>
+        <source>%1 muss eine Liste sein</source>
+        <translation>%1 musi być listą</translation>
+    </message>
+    <message>
+        <source>%1 muss eine Variable nennen, dazu Texte als „before“ und „after“ oder Dezimalzahlen als „factor“ und „offset“</source>
+        <translation>%1 musi podawać zmienną oraz teksty „before” i „after” albo liczby dziesiętne „factor” i „offset”</translation>
+    </message>
+    <message>
+        <source>%1 muss eine ganze Zahl von 0 bis 2147483647 sein</source>
+        <translation>%1 musi być liczbą całkowitą od 0 do 2147483647</translation>
+    </message>
+    <message>
+        <source>%1 muss true oder false sein</source>
+        <translation>%1 musi mieć wartość true albo false</translation>
+    </message>
+    <message>
+        <source>%1 muss von der Art „var“ mit „source“ und „target“ oder von der Art „value“ mit „formula“ sein</source>
+        <translation>%1 musi być rodzaju „var” z „source” i „target” albo rodzaju „value” z „formula”</translation>
+    </message>
+    <message>
+        <source>%1 nennt die Quellzeile %2 noch einmal</source>
+        <translation>%1 ponownie podaje wiersz źródłowy %2</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -26,6 +86,10 @@
     <message>
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Nie wiadomo, czy zmiany zostały zatwierdzone: przed powtórzeniem należy sprawdzić.</translation>
+    </message>
+    <message>
+        <source>%1: das Ziel mit leerem „path“ steht jetzt am Ende</source>
+        <translation>%1: cel z pustym „path” stoi teraz na końcu</translation>
     </message>
     <message numerus="yes">
         <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
@@ -112,6 +176,14 @@
         <translation>Katalog %1 nie mieści się w pamięci podręcznej %2 MB; wyszukiwanie go nie zna</translation>
     </message>
     <message>
+        <source>Der Katalogstand</source>
+        <translation>Wersja katalogu</translation>
+    </message>
+    <message>
+        <source>Der Katalogstand nennt „%1“ als sein sourceDate.</source>
+        <translation>Wersja katalogu podaje „%1” jako swoje sourceDate.</translation>
+    </message>
+    <message>
         <source>Der Kosinus eines Winkels in Grad.</source>
         <translation>The cosine of an angle in degrees.</translation>
     </message>
@@ -194,6 +266,10 @@
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
+    </message>
+    <message>
+        <source>Die Datei hat sich geändert, während sie gelesen wurde.</source>
+        <translation>Plik zmienił się podczas czytania.</translation>
     </message>
     <message>
         <source>Die Funktion %1 ist nicht bekannt</source>
@@ -360,6 +436,14 @@
         <translation>Formuła musi przypisać wartość zmiennej</translation>
     </message>
     <message>
+        <source>Eine Mapping-Datei muss ein Objekt enthalten.</source>
+        <translation>Plik mapowania musi zawierać obiekt.</translation>
+    </message>
+    <message>
+        <source>Er steht zwischen zwei Katalogständen desselben Datums.</source>
+        <translation>Stoi między dwoma wersjami katalogu o tej samej dacie.</translation>
+    </message>
+    <message>
         <source>Erwartet wird %1, gefunden wurde %2</source>
         <translation>Oczekiwano: %1, znaleziono: %2</translation>
     </message>
@@ -394,6 +478,10 @@
     <message>
         <source>Hier wird ein Wert erwartet, kein Vergleich</source>
         <translation>Oczekiwano tu wartości, nie porównania</translation>
+    </message>
+    <message>
+        <source>Hinter dem Dokument steht ein Byte mit dem Wert 0.</source>
+        <translation>Za dokumentem stoi bajt o wartości 0.</translation>
     </message>
     <message>
         <source>In %1 ist keine Linkdatenbank, oder eine älterer Form. Sie wird beim ersten Schreiben angelegt oder erneuert.</source>
@@ -470,6 +558,10 @@
     <message>
         <source>Wert, Wert, ...</source>
         <translation>wartość, wartość, ...</translation>
+    </message>
+    <message>
+        <source>Werte sind zu tief verschachtelt.</source>
+        <translation>Wartości są zbyt głęboko zagnieżdżone.</translation>
     </message>
     <message>
         <source>Winkel</source>
@@ -816,6 +908,10 @@
     <message>
         <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
         <translation>„%1” leży poza „%2”; przenieś to tam albo zezwól na ten folder</translation>
+    </message>
+    <message>
+        <source>„%1“ steht mehr als einmal da; der letzte Eintrag gilt.</source>
+        <translation>„%1” występuje więcej niż raz; liczy się ostatni wpis.</translation>
     </message>
 </context>
 </TS>

@@ -12,12 +12,72 @@
         <translation>"%1" ni naslov zbirke povezav. Možna sta sqlite:DATOTEKA in postgresql://UPORABNIK@GOSTITELJ:VRATA/ZBIRKA.</translation>
     </message>
     <message>
+        <source>%1 darf nicht mehr „supports“ als „cases“ haben</source>
+        <translation>%1 ne sme imeti več »supports« kot »cases«</translation>
+    </message>
+    <message>
+        <source>%1 darf nur Objekte enthalten</source>
+        <translation>%1 sme vsebovati samo objekte</translation>
+    </message>
+    <message>
+        <source>%1 enthält zu tief verschachtelte Werte</source>
+        <translation>%1 vsebuje pregloboko ugnezdene vrednosti</translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1 v reviziji %2 ne obstaja</translation>
     </message>
     <message>
+        <source>%1 hat einen leeren Eintrag „sourcePath“</source>
+        <translation>%1 ima prazen vnos »sourcePath«</translation>
+    </message>
+    <message>
+        <source>%1 hat keinen Eintrag „%2“</source>
+        <translation>%1 nima vnosa »%2«</translation>
+    </message>
+    <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1 je zbirka drugega programa</translation>
+    </message>
+    <message>
+        <source>%1 ist kein Suchindex und kann nicht ersetzt werden</source>
+        <translation>%1 ni iskalni indeks in ga ni mogoče zamenjati</translation>
+    </message>
+    <message>
+        <source>%1 muss [Quellzeile, Zielzeile, Zustand] sein, dann der erweiterte Text, wenn es einen gibt, dann true für einen Konflikt; Zeilen zählen ab 0, -1 ist keine Zielzeile</source>
+        <translation>%1 mora biti [izvorna vrstica, ciljna vrstica, stanje], nato razširjeno besedilo, če obstaja, nato true za spor; vrstice se štejejo od 0, -1 pomeni brez ciljne vrstice</translation>
+    </message>
+    <message>
+        <source>%1 muss ein Objekt sein</source>
+        <translation>%1 mora biti objekt</translation>
+    </message>
+    <message>
+        <source>%1 muss ein Text sein</source>
+        <translation>%1 mora biti besedilo</translation>
+    </message>
+    <message>
+        <source>%1 muss eine Liste sein</source>
+        <translation>%1 mora biti seznam</translation>
+    </message>
+    <message>
+        <source>%1 muss eine Variable nennen, dazu Texte als „before“ und „after“ oder Dezimalzahlen als „factor“ und „offset“</source>
+        <translation>%1 mora navesti spremenljivko ter besedili »before« in »after« ali decimalni števili »factor« in »offset«</translation>
+    </message>
+    <message>
+        <source>%1 muss eine ganze Zahl von 0 bis 2147483647 sein</source>
+        <translation>%1 mora biti celo število od 0 do 2147483647</translation>
+    </message>
+    <message>
+        <source>%1 muss true oder false sein</source>
+        <translation>%1 mora biti true ali false</translation>
+    </message>
+    <message>
+        <source>%1 muss von der Art „var“ mit „source“ und „target“ oder von der Art „value“ mit „formula“ sein</source>
+        <translation>%1 mora biti vrste »var« s »source« in »target« ali vrste »value« s »formula«</translation>
+    </message>
+    <message>
+        <source>%1 nennt die Quellzeile %2 noch einmal</source>
+        <translation>%1 še enkrat navaja izvorno vrstico %2</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -26,6 +86,10 @@
     <message>
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Ni gotovo, ali so spremembe potrjene: pred ponovitvijo preverite.</translation>
+    </message>
+    <message>
+        <source>%1: das Ziel mit leerem „path“ steht jetzt am Ende</source>
+        <translation>%1: cilj s praznim »path« je zdaj na koncu</translation>
     </message>
     <message numerus="yes">
         <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
@@ -115,6 +179,14 @@
         <translation>Katalog %1 ne gre v predpomnilnik velikosti %2 MB; iskanje ga ne pozna</translation>
     </message>
     <message>
+        <source>Der Katalogstand</source>
+        <translation>Izdaja kataloga</translation>
+    </message>
+    <message>
+        <source>Der Katalogstand nennt „%1“ als sein sourceDate.</source>
+        <translation>Izdaja kataloga navaja »%1« kot svoj sourceDate.</translation>
+    </message>
+    <message>
         <source>Der Kosinus eines Winkels in Grad.</source>
         <translation>The cosine of an angle in degrees.</translation>
     </message>
@@ -197,6 +269,10 @@
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
+    </message>
+    <message>
+        <source>Die Datei hat sich geändert, während sie gelesen wurde.</source>
+        <translation>Datoteka se je med branjem spremenila.</translation>
     </message>
     <message>
         <source>Die Funktion %1 ist nicht bekannt</source>
@@ -364,6 +440,14 @@
         <translation>Formula mora spremenljivki prirediti vrednost</translation>
     </message>
     <message>
+        <source>Eine Mapping-Datei muss ein Objekt enthalten.</source>
+        <translation>Datoteka preslikav mora vsebovati objekt.</translation>
+    </message>
+    <message>
+        <source>Er steht zwischen zwei Katalogständen desselben Datums.</source>
+        <translation>Stoji med dvema izdajama kataloga z istim datumom.</translation>
+    </message>
+    <message>
         <source>Erwartet wird %1, gefunden wurde %2</source>
         <translation>Pričakovano: %1, najdeno: %2</translation>
     </message>
@@ -398,6 +482,10 @@
     <message>
         <source>Hier wird ein Wert erwartet, kein Vergleich</source>
         <translation>Tu je pričakovana vrednost, ne primerjava</translation>
+    </message>
+    <message>
+        <source>Hinter dem Dokument steht ein Byte mit dem Wert 0.</source>
+        <translation>Za dokumentom je bajt z vrednostjo 0.</translation>
     </message>
     <message>
         <source>In %1 ist keine Linkdatenbank, oder eine älterer Form. Sie wird beim ersten Schreiben angelegt oder erneuert.</source>
@@ -474,6 +562,10 @@
     <message>
         <source>Wert, Wert, ...</source>
         <translation>vrednost, vrednost, ...</translation>
+    </message>
+    <message>
+        <source>Werte sind zu tief verschachtelt.</source>
+        <translation>Vrednosti so pregloboko ugnezdene.</translation>
     </message>
     <message>
         <source>Winkel</source>
@@ -822,6 +914,10 @@
     <message>
         <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
         <translation>»%1« leži zunaj »%2«; premaknite to tja ali dovolite imenik</translation>
+    </message>
+    <message>
+        <source>„%1“ steht mehr als einmal da; der letzte Eintrag gilt.</source>
+        <translation>»%1« je navedeno večkrat; velja zadnji vnos.</translation>
     </message>
 </context>
 </TS>

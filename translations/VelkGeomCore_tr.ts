@@ -12,12 +12,72 @@
         <translation>"%1" bir bağlantı veritabanının adresi değil. Olası olanlar: sqlite:DOSYA ve postgresql://KULLANICI@SUNUCU:PORT/VERİTABANI.</translation>
     </message>
     <message>
+        <source>%1 darf nicht mehr „supports“ als „cases“ haben</source>
+        <translation>%1 içinde "supports", "cases" değerinden büyük olamaz</translation>
+    </message>
+    <message>
+        <source>%1 darf nur Objekte enthalten</source>
+        <translation>%1 yalnızca nesneler içerebilir</translation>
+    </message>
+    <message>
+        <source>%1 enthält zu tief verschachtelte Werte</source>
+        <translation>%1 çok derin iç içe geçmiş değerler içeriyor</translation>
+    </message>
+    <message>
         <source>%1 gibt es in Revision %2 nicht</source>
         <translation>%1, %2 sürümünde yok</translation>
     </message>
     <message>
+        <source>%1 hat einen leeren Eintrag „sourcePath“</source>
+        <translation>%1 içinde "sourcePath" girdisi boş</translation>
+    </message>
+    <message>
+        <source>%1 hat keinen Eintrag „%2“</source>
+        <translation>%1 içinde "%2" girdisi yok</translation>
+    </message>
+    <message>
         <source>%1 ist die Datenbank eines anderen Programms</source>
         <translation>%1 başka bir programın veritabanı</translation>
+    </message>
+    <message>
+        <source>%1 ist kein Suchindex und kann nicht ersetzt werden</source>
+        <translation>%1 bir arama dizini değil ve değiştirilemiyor</translation>
+    </message>
+    <message>
+        <source>%1 muss [Quellzeile, Zielzeile, Zustand] sein, dann der erweiterte Text, wenn es einen gibt, dann true für einen Konflikt; Zeilen zählen ab 0, -1 ist keine Zielzeile</source>
+        <translation>%1, [kaynak satır, hedef satır, durum], varsa ardından genişletilmiş metin, çakışma için true olmalıdır; satırlar 0'dan sayılır, -1 hedef satır yok demektir</translation>
+    </message>
+    <message>
+        <source>%1 muss ein Objekt sein</source>
+        <translation>%1 bir nesne olmalıdır</translation>
+    </message>
+    <message>
+        <source>%1 muss ein Text sein</source>
+        <translation>%1 bir metin olmalıdır</translation>
+    </message>
+    <message>
+        <source>%1 muss eine Liste sein</source>
+        <translation>%1 bir liste olmalıdır</translation>
+    </message>
+    <message>
+        <source>%1 muss eine Variable nennen, dazu Texte als „before“ und „after“ oder Dezimalzahlen als „factor“ und „offset“</source>
+        <translation>%1 bir değişken, ayrıca "before" ve "after" metinlerini ya da "factor" ve "offset" ondalık sayılarını belirtmelidir</translation>
+    </message>
+    <message>
+        <source>%1 muss eine ganze Zahl von 0 bis 2147483647 sein</source>
+        <translation>%1, 0 ile 2147483647 arasında bir tam sayı olmalıdır</translation>
+    </message>
+    <message>
+        <source>%1 muss true oder false sein</source>
+        <translation>%1, true ya da false olmalıdır</translation>
+    </message>
+    <message>
+        <source>%1 muss von der Art „var“ mit „source“ und „target“ oder von der Art „value“ mit „formula“ sein</source>
+        <translation>%1, "source" ve "target" içeren "var" türünde ya da "formula" içeren "value" türünde olmalıdır</translation>
+    </message>
+    <message>
+        <source>%1 nennt die Quellzeile %2 noch einmal</source>
+        <translation>%1, %2 numaralı kaynak satırı bir kez daha belirtiyor</translation>
     </message>
     <message>
         <source>%1. Gelesen wird Revision %2, soweit sie auf dieser Maschine liegt.</source>
@@ -26,6 +86,10 @@
     <message>
         <source>%1. Ob die Änderungen festgeschrieben sind, ist ungewiss: vor einer Wiederholung nachsehen.</source>
         <translation>%1. Değişikliklerin kaydedilip kaydedilmediği belirsiz: yinelemeden önce bakın.</translation>
+    </message>
+    <message>
+        <source>%1: das Ziel mit leerem „path“ steht jetzt am Ende</source>
+        <translation>%1: "path" değeri boş olan hedef artık sonda</translation>
     </message>
     <message numerus="yes">
         <source>%Ln Zelle(n) statt %1 wie in der Kopfzeile</source>
@@ -104,6 +168,14 @@
     <message>
         <source>Der Katalog %1 passt nicht in den Zwischenspeicher von %2 MB; die Suche kennt ihn nicht</source>
         <translation>%1 kataloğu %2 MB'lık önbelleğe sığmıyor; arama onu bilmiyor</translation>
+    </message>
+    <message>
+        <source>Der Katalogstand</source>
+        <translation>Katalog sürümü</translation>
+    </message>
+    <message>
+        <source>Der Katalogstand nennt „%1“ als sein sourceDate.</source>
+        <translation>Katalog sürümü sourceDate olarak "%1" değerini belirtiyor.</translation>
     </message>
     <message>
         <source>Der Kosinus eines Winkels in Grad.</source>
@@ -188,6 +260,10 @@
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
+    </message>
+    <message>
+        <source>Die Datei hat sich geändert, während sie gelesen wurde.</source>
+        <translation>Dosya okunurken değişti.</translation>
     </message>
     <message>
         <source>Die Funktion %1 ist nicht bekannt</source>
@@ -352,6 +428,14 @@
         <translation>Formül bir değişkene değer atamalıdır</translation>
     </message>
     <message>
+        <source>Eine Mapping-Datei muss ein Objekt enthalten.</source>
+        <translation>Bir eşleme dosyası bir nesne içermelidir.</translation>
+    </message>
+    <message>
+        <source>Er steht zwischen zwei Katalogständen desselben Datums.</source>
+        <translation>Aynı tarihli iki sürüm arasında duruyor.</translation>
+    </message>
+    <message>
         <source>Erwartet wird %1, gefunden wurde %2</source>
         <translation>Beklenen: %1, bulunan: %2</translation>
     </message>
@@ -386,6 +470,10 @@
     <message>
         <source>Hier wird ein Wert erwartet, kein Vergleich</source>
         <translation>Burada karşılaştırma değil, değer bekleniyor</translation>
+    </message>
+    <message>
+        <source>Hinter dem Dokument steht ein Byte mit dem Wert 0.</source>
+        <translation>Belgenin ardında değeri 0 olan bir bayt var.</translation>
     </message>
     <message>
         <source>In %1 ist keine Linkdatenbank, oder eine älterer Form. Sie wird beim ersten Schreiben angelegt oder erneuert.</source>
@@ -462,6 +550,10 @@
     <message>
         <source>Wert, Wert, ...</source>
         <translation>değer, değer, ...</translation>
+    </message>
+    <message>
+        <source>Werte sind zu tief verschachtelt.</source>
+        <translation>Değerler çok derin iç içe geçmiş.</translation>
     </message>
     <message>
         <source>Winkel</source>
@@ -804,6 +896,10 @@
     <message>
         <source>„%1“ liegt außerhalb von „%2“; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>
         <translation>“%1”, “%2” dışında; oraya taşıyın veya dizinine izin verin</translation>
+    </message>
+    <message>
+        <source>„%1“ steht mehr als einmal da; der letzte Eintrag gilt.</source>
+        <translation>"%1" birden çok kez var; son girdi geçerlidir.</translation>
     </message>
 </context>
 </TS>

@@ -55,8 +55,8 @@ void tst_Extensions::leavesOut_data()
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("fault");
     QTest::newRow("another version")
-        << built("otherVersion") << "is made for version 0.0, this is ";
-    QTest::newRow("no extension") << built("plainLibrary") << "does not have VELK_EXTENSION";
+        << built("otherVersion") << "die Erweiterung ist für Version 0.0 gemacht, dies ist ";
+    QTest::newRow("no extension") << built("plainLibrary") << "VELK_EXTENSION fehlt";
     QTest::newRow("no library") << QStringLiteral(VELK_SOURCE_DIR "/README.md") << "libx.so";
 }
 

@@ -265,7 +265,8 @@ private Q_SLOTS:
         QVERIFY(QDir().mkpath(catalog.index));
         const CatalogSearchResult result = catalog.search("x");
         QCOMPARE(result.state, State::Failed);
-        QVERIFY2(result.errorText.contains("is no regular file"), qPrintable(result.errorText));
+        QVERIFY2(result.errorText.contains("keine gewöhnliche Datei"),
+                 qPrintable(result.errorText));
         const Outcome outcome = catalog.update();
         QCOMPARE(outcome.state, Outcome::Failed);
         QVERIFY(!outcome.errorText.isEmpty());

@@ -317,7 +317,7 @@ private Q_SLOTS:
         QVERIFY2(file.parse(bytes, QString(), &error), qPrintable(error));
         QCOMPARE(file.notes(),
                  QStringList{"\"2022\": mappings[0]: the target with an empty \"path\" "
-                             "was moved to the end."});
+                             "was moved to the end"});
         const PrjMappingC mapping = file.release("2022").mappingAt(0);
         QCOMPARE(mapping.countTargets(), 2);
         QCOMPARE(mapping.getNotFoundTarget(), 1);

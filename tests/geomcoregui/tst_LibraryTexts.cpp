@@ -8,6 +8,7 @@
 #include <core/text/PString.h>
 #include <geomcore/binding/VarsetConditionC.h>
 #include <geomcore/csv/TableDescriptor.h>
+#include <geomcore/records/MappingFile.h>
 #include <geomcoregui/table/VkTableView.h>
 
 #include <TestPaths.h>
@@ -198,6 +199,41 @@ private Q_SLOTS:
         VKTab::TableErrorList errors;
         QVERIFY(!VKTab::TableDescriptor::fromJson("{\"name\": 5}", "t.json", errors));
         QTEST(errors.first().toString(), "text");
+    }
+    void faultsOfMappingFiles_data()
+    {
+        QTest::addColumn<QByteArray>("json");
+        QTest::addColumn<QString>("german");
+        QTest::addColumn<QString>("french");
+        QTest::newRow("no object")
+            << QByteArray("[]") << "Eine Mapping-Datei muss ein Objekt enthalten."
+            << "Un fichier de mapping doit contenir un objet.";
+        QTest::newRow("member") << QByteArray("{\"1\": {\"sourceDate\": 5}}")
+                                << "\"1\": sourceDate muss ein Text sein"
+                                << "\"1\": sourceDate doit être un texte";
+        QTest::newRow("release")
+            << QByteArray("{\"1\": {\"sourceDate\": \"1\"}}")
+            << "\"1\": Der Katalogstand hat keinen Eintrag „targetDate“"
+            << "\"1\": La version du catalogue n'a pas d'entrée « targetDate »";
+        QTest::newRow("row")
+            << QByteArray(R"({"1": {"sourceDate": "1", "targetDate": "2", "mappings": [{)"
+                          R"("sourcePath": "a", "state": 0, "targets": [{"path": "b",)"
+                          R"( "lines": [[4, 5, 1], [4, 5, 1]]}]}]}})")
+            << "\"1\": mappings[0].targets[0].lines[1] nennt die Quellzeile 4 noch einmal"
+            << "\"1\": mappings[0].targets[0].lines[1] nomme encore une fois la ligne source 4";
+    }
+    void faultsOfMappingFiles()
+    {
+        QFETCH(QByteArray, json);
+        const auto fault = [&] {
+            MappingFile file;
+            QString error;
+            return file.parse(json, QString(), &error) ? "none" : error.section(": ", 1);
+        };
+        PTranslateManager::instance().setLanguage("de");
+        QTEST(fault(), "german");
+        PTranslateManager::instance().setLanguage("fr");
+        QTEST(fault(), "french");
     }
     void faultsOfJson_data()
     {

@@ -111,7 +111,7 @@ void tst_MappingDocument::refusesWhatItCannotRead_data()
         << QStringLiteral("2022") << noRelease << QStringLiteral("Vorhanden sind: 2020");
     QTest::newRow("release that is none")
         << QByteArray("{\"2020\":{\"sourceDate\":7}}") << QStringLiteral("2020") << unreadable
-        << QStringLiteral("\"2020\": sourceDate must be a text");
+        << QStringLiteral("\"2020\": sourceDate muss ein Text sein");
 }
 
 void tst_MappingDocument::refusesWhatItCannotRead()

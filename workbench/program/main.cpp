@@ -1,5 +1,6 @@
 #include <core/config/PConfigInst.h>
 #include <core/plugin/Extensions.h>
+#include <core/plugin/PTranslateManager.h>
 #include <core/text/PString.h>
 #include <gui/application/PApplication.h>
 #include <workbench/start/PluginLibrary.h>
@@ -81,6 +82,9 @@ int main(int argc, char **argv)
     const PRefPtr<PConfig> configuration(new PConfigInst(place.applicationConfig(), false));
     PApplication host(configuration);
 
+    // What goes to the terminal is English; windows get their language later.
+    PTranslateManager::registerLibraries();
+    PTranslateManager::instance().setLanguage(QStringLiteral("en"));
     const QStringList faults = Extensions::load(Extensions::folders());
     for (const QString &fault : faults)
         print(stderr, "velkworkbench: " + fault + '\n');

@@ -1,5 +1,7 @@
 #include "Extensions.h"
 
+#include <core/text/PString.h>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QLibrary>
@@ -26,9 +28,11 @@ QString loadOne(const QString &file)
     const auto version = VersionOf(library.resolve("velkExtensionVersion"));
     const auto enter = Register(library.resolve("velkExtensionRegister"));
     if (!version || !enter)
-        return QStringLiteral("is no extension: it does not have VELK_EXTENSION");
+        return PString::translate("das ist keine Erweiterung: VELK_EXTENSION fehlt", "VelkCore");
     if (qstrcmp(version(), VELK_API_VERSION) != 0) {
-        return QStringLiteral("is made for version %1, this is %2; compile it again")
+        return PString::translate("die Erweiterung ist für Version %1 gemacht, dies ist %2; "
+                                  "übersetzen Sie sie neu",
+                                  "VelkCore")
             .arg(QString::fromUtf8(version()), QStringLiteral(VELK_API_VERSION));
     }
     enter();

@@ -1,6 +1,7 @@
 #include "MappingFile.h"
 
 #include "KnownRows.h"
+#include "recordsText.h"
 #include "ReleaseReader.h"
 #include "ReleaseWriter.h"
 
@@ -145,7 +146,7 @@ bool MappingFile::parseLast(const QByteArray &json, QString *error)
         return false;
     if (!found.d->members.isEmpty() && !found.d->members.last().isRecords)
         return report(error, found.d->members.last().sourceDate,
-                      QStringLiteral("It stands between two releases of one date."));
+                      recordsText("Er steht zwischen zwei Katalogständen desselben Datums."));
     *this = found;
     return true;
 }

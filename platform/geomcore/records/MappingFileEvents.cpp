@@ -1,5 +1,7 @@
 #include "MappingFileEvents.h"
 
+#include "recordsText.h"
+
 #include <array>
 #include <charconv>
 
@@ -46,8 +48,8 @@ QString MappingFileEvents::error() const
         return m_message;
     if (m_reading)
         return QStringLiteral("\"%1\": %2").arg(m_name, m_builder.error());
-    return m_depth == 0 ? QStringLiteral("A mapping file must hold an object.")
-                        : QStringLiteral("Values are nested too deeply.");
+    return m_depth == 0 ? recordsText("Eine Mapping-Datei muss ein Objekt enthalten.")
+                        : recordsText("Werte sind zu tief verschachtelt.");
 }
 
 void MappingFileEvents::beginLines()
@@ -93,8 +95,7 @@ void MappingFileEvents::beginMember(const QString &name)
 {
     m_name = name;
     if (m_positions.contains(name))
-        m_notes +=
-            QStringLiteral("\"%1\" stands there more than once; the last one counts.").arg(name);
+        m_notes += recordsText("„%1“ steht mehr als einmal da; der letzte Eintrag gilt.").arg(name);
     m_reading = m_wanted != WantedMembers::Named || name == m_wantedName;
     m_builder = ReleaseBuilder();
     if (m_wanted == WantedMembers::Last)
@@ -122,7 +123,9 @@ bool MappingFileEvents::endOfRelease()
     const QString date = m_builder.release().getSourceDate();
     if (date != m_name) {
         m_message =
-            QStringLiteral("\"%1\": The release says \"%2\" as its sourceDate.").arg(m_name, date);
+            QStringLiteral("\"%1\": %2")
+                .arg(m_name,
+                     recordsText("Der Katalogstand nennt „%1“ als sein sourceDate.").arg(date));
         return false;
     }
     MappingFileMember &entry = member();

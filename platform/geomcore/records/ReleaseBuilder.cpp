@@ -1,5 +1,7 @@
 #include "ReleaseBuilder.h"
 
+#include "recordsText.h"
+
 #include <geomcore/binding/VarsetConditionC.h>
 
 #include <iterator>
@@ -17,23 +19,23 @@ QString expectation(Kind kind)
 {
     switch (kind) {
     case TextKind:
-        return QStringLiteral("must be a text");
+        return recordsText("%1 muss ein Text sein");
     case IntegerKind:
-        return QStringLiteral("must be an integer from 0 to 2147483647");
+        return recordsText("%1 muss eine ganze Zahl von 0 bis 2147483647 sein");
     case BooleanKind:
-        return QStringLiteral("must be true or false");
+        return recordsText("%1 muss true oder false sein");
     case ArrayKind:
         break;
     }
-    return QStringLiteral("must be an array");
+    return recordsText("%1 muss eine Liste sein");
 }
 
 QString rowLayout()
 {
-    return QStringLiteral(
-        "must be [source line, target line, state], then the extended text if "
-        "there is one, then true for a conflict; lines count from 0, -1 is no target "
-        "line");
+    return recordsText(
+        "%1 muss [Quellzeile, Zielzeile, Zustand] sein, dann der erweiterte Text, wenn es "
+        "einen gibt, dann true für einen Konflikt; Zeilen zählen ab 0, -1 ist keine "
+        "Zielzeile");
 }
 
 } // namespace
@@ -60,8 +62,7 @@ QString ReleaseBuilder::error() const
         path += QStringLiteral("lines") + element;
     if (m_key != NoKey)
         path += fromUtf8(Members[m_key].name);
-    return path.isEmpty() ? QStringLiteral("The release ") + m_message
-                          : path.join(u'.') + u' ' + m_message;
+    return m_message.arg(path.isEmpty() ? recordsText("Der Katalogstand") : path.join(u'.'));
 }
 
 bool ReleaseBuilder::startObject()
@@ -238,20 +239,20 @@ bool ReleaseBuilder::anythingElse()
         return expect(Members[m_key].kind == TextKind ? IntegerKind : TextKind);
     switch (m_place) {
     case Outside:
-        return fail(QStringLiteral("must be an object"));
+        return fail(recordsText("%1 muss ein Objekt sein"));
     case Row:
         return fail(rowLayout());
     case Conditions:
         ++m_element;
-        return fail(QStringLiteral("must be a text"));
+        return fail(recordsText("%1 muss ein Text sein"));
     case Lines:
         ++m_element;
-        return fail(QStringLiteral("must be an array"));
+        return fail(recordsText("%1 muss eine Liste sein"));
     case Modifiers:
         ++m_element;
         [[fallthrough]];
     default:
-        return fail(QStringLiteral("must hold nothing but objects"));
+        return fail(recordsText("%1 darf nur Objekte enthalten"));
     }
 }
 
@@ -272,7 +273,7 @@ bool ReleaseBuilder::startPassingOver()
 {
     m_passNext = false;
     if (++m_passedOver > MaxDepth)
-        return fail(QStringLiteral("holds values that are nested too deeply"));
+        return fail(recordsText("%1 enthält zu tief verschachtelte Werte"));
     return true;
 }
 
@@ -378,7 +379,8 @@ bool ReleaseBuilder::addRow(const ExtendedTextPtr &extended, bool conflict)
     const LineTable &lines = m_target.lines();
     const bool ascends = lines.isEmpty() || m_row[0] > m_lastLine;
     if (!ascends && lines.contains(m_row[0]))
-        return fail(QStringLiteral("names source line %1 once more").arg(m_row[0]));
+        return fail(recordsText("%1 nennt die Quellzeile %2 noch einmal")
+                        .arg(QStringLiteral("%1"), QString::number(m_row[0])));
     m_ascending = m_ascending && ascends;
     m_lastLine = m_row[0];
     const auto state = PRJMAPPING::CheckState(m_row[2]);

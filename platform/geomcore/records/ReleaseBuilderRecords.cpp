@@ -1,6 +1,8 @@
 // The part of ReleaseBuilder that makes records of what was read of them, when they are complete.
 #include "ReleaseBuilder.h"
 
+#include "recordsText.h"
+
 #include <geomcore/binding/VarsetValueMappingC.h>
 #include <geomcore/binding/VarsetVarMappingC.h>
 
@@ -37,10 +39,8 @@ void ReleaseBuilder::moveNotFoundTarget()
     const qsizetype first =
         std::stable_partition(m_targets.begin(), m_targets.end(), hasPath) - m_targets.begin();
     if (!inPlace || first + 1 < m_targets.size())
-        m_notes +=
-            QStringLiteral("mappings[%1]: the target with an empty \"path\" was moved to the "
-                           "end.")
-                .arg(m_release.countMappings());
+        m_notes += recordsText("%1: das Ziel mit leerem „path“ steht jetzt am Ende")
+                       .arg(QStringLiteral("mappings[%1]").arg(m_release.countMappings()));
     for (; first + 1 < m_targets.size(); m_targets.removeLast()) {
         // A line that several of them hold is where a look-up finds it: in the first.
         for (const LineTable::Iterator &entry : std::as_const(m_targets).last().lines()) {
@@ -116,11 +116,12 @@ bool ReleaseBuilder::checkComplete(Place place)
     const quint64 missing = ~m_seen & requiredOf(place);
     if (missing != 0) {
         const Member &first = Members[std::countr_zero(missing)];
-        return fail(QStringLiteral("lacks the member \"%1\"")
-                        .arg(QLatin1String(first.name.data(), qsizetype(first.name.size()))));
+        return fail(recordsText("%1 hat keinen Eintrag „%2“")
+                        .arg(QLatin1String("%1"),
+                             QLatin1String(first.name.data(), qsizetype(first.name.size()))));
     }
     if (place == Mapping && !m_mapping.isValid())
-        return fail(QStringLiteral("has an empty \"sourcePath\""));
+        return fail(recordsText("%1 hat einen leeren Eintrag „sourcePath“"));
     return true;
 }
 
@@ -134,8 +135,9 @@ bool ReleaseBuilder::endModifier()
     else if (m_modifierKind == QLatin1String("value") && m_seen & (Bit << ModifierFormula))
         m_target.addModifier(VarsetValueMappingC::fromText(m_modifierFormula));
     else
-        return fail(QStringLiteral("must be of kind \"var\" with \"source\" and \"target\", or of "
-                                   "kind \"value\" with \"formula\""));
+        return fail(
+            recordsText("%1 muss von der Art „var“ mit „source“ und „target“ oder von der Art "
+                        "„value“ mit „formula“ sein"));
     m_place = Modifiers;
     return true;
 }
@@ -154,8 +156,9 @@ bool ReleaseBuilder::endReplacement()
     const bool numbers =
         given == Numbers && isNumber(m_replacement.factor) && isNumber(m_replacement.offset);
     if (m_replacement.variable.isEmpty() || (given != Texts && !numbers))
-        return fail(QStringLiteral("must name a variable, and texts as \"before\" and \"after\" or "
-                                   "decimal numbers as \"factor\" and \"offset\""));
+        return fail(
+            recordsText("%1 muss eine Variable nennen, dazu Texte als „before“ und „after“ oder "
+                        "Dezimalzahlen als „factor“ und „offset“"));
     m_replacements.append(m_replacement);
     m_place = Replacements;
     return true;
@@ -166,7 +169,7 @@ bool ReleaseBuilder::endLearned()
     if (!checkComplete(Learned))
         return false;
     if (m_learned.supports > m_learned.cases)
-        return fail(QStringLiteral("must not have more \"supports\" than \"cases\""));
+        return fail(recordsText("%1 darf nicht mehr „supports“ als „cases“ haben"));
     m_allLearned.append(m_learned);
     m_place = AllLearned;
     return true;

@@ -2,6 +2,7 @@
 
 #include "JsonDeviceStream.h"
 #include "MappingFileEvents.h"
+#include "recordsText.h"
 #include "ReleaseBuilder.h"
 
 #include <core/json/jsonParserFault.h>
@@ -62,7 +63,7 @@ qsizetype parse(Stream &stream, Events &events, qsizetype size, QString &what)
     if (!result.IsError() && qsizetype(stream.Tell()) == size)
         return -1;
     if (!result.IsError())
-        what = QStringLiteral("A byte of value 0 stands behind the document.");
+        what = recordsText("Hinter dem Dokument steht ein Byte mit dem Wert 0.");
     else if (result.Code() == rapidjson::kParseErrorTermination)
         what = events.error();
     else
@@ -178,7 +179,8 @@ bool readMappingFile(QIODevice &file, WantedMembers wanted, const QString &sourc
             continue;
         member.text = valueText(file, events.extents().value(member.sourceDate));
         if (member.text.isEmpty())
-            return report(error, {}, 0, QStringLiteral("The file changed while it was read."));
+            return report(error, {}, 0,
+                          recordsText("Die Datei hat sich geändert, während sie gelesen wurde."));
     }
     members = found;
     notes = events.notes();

@@ -1,6 +1,7 @@
 #include "CatalogIndexFile.h"
 
 #include <core/files/DurableFile.h>
+#include <core/text/PString.h>
 
 #include <QDir>
 #include <QFile>
@@ -153,7 +154,9 @@ CatalogIndexFile::State CatalogIndexFile::check()
     if (!error.isValid() && tables == 0)
         return Missing;
     if (!error.isValid() && id != ApplicationId) {
-        m_errorText = m_file + QStringLiteral(": is a database of another program");
+        m_errorText =
+            PString::translate("%1 ist die Datenbank eines anderen Programms", "VelkGeomCore")
+                .arg(m_file);
         return Failed;
     }
     const QString root =
@@ -172,7 +175,8 @@ CatalogIndexFile::State CatalogIndexFile::openToRead()
     if (!info.exists() || (info.isFile() && info.size() == 0))
         return Missing;
     if (!info.isFile()) {
-        m_errorText = m_file + QStringLiteral(": is no regular file");
+        m_errorText = m_file + QStringLiteral(": ") +
+                      PString::translate("Das ist keine gewöhnliche Datei.", "VelkCore");
         return Failed;
     }
     if (kindOf(m_file) == Kind::Other)
@@ -213,7 +217,9 @@ bool CatalogIndexFile::discard()
     QFile::remove(m_file + QStringLiteral("-wal"));
     QFile::remove(m_file + QStringLiteral("-shm"));
     if (!done)
-        m_errorText = m_file + QStringLiteral(": is no index and cannot be replaced");
+        m_errorText = PString::translate("%1 ist kein Suchindex und kann nicht ersetzt werden",
+                                         "VelkGeomCore")
+                          .arg(m_file);
     return done;
 }
 
