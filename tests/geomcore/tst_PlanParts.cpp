@@ -82,6 +82,7 @@ class tst_PlanParts : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void packedCellsAreTheSame_data();
     void packedCellsAreTheSame();
     void numbersDoNotDependOnThreads();
     void tokensOfNumbersAreShared();
@@ -89,18 +90,30 @@ private Q_SLOTS:
     void refilledBlockLeavesOthers();
     void probabilitiesAreSpread();
     void onlyWhatCountsIsAssigned();
+    void lonePairsStandForThemselves();
 };
 
+void tst_PlanParts::packedCellsAreTheSame_data()
+{
+    QTest::addColumn<int>("most");
+    QTest::newRow("four bytes") << 20'000'000;
+    QTest::newRow("three bytes") << 70'000;
+    QTest::newRow("one byte") << 200;
+}
+
+/// Also where more values are told than there were to be when the cells were made.
 void tst_PlanParts::packedCellsAreTheSame()
 {
+    QFETCH(int, most);
     const std::vector<int> counts{2, 256, 257, 70'000, 1, 20'000'000};
     constexpr size_t Lines = 500;
     std::mt19937 random(1);
-    CellMatrix cells(Lines, counts.size());
+    CellMatrix cells(Lines, counts.size(), size_t(most));
     std::vector<std::vector<int>> expected(Lines);
     for (size_t line = 0; line < Lines; ++line) {
         for (size_t v = 0; v < counts.size(); ++v) {
-            const int number = line == 0 ? counts[v] - 1 : int(random() % unsigned(counts[v]));
+            const int count = std::min(most, counts[v]);
+            const int number = line == 0 ? count - 1 : int(random() % unsigned(count));
             expected[line].push_back(number);
             cells.set(line, v, number);
         }
@@ -266,6 +279,45 @@ void tst_PlanParts::onlyWhatCountsIsAssigned()
         QCOMPARE(edges[line][size_t(found[line])].node, rest[line][size_t(expected[line])].node);
     }
     QVERIFY(assigned > 30);
+}
+
+/// Beside lines that compete, those with a single pair whose row no other line wants get what they
+/// get alone.
+void tst_PlanParts::lonePairsStandForThemselves()
+{
+    constexpr int Nodes = 60;
+    constexpr size_t Lines = 150;
+    EdgeLists bound = someEdges(Lines, Nodes);
+    EdgeLists edges(2 * Lines);
+    const auto weightOf = [](size_t line) {
+        return double(line % 23) / 2 - 4;
+    };
+    for (size_t block = 0; block < edges.blockCount(); ++block) {
+        edges.refill(block, [&](size_t line, EdgeLists::Block &out) {
+            if (line % 2 == 0)
+                out.add(std::as_const(bound)[line / 2]);
+            else if (line % 5 != 0)
+                out.add({0, 0, Nodes + int(line), weightOf(line), 0});
+        });
+    }
+    constexpr int AllNodes = Nodes + 2 * int(Lines);
+    const std::vector<int> found = assignPairs(edges, AllNodes, 0);
+    const std::vector<int> expected = assignPairs(bound, Nodes, 0);
+    spreadProbabilities(edges, AllNodes);
+    spreadProbabilities(bound, Nodes);
+    for (size_t line = 0; line < edges.size(); ++line) {
+        const std::span<const PlanEdge> pairs = std::as_const(edges)[line];
+        if (line % 2 == 0) {
+            QCOMPARE(found[line], expected[line / 2]);
+            for (size_t i = 0; i < pairs.size(); ++i)
+                QCOMPARE(pairs[i].probability, std::as_const(bound)[line / 2][i].probability);
+            continue;
+        }
+        QCOMPARE(found[line], line % 5 != 0 && weightOf(line) > 0 ? 0 : -1);
+        const double odds = std::exp(weightOf(line));
+        if (!pairs.empty())
+            QCOMPARE(pairs.front().probability, odds / (1 + odds));
+    }
 }
 
 QTEST_APPLESS_MAIN(tst_PlanParts)

@@ -62,6 +62,7 @@ private Q_SLOTS:
     void probabilitiesHold();
     void orderOfCallsDoesNotMatter();
     void numberOfThreadsDoesNotMatter();
+    void manyLines();
     void probabilitiesAddUp();
     void comparedWithTheAssignedLine();
 };
@@ -478,6 +479,36 @@ void tst_PrjMapperCandidates::numberOfThreadsDoesNotMatter()
     WorkerPool::instance().setThreads(0);
     QVERIFY(!results[0].filter("0:").isEmpty());
     QCOMPARE(results[1], results[0]);
+}
+
+/// So many that not all variables are numbered at once; only the last ones tell the lines apart.
+void tst_PrjMapperCandidates::manyLines()
+{
+    constexpr int Lines = 10'500;
+    QByteArray source = "a,b:n,c,d:n,e:n,f\n";
+    QByteArray target = source;
+    const auto line = [](const char *material, int i) {
+        return QByteArray(material) + ',' + QByteArray::number(i % 3) + ",x," +
+               QByteArray::number(i % 2) + ',' + QByteArray::number(i) + ",M" +
+               QByteArray::number(i) + '\n';
+    };
+    const auto rowOf = [](int i) { // from 1
+        return (i * 4801) % Lines + 1;
+    };
+    std::vector<int> lineAt(size_t(Lines) + 1);
+    for (int i = 0; i < Lines; ++i)
+        lineAt[size_t(rowOf(i))] = i;
+    for (int i = 0; i < Lines; ++i) {
+        source += line("St", i);
+        target += line("Steel", lineAt[size_t(i) + 1]);
+    }
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", source);
+    catalog.write("new/a.prj", target);
+    MapperFixture fixture(catalog, {"new/a.prj"});
+    fixture.start();
+    for (int i = 0; i < Lines; i += 500)
+        QCOMPARE(fixture.proposal(i + 1), QStringLiteral("0:%1").arg(rowOf(i)));
 }
 
 void tst_PrjMapperCandidates::probabilitiesAddUp()

@@ -1,13 +1,9 @@
 #include "LinePlan.h"
 
-#include "CellNumbering.h"
-#include "DesignationIndex.h"
 #include "PairJoin.h"
 #include "TargetTable.h"
 
 #include <core/parallel/WorkerPool.h>
-#include <geomcore/plan/ValueRule.h>
-#include <geomcore/table/LineView.h>
 #include <geomcore/table/TableData.h>
 
 #include <algorithm>
@@ -17,30 +13,8 @@ namespace Mapper {
 
 namespace {
 
-/// Rows of a target's table from which it is learned how often values occur.
-constexpr int MaxSampled = 20'000;
 /// Lines with several equal ones that are told apart by their place.
 constexpr int MaxTied = 20'000;
-
-LineInput planInput(const SourceTable &source, const VKTab::LineView &view)
-{
-    LineInput input;
-    input.lineId = source.data()->lineId(view.row()).value(0);
-    input.row = view.row();
-    input.view = &view;
-    input.stored = true;
-    return input;
-}
-
-/// Of the target's variables, as rules of proposals know them.
-std::vector<std::string> namesOf(const BoundTarget &target)
-{
-    std::vector<std::string> names;
-    names.reserve(target.variables().size());
-    for (const int variable : target.variables())
-        names.push_back(target.table()->variables()[size_t(variable)].name.toStdString());
-    return names;
-}
 
 } // namespace
 
@@ -62,12 +36,13 @@ LinePlan::LinePlan(TargetSet &targets, const PrjMappingC &mapping, const AgreedV
         m_openOf[size_t(row)] = int(m_tables.openLines.size());
         m_tables.openLines.push_back(row);
     }
+    m_settledTarget = {};
+    m_settledRow = {};
     for (size_t i = 0; i < m_bound.size() && !m_tables.openLines.empty(); ++i)
-        fill(*m_bound[i], m_tables.targets[i]);
+        findOpen(*m_bound[i], m_tables.targets[i]);
     m_tables.variableCount = int(m_variableNumbers.size());
-    takeLearned(learned);
-    for (Plan::CellValues &values : m_tables.values)
-        values.finish();
+    m_tables.values.resize(m_variableNumbers.size());
+    fillTargets(learned);
     for (Plan::PlanTarget &target : m_tables.targets)
         finish(target);
     if (!m_agreed.isEmpty()) {
@@ -84,24 +59,12 @@ LinePlan::LinePlan(TargetSet &targets, const PrjMappingC &mapping, const AgreedV
     m_planner->setCancellation({});
     m_bound.clear();
     m_claimed.clear();
-    m_settledTarget = {};
-    m_settledRow = {};
     for (Plan::PlanTarget &target : m_tables.targets)
         target.settled = {};
     m_source = nullptr;
 }
 
 LinePlan::~LinePlan() = default;
-
-/// What other projects show says how values change, not to which table the lines went: where
-/// several compete, the one that happens to have the new values must not win by it.
-void LinePlan::takeLearned(const LearnedValues &learned)
-{
-    if (learned.isEmpty() || m_tables.openLines.empty() || m_claimed.size() != 1)
-        return;
-    for (const auto &[name, number] : m_variableNumbers)
-        learned.addTo(m_known, name, number, m_tables.values[size_t(number)]);
-}
 
 void LinePlan::findSettled(TargetSet &targets, const PrjMappingC &mapping)
 {
@@ -179,15 +142,7 @@ void LinePlan::takeEqual(const BoundTarget &target, size_t place)
     }
 }
 
-bool LinePlan::takes(const BoundTarget &target, int sourceRow) const
-{
-    if (m_walksRanges)
-        return target.join() && target.join()->takesSome(sourceRow);
-    const VKTab::LineView view(*source().data(), sourceRow);
-    return target.conditionsHold(planInput(source(), view));
-}
-
-void LinePlan::fill(const BoundTarget &target, Plan::PlanTarget &filled)
+void LinePlan::findOpen(const BoundTarget &target, Plan::PlanTarget &filled)
 {
     const std::vector<char> &claimed = m_claimed[size_t(filled.table)];
     for (int row = 0; row < filled.rowCount; ++row) {
@@ -203,44 +158,8 @@ void LinePlan::fill(const BoundTarget &target, Plan::PlanTarget &filled)
     if (target.identity().designations()) // what tells the lines apart is one more variable
         filled.variables.push_back(
             m_variableNumbers.emplace(QString(), int(m_variableNumbers.size())).first->second);
-    m_tables.values.resize(m_variableNumbers.size());
-    fillLines(target, filled);
-    fillRows(target, filled);
-}
-
-void LinePlan::fillLines(const BoundTarget &target, Plan::PlanTarget &filled)
-{
-    const std::vector<int> &open = m_tables.openLines;
-    const size_t count = target.variables().size();
-    filled.lines = Plan::CellMatrix(open.size(), filled.variables.size());
-    filled.takes.assign(open.size(), 0);
-    const std::vector<std::string> names = namesOf(target);
-    TargetValues values;
-    std::string meaning;
-    std::string agreed;
-    const auto add = [&](size_t line, CellTexts &texts) {
-        if (!takes(target, open[line]))
-            return;
-        const VKTab::LineView view(*source().data(), open[line]);
-        target.takeValues(planInput(source(), view), values);
-        for (size_t place = 0; place < count; ++place) {
-            const LineTexts::Value &value = values.texts.values[place];
-            const std::string_view stated =
-                m_agreed.isEmpty()
-                    ? value.text
-                    : m_agreed.meaningOf(names[place], value.text, value.decimalChar, agreed);
-            texts.add(Plan::ValueRule::meaningOf(names[place], stated, meaning), value.decimalChar);
-            // A line without a value there is like no line.
-            if (!value.text.empty())
-                filled.takes[line] = 1;
-        }
-        if (filled.variables.size() > count)
-            texts.add(source().designation(view), '.');
-    };
-    CellNumbering(m_tables.values, filled.variables)
-        .runInOrder(open.size(), add, [&filled](size_t line, size_t place, int number) {
-            filled.lines.set(line, place, number);
-        });
+    for (size_t place = 0; place < filled.variables.size(); ++place)
+        filled.keys.push_back(isKey(target, filled.hasSourceName, place) ? 1 : 0);
 }
 
 bool LinePlan::isKey(const BoundTarget &target, bool hasSourceName, size_t place)
@@ -254,40 +173,6 @@ bool LinePlan::isKey(const BoundTarget &target, bool hasSourceName, size_t place
     // A first column that looks like a key may be a measure as well, or that of another thing.
     return hasSourceName && target.identity().index() &&
            table.keyVariables()->front() == int(variable) && target.isText(int(variable));
-}
-
-void LinePlan::fillRows(const BoundTarget &target, Plan::PlanTarget &filled)
-{
-    const TargetTable &table = *target.table();
-    const size_t count = filled.variables.size();
-    const std::vector<std::string> names = namesOf(target);
-    const auto add = [&](int row, CellTexts &texts) {
-        thread_local TargetTable::Row split;
-        thread_local std::string scratch;
-        thread_local std::string meaning;
-        table.split(row, split);
-        for (size_t place = 0; place < target.variables().size(); ++place) {
-            const auto variable = size_t(target.variables()[place]);
-            texts.add(Plan::ValueRule::meaningOf(
-                          names[place], table.text(split, int(variable), scratch), meaning),
-                      table.variables()[variable].decimalChar);
-        }
-        if (count > target.variables().size())
-            texts.add(target.identity().designations()->textOf(row), '.');
-    };
-    CellNumbering numbering(m_tables.values, filled.variables);
-    filled.rows = Plan::CellMatrix(filled.openRows.size(), count);
-    numbering.run(
-        filled.openRows.size(),
-        [&](size_t row, CellTexts &texts) { add(filled.openRows[row], texts); },
-        [&](size_t row, size_t place, int number) { filled.rows.set(row, place, number); });
-    filled.chances.resize(count);
-    const size_t step = size_t(filled.rowCount) / MaxSampled + 1;
-    numbering.run((size_t(filled.rowCount) + step - 1) / step,
-                  [&](size_t i, CellTexts &texts) { add(int(i * step), texts); },
-                  [&](size_t, size_t place, int number) { filled.chances[place].add(number); });
-    for (size_t place = 0; place < count; ++place)
-        filled.keys.push_back(isKey(target, filled.hasSourceName, place) ? 1 : 0);
 }
 
 void LinePlan::finish(Plan::PlanTarget &filled)

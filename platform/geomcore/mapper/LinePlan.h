@@ -44,13 +44,31 @@ public:
     [[nodiscard]] bool isCanceled() const { return m_isCanceled; }
 
 private:
-    void takeLearned(const LearnedValues &learned);
+    /// What other projects show of this variable.
+    void takeLearned(const LearnedValues &learned, const QString &name, int number);
     void findSettled(TargetSet &targets, const PrjMappingC &mapping);
     void takeConfirmed(TargetSet &targets, const PrjMappingC &mapping);
     void takeEqual(const BoundTarget &target, size_t place);
-    void fill(const BoundTarget &target, Plan::PlanTarget &filled);
-    void fillLines(const BoundTarget &target, Plan::PlanTarget &filled);
-    void fillRows(const BoundTarget &target, Plan::PlanTarget &filled);
+    void findOpen(const BoundTarget &target, Plan::PlanTarget &filled);
+    /// The cells of all targets, some variables at a time.
+    void fillTargets(const LearnedValues &learned);
+    /// Of as many variables the values are in hand at once.
+    [[nodiscard]] int variablesAtOnce() const;
+    /// Those from \a first to before \a last.
+    struct Variables
+    {
+        int first = 0;
+        int last = 0;
+    };
+    /// Of a target's variables those that are meant: where they stand, and their numbers.
+    struct Places
+    {
+        Places(const Plan::PlanTarget &target, Variables meant);
+        std::vector<size_t> places;
+        std::vector<int> variables;
+    };
+    void fillLines(const BoundTarget &target, Plan::PlanTarget &filled, Variables meant);
+    void fillRows(const BoundTarget &target, Plan::PlanTarget &filled, Variables meant);
     /// When the values of all targets are numbered.
     void finish(Plan::PlanTarget &filled);
     [[nodiscard]] Plan::CellValues &valuesOf(const Plan::PlanTarget &filled, size_t place)

@@ -30,6 +30,8 @@ CandidateLists::CandidateLists(const PlanTables &tables, const PlanTarget &targe
     if (int(target.openRows.size()) <= FewRows)
         return;
     m_places.resize(target.variables.size());
+    for (int size = 1; size <= MaxWalked; ++size)
+        m_weights.push_back(std::log(double(target.openRows.size()) / double(size)));
     WorkerPool::instance().run(int(m_places.size()), [this](int place) { fill(size_t(place)); });
 }
 
@@ -49,8 +51,11 @@ void CandidateLists::fill(size_t place)
         isFrequent[list] = true;
         lists.frequent.emplace_back(list, std::exchange(ends[list + 1], 0));
     }
+    const auto last = std::find_if(ends.rbegin(), ends.rend(), [](int size) { return size > 0; });
+    ends.resize(size_t(ends.rend() - last)); // numbers have no lists of their tokens
+    ends.shrink_to_fit();
     std::partial_sum(ends.begin(), ends.end(), ends.begin());
-    lists.rows.resize(size_t(ends.back()));
+    lists.rows.resize(ends.empty() ? 0 : size_t(ends.back()));
     forEachList(place, [&](int row, size_t list) {
         if (!isFrequent[list])
             lists.rows[size_t(ends[list]++)] = row;
@@ -75,6 +80,8 @@ void CandidateLists::forEachList(size_t place, Take take) const
 
 std::span<const int> CandidateLists::Place::of(size_t list) const
 {
+    if (list >= ends.size())
+        return {};
     const int begin = list == 0 ? 0 : ends[list - 1];
     return std::span(rows).subspan(size_t(begin), size_t(ends[list] - begin));
 }
@@ -88,14 +95,13 @@ size_t CandidateLists::Place::sizeOf(size_t list) const
 void CandidateLists::findLists(size_t line, std::vector<List> &lists) const
 {
     lists.clear();
-    const auto count = double(m_target.openRows.size());
     const auto add = [&](const Place &place, size_t list, bool isKey, bool leads) {
         const std::span<const int> rows = place.of(list);
         const size_t size = rows.empty() ? place.sizeOf(list) : rows.size();
         if (size == 0)
             return false;
-        const double weight = std::log(count / double(size));
-        lists.push_back({rows, size, weight, leads ? weight : 0, isKey});
+        const double weight = weightOf(size);
+        lists.push_back({rows, size, weight, leads ? weight : 0, isKey, lists.size()});
         return true;
     };
     for (size_t place = 0; place < m_places.size(); ++place) {
@@ -109,8 +115,15 @@ void CandidateLists::findLists(size_t line, std::vector<List> &lists) const
         for (const int token : values.value(value).distinct)
             add(at, at.values + size_t(token), isKey, !isThere);
     }
-    std::stable_sort(lists.begin(), lists.end(),
-                     [](const List &a, const List &b) { return a.size < b.size; });
+    std::sort(lists.begin(), lists.end(), [](const List &a, const List &b) {
+        return a.size != b.size ? a.size < b.size : a.place < b.place;
+    });
+}
+
+double CandidateLists::weightOf(size_t size) const
+{
+    return size <= m_weights.size() ? m_weights[size - 1]
+                                    : std::log(double(m_target.openRows.size()) / double(size));
 }
 
 CandidateLists::Found CandidateLists::find(size_t line) const

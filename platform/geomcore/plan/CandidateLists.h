@@ -51,7 +51,9 @@ private:
         double weight = 0;
         double lead = 0; ///< The same, but 0 for tokens of a value that some row has as a whole.
         bool isKey = false;
+        size_t place = 0; ///< Among those of the line.
     };
+    [[nodiscard]] double weightOf(size_t size) const;
     void fill(size_t place);
     /// From the rarest on.
     void findLists(size_t line, std::vector<List> &lists) const;
@@ -60,7 +62,8 @@ private:
 
     const PlanTables &m_tables;
     const PlanTarget &m_target;
-    std::vector<Place> m_places; ///< By place in the target's variables.
+    std::vector<Place> m_places;   ///< By place in the target's variables.
+    std::vector<double> m_weights; ///< Of lists that are walked, by size from 1 on.
 };
 
 } // namespace Plan

@@ -10,7 +10,9 @@ void ChangeMemory::learn(const CellValues &values, int variable, const Pairs &pa
     Variable &seen = m_variables[size_t(variable)];
     seen = {};
     bool hasParts = false;
+    int last = -1; // the source table's values have the first numbers
     pairs([&](int oldValue, int newValue, double weight) {
+        last = std::max(last, oldValue);
         seen.all += weight;
         seen.numbers += values.value(oldValue).hasNumber ? weight : 0;
         if (oldValue == newValue)
@@ -25,7 +27,7 @@ void ChangeMemory::learn(const CellValues &values, int variable, const Pairs &pa
     if (seen.changes.isEmpty() &&
         !isKnown(variable)) // then nobody asks how often values could have changed
         return;
-    seen.values.resize(size_t(values.count()), 0);
+    seen.values.resize(size_t(last) + 1, 0);
     seen.tokens.resize(hasParts ? size_t(values.tokenCount()) : 0, 0);
     pairs([&](int oldValue, int, double weight) {
         seen.values[size_t(oldValue)] += weight;
@@ -65,7 +67,6 @@ ChangeMemory::Likely ChangeMemory::likely(const CellValues &values, int variable
         (m_variables[size_t(variable)].changes.isEmpty() && !isKnown(variable)))
         return best;
     const Variable &seen = m_variables[size_t(variable)];
-    const bool isSeen = !seen.values.empty(); // else nothing of this table is learned yet
     const CellChange change = changeBetween(values, variable, oldValue, newValue);
     for (int kind = 0; kind < CellChange::KindCount; ++kind) {
         const std::uint64_t key = change.keys[kind];
@@ -75,7 +76,8 @@ ChangeMemory::Likely ChangeMemory::likely(const CellValues &values, int variable
         if (supports <= 1e-6 && known == 0)
             continue;
         supports = std::max(0.0, supports);
-        const double ofValue = isSeen ? seen.values[size_t(oldValue)] : 0;
+        const double ofValue =
+            size_t(oldValue) < seen.values.size() ? seen.values[size_t(oldValue)] : 0;
         const double all =
             applicable(seen, values.value(oldValue), ofValue, change, CellChange::Kind(kind)) - own;
         // One pair more that did not change so.

@@ -58,7 +58,7 @@ private:
         double numbers = 0;
         double mostLikely = 0;
         KeyWeights changes;
-        std::vector<double> values; ///< Empty if nothing changed,
+        std::vector<double> values; ///< Up to the last one seen; empty if nothing changed,
         std::vector<double> tokens; ///< or no part of a text.
     };
     [[nodiscard]] static double applicable(const Variable &seen, const CellValues::Value &oldValue,

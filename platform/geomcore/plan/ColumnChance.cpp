@@ -37,6 +37,7 @@ void ColumnChance::finish(const CellValues &values, bool isKey)
         if (value.isNumber)
             numbers.emplace_back(value.number, count);
     }
+    m_counts.shrink_to_fit();
     m_meanTokens /= std::max(1, m_valueCount);
     finishNumbers(std::move(numbers));
     // Of the values of further lines some are among these.
@@ -78,11 +79,15 @@ void ColumnChance::finishTokens(const std::vector<int> &counts)
     };
     m_tokenPlaces.assign(counts.size(), 0);
     m_tokenChances.assign(1, chance(0));
+    std::vector<std::uint16_t> places(1);
     for (size_t token = 0; token < counts.size(); ++token) {
-        if (counts[token] == 0)
-            continue;
-        m_tokenPlaces[token] = int(m_tokenChances.size());
-        m_tokenChances.push_back(chance(counts[token]));
+        const auto count = size_t(counts[token]);
+        places.resize(std::max(places.size(), count + 1));
+        if (count > 0 && places[count] == 0) {
+            places[count] = std::uint16_t(m_tokenChances.size());
+            m_tokenChances.push_back(chance(counts[token]));
+        }
+        m_tokenPlaces[token] = places[count];
     }
 }
 

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
+#include <limits>
 #include <utility>
 #include <vector>
 
@@ -16,12 +18,14 @@ class CellValues;
 class VELKGEOMCORE_EXPORT ColumnChance
 {
 public:
+    /// At most MaxLines times.
     void add(int value)
     {
         if (size_t(value) >= m_counts.size())
             m_counts.resize(size_t(value) + 1);
         ++m_counts[size_t(value)];
     }
+    static constexpr int MaxLines = std::numeric_limits<std::uint16_t>::max();
     /// To be called when all values are in. \a isKey: the values are meant to
     /// tell lines apart, also from those of other tables, and numbers are no measures.
     void finish(const CellValues &values, bool isKey);
@@ -78,8 +82,9 @@ private:
     }
     void finishTokens(const std::vector<int> &counts);
 
-    std::vector<int> m_counts;      ///< By value.
-    std::vector<int> m_tokenPlaces; ///< By token: place in m_tokenChances; 0: it does not occur.
+    std::vector<std::uint16_t> m_counts;      ///< By value.
+    std::vector<std::uint16_t> m_tokenPlaces; ///< By token: place in m_tokenChances; 0: none.
+    /// Of tokens that occur equally often, one; the first of those that do not occur.
     std::vector<TokenChance> m_tokenChances = std::vector<TokenChance>(1);
     std::vector<double> m_numbers; ///< Sorted, each once.
     std::vector<int> m_partBegins; ///< By partOf() its first number; at the end all.

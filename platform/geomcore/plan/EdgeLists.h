@@ -43,10 +43,6 @@ public:
     /// Gives all lines of a block other pairs: \a make adds those of a line.
     void refill(size_t block, const std::function<void(size_t line, Block &out)> &make);
     [[nodiscard]] size_t blockCount() const { return m_blocks.size(); }
-    [[nodiscard]] std::span<const PlanEdge> ofBlock(size_t block) const
-    {
-        return m_blocks[block].items();
-    }
 
 private:
     size_t m_lines;

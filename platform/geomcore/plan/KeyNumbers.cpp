@@ -7,24 +7,25 @@
 namespace Plan {
 
 template<class IsIt>
-size_t KeyNumbers::placeOf(const std::vector<Slot> &slots, std::uint32_t hash, IsIt isIt)
+size_t KeyNumbers::placeOf(const Slots &slots, std::uint32_t hash, IsIt isIt)
 {
     const size_t mask = slots.size() - 1;
     size_t place = hash & mask;
-    while (slots[place].number >= 0 && (slots[place].hash != hash || !isIt(slots[place].number)))
+    while (slots[place] != Free && !isIt(slots[place]))
         place = (place + 1) & mask;
     return place;
 }
 
-void KeyNumbers::grow(std::vector<Slot> &slots, size_t used)
+template<class HashOfNumber>
+void KeyNumbers::grow(Slots &slots, size_t used, HashOfNumber hashOfNumber)
 {
     if ((used + 1) * 3 <= slots.size() * 2)
         return;
-    std::vector<Slot> former(slots.empty() ? 16 : slots.size() * 2);
+    Slots former(slots.empty() ? 16 : slots.size() * 2, int(Free));
     former.swap(slots);
-    for (const Slot &slot : former) {
-        if (slot.number >= 0)
-            slots[placeOf(slots, slot.hash, [](int) { return false; })] = slot;
+    for (const int number : former) {
+        if (number != Free)
+            slots[placeOf(slots, hashOfNumber(number), [](int) { return false; })] = number;
     }
 }
 
@@ -38,19 +39,23 @@ std::string_view KeyNumbers::textOf(int number) const
 
 int KeyNumbers::ofText(std::string_view text)
 {
-    grow(m_textSlots, m_textCount);
-    const auto hash = std::uint32_t(VKTab::hashBytes(text));
-    Slot &slot =
-        m_textSlots[placeOf(m_textSlots, hash, [&](int number) { return textOf(number) == text; })];
-    if (slot.number < 0) {
-        slot = {hash, count()};
+    grow(m_textSlots, m_textCount, [this](int number) { return hashOf(textOf(number)); });
+    int &slot = m_textSlots[placeOf(m_textSlots, hashOf(text),
+                                    [&](int number) { return textOf(number) == text; })];
+    if (slot == Free) {
+        slot = count();
         m_keys.push_back(m_texts.size());
         const auto size = std::uint32_t(text.size());
         m_texts.append(reinterpret_cast<const char *>(&size), sizeof size);
         m_texts += text;
         ++m_textCount;
     }
-    return slot.number;
+    return slot;
+}
+
+std::uint32_t KeyNumbers::hashOf(std::string_view text)
+{
+    return std::uint32_t(VKTab::hashBytes(text));
 }
 
 std::uint32_t KeyNumbers::hashOf(std::uint64_t packed)
@@ -61,15 +66,16 @@ std::uint32_t KeyNumbers::hashOf(std::uint64_t packed)
 
 int KeyNumbers::ofPacked(std::uint64_t packed)
 {
-    grow(m_packedSlots, m_keys.size() - m_textCount);
-    const std::uint32_t hash = hashOf(packed);
-    Slot &slot = m_packedSlots[placeOf(
-        m_packedSlots, hash, [&](int number) { return m_keys[size_t(number)] == packed; })];
-    if (slot.number < 0) {
-        slot = {hash, count()};
+    grow(m_packedSlots, m_keys.size() - m_textCount,
+         [this](int number) { return hashOf(m_keys[size_t(number)]); });
+    int &slot = m_packedSlots[placeOf(m_packedSlots, hashOf(packed), [&](int number) {
+        return m_keys[size_t(number)] == packed;
+    })];
+    if (slot == Free) {
+        slot = count();
         m_keys.push_back(packed);
     }
-    return slot.number;
+    return slot;
 }
 
 int KeyNumbers::findPacked(std::uint64_t packed) const
@@ -77,8 +83,7 @@ int KeyNumbers::findPacked(std::uint64_t packed) const
     if (m_packedSlots.empty())
         return -1;
     return m_packedSlots[placeOf(m_packedSlots, hashOf(packed),
-                                 [&](int number) { return m_keys[size_t(number)] == packed; })]
-        .number;
+                                 [&](int number) { return m_keys[size_t(number)] == packed; })];
 }
 
 } // namespace Plan

@@ -8,7 +8,7 @@
 namespace Plan {
 
 /// Consecutive numbers for texts and for packed numbers, in the order in which they come. Keys lie
-/// one behind the other, and a slot of the hash table has eight bytes: where a table has a million
+/// one behind the other, and a slot of the hash table has four bytes: where a table has a million
 /// values, a node and a string for each would be most of its memory.
 class KeyNumbers
 {
@@ -22,22 +22,21 @@ public:
     [[nodiscard]] int findPacked(std::uint64_t packed) const;
 
 private:
-    struct Slot
-    {
-        std::uint32_t hash = 0;
-        int number = -1;
-    };
+    /// By hash the number of a key, or Free; a power of two of them, at most two thirds in use.
+    using Slots = std::vector<int>;
+    static constexpr int Free = -1;
     /// Of the key with this hash that \a isIt, or the free one where it would be.
     template<class IsIt>
-    [[nodiscard]] static size_t placeOf(const std::vector<Slot> &slots, std::uint32_t hash,
-                                        IsIt isIt);
+    [[nodiscard]] static size_t placeOf(const Slots &slots, std::uint32_t hash, IsIt isIt);
     [[nodiscard]] static std::uint32_t hashOf(std::uint64_t packed);
-    /// Makes room for one more.
-    static void grow(std::vector<Slot> &slots, size_t used);
+    [[nodiscard]] static std::uint32_t hashOf(std::string_view text);
+    /// Makes room for one more; \a hashOfNumber says the hash of a key that is there.
+    template<class HashOfNumber>
+    static void grow(Slots &slots, size_t used, HashOfNumber hashOfNumber);
     [[nodiscard]] std::string_view textOf(int number) const;
 
-    std::vector<Slot> m_textSlots; ///< A power of two of them, at most two thirds in use.
-    std::vector<Slot> m_packedSlots;
+    Slots m_textSlots;
+    Slots m_packedSlots;
     std::vector<std::uint64_t> m_keys; ///< By number: packed, or where its text begins.
     std::string m_texts;               ///< Each behind its length in four bytes.
     size_t m_textCount = 0;

@@ -39,7 +39,6 @@ public:
         return std::span(m_items).subspan(begin(line), m_ends[line] - begin(line));
     }
     [[nodiscard]] size_t lineCount() const { return m_ends.size(); }
-    [[nodiscard]] std::span<const Item> items() const { return m_items; }
 
 private:
     [[nodiscard]] size_t begin(size_t line) const { return line == 0 ? 0 : m_ends[line - 1]; }

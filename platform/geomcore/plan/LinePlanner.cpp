@@ -50,6 +50,9 @@ LinePlanner::LinePlanner(const PlanTables &tables)
         const auto [place, isNew] = offsets.emplace(target.table, m_nodeCount);
         m_nodeOffsets.push_back(place->second);
         m_nodeCount += isNew ? int(target.openRows.size()) : 0;
+        const std::vector<int> &settled = target.settled;
+        m_settled.push_back(
+            double(std::ranges::count_if(settled, [](int row) { return row >= 0; })));
     }
 }
 
@@ -137,6 +140,7 @@ void LinePlanner::learnInRounds()
             takeSample();
         learn(isLast);
     }
+    m_standsFor = {};
     m_choice = LineChoice::of(m_edges, m_nodeCount);
 }
 
@@ -204,7 +208,8 @@ double LinePlanner::prior(size_t target) const
 
 void LinePlanner::makeEdges(bool ofAll)
 {
-    m_evidence = std::make_unique<PairEvidence>(m_tables, m_rates, m_changes);
+    if (!m_evidence) // else it is what the round before has learned
+        m_evidence = std::make_unique<PairEvidence>(m_tables, m_rates, m_changes);
     std::vector<double> priors;
     for (size_t t = 0; t < m_tables.targets.size(); ++t)
         priors.push_back(prior(t));
@@ -232,8 +237,7 @@ void LinePlanner::learnTargets(const std::vector<double> &lines)
     m_shares = lines;
     double total = 0;
     for (size_t t = 0; t < targets.size(); ++t) {
-        for (const int row : targets[t].settled)
-            m_shares[t] += row >= 0 ? 1 : 0;
+        m_shares[t] += m_settled[t];
         const double ofNamed = others == 0 ? 1 : (named == 0 ? 0 : AssumedNamed);
         const double assumed =
             targets[t].hasSourceName ? ofNamed / double(named) : (1 - ofNamed) / others;
@@ -313,12 +317,12 @@ ChangeMemory::Pairs LinePlanner::valuesOf(const std::vector<Shown> &pairs, int v
 void LinePlanner::learnChanges(const std::vector<Shown> &pairs, bool isLast)
 {
     m_evidence.reset();
+    m_learned = {};
     m_changes = ChangeMemory(m_tables.variableCount, m_known);
     WorkerPool::instance().run(m_tables.variableCount, [&](int variable) {
         m_changes.learn(m_tables.values[size_t(variable)], variable,
                         valuesOf(pairs, variable, isLast), !isLast);
     });
-    m_learned = {};
     auto pair = pairs.begin();
     for (size_t line = 0; line < m_edges.size() && !isLast; ++line) {
         for (; pair != pairs.end() && pair->line == line; ++pair) {

@@ -94,6 +94,7 @@ private:
     const PlanTables &m_tables;
     std::vector<int> m_nodeOffsets; ///< By target.
     int m_nodeCount = 0;
+    std::vector<double> m_settled; ///< By target: how many lines.
     EdgeSearch::Rows m_rows;
     std::vector<float> m_standsFor; ///< By open line: so many, itself included; 0: not looked at.
     std::vector<VariableRates> m_prior;

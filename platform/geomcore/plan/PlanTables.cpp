@@ -1,5 +1,7 @@
 #include "PlanTables.h"
 
+#include <algorithm>
+
 namespace Plan {
 
 void CellMatrix::pack(const std::vector<int> &counts)
@@ -7,10 +9,8 @@ void CellMatrix::pack(const std::vector<int> &counts)
     std::vector<Column> packed;
     size_t stride = 0;
     for (const int count : counts) {
-        size_t bytes = 1;
-        while (bytes < sizeof(std::uint32_t) && std::uint32_t(count) > 1U << 8 * bytes)
-            ++bytes;
-        packed.push_back({stride, std::uint32_t((std::uint64_t(1) << 8 * bytes) - 1)});
+        const size_t bytes = std::min(m_width, bytesFor(size_t(count)));
+        packed.push_back({stride, maskOf(bytes)});
         stride += bytes;
     }
     std::vector<std::uint32_t> values(counts.size());
@@ -28,7 +28,7 @@ void CellMatrix::pack(const std::vector<int> &counts)
     }
     m_columns = std::move(packed);
     m_stride = stride;
-    m_bytes.resize(m_lines * stride + sizeof(std::uint32_t)); // the last one is read as four bytes
+    m_bytes.resize(m_lines * stride + sizeof(std::uint32_t));
     m_bytes.shrink_to_fit();
 }
 

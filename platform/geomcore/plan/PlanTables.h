@@ -8,6 +8,7 @@
 #include <bit>
 #include <cstdint>
 #include <cstring>
+#include <limits>
 #include <vector>
 
 namespace Plan {
@@ -18,13 +19,16 @@ class CellMatrix
 {
 public:
     CellMatrix() = default;
-    CellMatrix(size_t lines, size_t variables)
+    /// No variable will have more values.
+    CellMatrix(size_t lines, size_t variables,
+               size_t mostValues = std::numeric_limits<std::uint32_t>::max())
         : m_lines(lines)
-        , m_stride(variables * sizeof(std::uint32_t))
-        , m_bytes(lines * m_stride)
+        , m_width(bytesFor(mostValues))
+        , m_stride(variables * m_width)
+        , m_bytes(lines * m_stride + sizeof(std::uint32_t)) // the last one is read as four bytes
     {
         for (size_t variable = 0; variable < variables; ++variable)
-            m_columns.push_back({variable * sizeof(std::uint32_t), ~std::uint32_t(0)});
+            m_columns.push_back({variable * m_width, maskOf(m_width)});
     }
     [[nodiscard]] int at(size_t line, size_t variable) const
     {
@@ -36,8 +40,7 @@ public:
     /// Until pack().
     void set(size_t line, size_t variable, int value)
     {
-        std::memcpy(m_bytes.data() + line * m_stride + m_columns[variable].offset, &value,
-                    sizeof value);
+        std::memcpy(m_bytes.data() + line * m_stride + m_columns[variable].offset, &value, m_width);
     }
     /// When all are there: \a counts says for each variable how many values it has.
     VELKGEOMCORE_EXPORT void pack(const std::vector<int> &counts);
@@ -50,7 +53,21 @@ private:
     };
     static_assert(std::endian::native == std::endian::little, "the first bytes are the low ones");
 
+    /// For so many different numbers.
+    [[nodiscard]] static size_t bytesFor(size_t values)
+    {
+        size_t bytes = 1;
+        while (bytes < sizeof(std::uint32_t) && values > size_t(1) << 8 * bytes)
+            ++bytes;
+        return bytes;
+    }
+    [[nodiscard]] static std::uint32_t maskOf(size_t bytes)
+    {
+        return std::uint32_t((std::uint64_t(1) << 8 * bytes) - 1);
+    }
+
     size_t m_lines = 0;
+    size_t m_width = 0; ///< Of a cell, until pack().
     size_t m_stride = 0;
     std::vector<Column> m_columns;
     std::vector<std::uint8_t> m_bytes;

@@ -1,5 +1,7 @@
 #include "SoftAssignment.h"
 
+#include "SharedRows.h"
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -40,27 +42,34 @@ struct SumWithout
     }
 };
 
-/// The pairs' odds stand in the edges as their probabilities until these are known.
+/// The pairs' odds stand in the edges as their probabilities until these are known. A line that
+/// meets no other one has its own odds.
 class Spreading
 {
 public:
     Spreading(EdgeLists &edges, int nodeCount)
         : m_edges(edges)
-        , m_sumOf(size_t(nodeCount), Unseen)
+        , m_shared(edges, nodeCount, [](size_t, const PlanEdge &) { return true; })
     {
-        size_t pairs = 0;
-        int shared = 0;
         for (size_t line = 0; line < edges.size(); ++line) {
-            for (PlanEdge &edge : edges[line]) {
+            for (PlanEdge &edge : edges[line])
                 edge.probability = std::exp(std::min(edge.weight, MaxWeight));
+        }
+        if (m_shared.lines().empty())
+            return;
+        m_sumOf.assign(size_t(nodeCount), None);
+        size_t pairs = 0;
+        int sums = 0;
+        for (const std::uint32_t line : m_shared.lines()) {
+            for (const PlanEdge &edge : edges[line]) {
                 int &sum = m_sumOf[size_t(edge.node)];
-                if (sum < 0)
-                    sum = sum == Unseen ? Single : shared++;
+                if (sum == None && m_shared.isShared(edge.node))
+                    sum = sums++;
                 ++pairs;
             }
         }
         m_free.resize(pairs);
-        m_sums.resize(size_t(shared));
+        m_sums.resize(size_t(sums));
     }
 
     void run()
@@ -71,12 +80,15 @@ public:
                 break;
         }
         auto free = m_free.begin();
-        for (size_t line = 0; line < m_edges.size(); ++line) {
+        for (const std::uint32_t line : m_shared.lines()) {
             for (PlanEdge &edge : m_edges[line]) {
-                const double odds = edge.probability * free->line * free->row;
-                edge.probability = odds / (1 + odds);
+                edge.probability = edge.probability * free->line * free->row;
                 ++free;
             }
+        }
+        for (size_t line = 0; line < m_edges.size(); ++line) {
+            for (PlanEdge &edge : m_edges[line])
+                edge.probability /= 1 + edge.probability;
         }
     }
 
@@ -85,7 +97,7 @@ private:
     {
         double change = 0;
         auto free = m_free.begin();
-        for (size_t line = 0; line < m_edges.size(); ++line) {
+        for (const std::uint32_t line : m_shared.lines()) {
             const std::span<const PlanEdge> edges = std::as_const(m_edges)[line];
             SumWithout sum;
             for (size_t i = 0; i < edges.size(); ++i)
@@ -118,8 +130,8 @@ private:
     void forEachShared(Take take)
     {
         auto free = m_free.begin();
-        for (size_t block = 0; block < m_edges.blockCount(); ++block) {
-            for (const PlanEdge &edge : m_edges.ofBlock(block)) {
+        for (const std::uint32_t line : m_shared.lines()) {
+            for (const PlanEdge &edge : std::as_const(m_edges)[line]) {
                 const int sum = m_sumOf[size_t(edge.node)];
                 if (sum >= 0)
                     take(m_sums[size_t(sum)], edge.probability * free->line, *free);
@@ -128,12 +140,12 @@ private:
         }
     }
 
-    static constexpr int Unseen = -1;
-    static constexpr int Single = -2;
+    static constexpr int None = -1;
     EdgeLists &m_edges;
+    const SharedRows m_shared;
     std::vector<int> m_sumOf; ///< By node, place in m_sums of one that several lines share.
     std::vector<SumWithout> m_sums;
-    std::vector<Free> m_free; ///< By pair, in the order of the lines.
+    std::vector<Free> m_free; ///< By pair of these lines, in their order.
 };
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "SparseAssignment.h"
 
+#include "SharedRows.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <functional>
@@ -15,7 +17,8 @@ namespace {
 constexpr double Never = std::numeric_limits<double>::infinity();
 
 /// Successive shortest augmenting paths with prices. A line may always stay without a partner, at
-/// cost 0; a pair costs least - weight.
+/// cost 0; a pair costs least - weight. Lines that meet no other one take their pair; of the others
+/// and their rows each has a number of its own here, in the same order.
 class Assigner
 {
 public:
@@ -25,21 +28,40 @@ public:
         : m_edges(edges)
         , m_least(least)
         , m_counts(counts)
-        , m_edgeOf(edges.size(), -1)
-        , m_lineOf(size_t(nodeCount), -1)
-        , m_linePrice(edges.size(), 0)
-        , m_rowPrice(size_t(nodeCount), 0)
-        , m_distance(size_t(nodeCount), Never)
-        , m_from(size_t(nodeCount), {-1, -1})
-        , m_done(size_t(nodeCount), 0)
     {
+        m_lines = SharedRows(edges, nodeCount, [this](size_t line, const PlanEdge &edge) {
+                      return costOf(line, edge) < 0;
+                  }).lines();
+        m_edgeOf.assign(m_lines.size(), -1);
+        m_linePrice.assign(m_lines.size(), 0);
+        std::vector<char> isMet(m_lines.empty() ? 0 : size_t(nodeCount), 0);
+        forEachPair([&](const PlanEdge &edge) { isMet[size_t(edge.node)] = 1; });
+        m_rowOf.assign(isMet.size(), -1);
+        int rows = 0;
+        for (size_t node = 0; node < isMet.size(); ++node) {
+            if (isMet[node])
+                m_rowOf[node] = rows++;
+        }
+        m_lineOf.assign(size_t(rows), -1);
+        m_rowPrice.assign(size_t(rows), 0);
+        m_distance.assign(size_t(rows), Never);
+        m_from.assign(size_t(rows), {-1, -1});
+        m_done.assign(size_t(rows), 0);
     }
 
     std::vector<int> run()
     {
-        for (size_t line = 0; line < m_edges.size(); ++line)
+        for (size_t line = 0; line < m_lines.size(); ++line)
             augment(int(line));
-        return m_edgeOf;
+        std::vector<int> edgeOf(m_edges.size(), -1);
+        auto bound = m_lines.begin();
+        for (size_t line = 0; line < edgeOf.size(); ++line) {
+            if (bound != m_lines.end() && *bound == line)
+                edgeOf[line] = m_edgeOf[size_t(bound++ - m_lines.begin())];
+            else
+                edgeOf[line] = onlyEdge(line);
+        }
+        return edgeOf;
     }
 
 private:
@@ -49,20 +71,47 @@ private:
         int edge;
     };
 
+    [[nodiscard]] double costOf(size_t line, const PlanEdge &edge) const
+    {
+        return m_counts && !m_counts(line, edge) ? Never : m_least - edge.weight;
+    }
+    [[nodiscard]] std::span<const PlanEdge> pairs(int line) const
+    {
+        return m_edges[m_lines[size_t(line)]];
+    }
     [[nodiscard]] double cost(int line, int edge) const
     {
-        const PlanEdge &pair = m_edges[size_t(line)][size_t(edge)];
-        return m_counts && !m_counts(size_t(line), pair) ? Never : m_least - pair.weight;
+        return costOf(m_lines[size_t(line)], pairs(line)[size_t(edge)]);
+    }
+    [[nodiscard]] int rowOf(const PlanEdge &edge) const { return m_rowOf[size_t(edge.node)]; }
+
+    template<class Take>
+    void forEachPair(Take take) const
+    {
+        for (const std::uint32_t line : m_lines) {
+            for (const PlanEdge &edge : m_edges[line]) {
+                if (costOf(line, edge) < 0)
+                    take(edge);
+            }
+        }
+    }
+    /// Of a line that is not among them.
+    [[nodiscard]] int onlyEdge(size_t line) const
+    {
+        const std::span<const PlanEdge> list = m_edges[line];
+        const auto found = std::find_if(
+            list.begin(), list.end(), [&](const PlanEdge &edge) { return costOf(line, edge) < 0; });
+        return found == list.end() ? -1 : int(found - list.begin());
     }
 
     void relax(int line, double base, int skippedEdge)
     {
-        const std::span<const PlanEdge> list = m_edges[size_t(line)];
+        const std::span<const PlanEdge> list = pairs(line);
         for (int edge = 0; edge < int(list.size()); ++edge) {
             const double price = cost(line, edge);
             if (edge == skippedEdge || price >= 0)
                 continue;
-            const auto node = size_t(list[size_t(edge)].node);
+            const auto node = size_t(rowOf(list[size_t(edge)]));
             if (m_done[node])
                 continue;
             const double distance = base + price - m_linePrice[size_t(line)] - m_rowPrice[node];
@@ -83,20 +132,23 @@ private:
         // The line's price makes all its ways cost at least nothing.
         double lowest = 0;
         int nearest = -1;
-        const std::span<const PlanEdge> list = m_edges[size_t(start)];
+        const std::span<const PlanEdge> list = pairs(start);
         for (int edge = 0; edge < int(list.size()); ++edge) {
-            const int node = list[size_t(edge)].node;
-            const double price = cost(start, edge) - m_rowPrice[size_t(node)];
+            const double own = cost(start, edge);
+            if (own >= 0)
+                continue;
+            const int node = rowOf(list[size_t(edge)]);
+            const double price = own - m_rowPrice[size_t(node)];
             const bool isFirst =
-                price == lowest && nearest >= 0 && node < list[size_t(nearest)].node;
+                price == lowest && nearest >= 0 && node < rowOf(list[size_t(nearest)]);
             if (price < lowest || isFirst)
                 nearest = edge;
             lowest = std::min(lowest, price);
         }
         m_linePrice[size_t(start)] = lowest;
-        if (nearest >= 0 && m_lineOf[size_t(list[size_t(nearest)].node)] < 0) {
+        if (nearest >= 0 && m_lineOf[size_t(rowOf(list[size_t(nearest)]))] < 0) {
             m_edgeOf[size_t(start)] = nearest;
-            m_lineOf[size_t(list[size_t(nearest)].node)] = start;
+            m_lineOf[size_t(rowOf(list[size_t(nearest)]))] = start;
             return; // nothing is cheaper than the cheapest way to a free row
         }
         double bestEnd = -lowest; // staying alone
@@ -132,15 +184,14 @@ private:
             return;
         int node = endNode;
         if (node < 0) {
-            node = m_edges[size_t(endLine)][size_t(m_edgeOf[size_t(endLine)])].node;
+            node = rowOf(pairs(endLine)[size_t(m_edgeOf[size_t(endLine)])]);
             m_edgeOf[size_t(endLine)] = -1;
         }
         while (node >= 0) {
             const From from = m_from[size_t(node)];
-            const int next =
-                from.line == start || m_edgeOf[size_t(from.line)] < 0
-                    ? -1
-                    : m_edges[size_t(from.line)][size_t(m_edgeOf[size_t(from.line)])].node;
+            const int next = from.line == start || m_edgeOf[size_t(from.line)] < 0
+                                 ? -1
+                                 : rowOf(pairs(from.line)[size_t(m_edgeOf[size_t(from.line)])]);
             m_edgeOf[size_t(from.line)] = from.edge;
             m_lineOf[size_t(node)] = from.line;
             node = next;
@@ -168,6 +219,8 @@ private:
     const EdgeLists &m_edges;
     const double m_least;
     const Counts &m_counts;
+    std::vector<std::uint32_t> m_lines; ///< Those that may meet others.
+    std::vector<int> m_rowOf;           ///< By node; -1 for one that they have no pair with.
     std::vector<int> m_edgeOf;
     std::vector<int> m_lineOf;
     std::vector<double> m_linePrice;
