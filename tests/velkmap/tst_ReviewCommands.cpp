@@ -268,6 +268,12 @@ void tst_ReviewCommands::neighbours()
     QCOMPARE(findings[0]["repairs"][0]["targetPath"].toString(), "cat/c.prj");
     QCOMPARE(findings[0]["repairs"][0]["targetLine"].toInt(), 10);
     QCOMPARE(findings[1]["kind"].toString(), "swapped");
+    // Of the projects that are asked for.
+    QCOMPARE(run(QStringList("review") + places() + QStringList{"--project", "cat/b.prj"}),
+             ExitStatus::Done);
+    QVERIFY2(m_out.endsWith(" were looked at beside their neighbours, 0 places do not fit\n") &&
+                 !m_out.contains("cat/c.prj"),
+             qPrintable(m_out));
 }
 
 void tst_ReviewCommands::agreedReplacements()

@@ -138,19 +138,28 @@ private Q_SLOTS:
                          [&] { QTimer::singleShot(0, [&turned] { turned = true; }); });
         QObject::connect(fixture.window->editor(), &EditorArea::projectSelected,
                          [&] { turnedBefore = turnedBefore.value_or(turned); });
-        // What is laid out in one turn is painted after the next one.
+        // The project is laid out in one turn, its line in the next, painted after that.
+        EditorArea *const editor = fixture.window->editor();
         QList<bool> paints;
-        QObject::connect(fixture.window->editor(), &EditorArea::projectSelected, [&] {
+        QList<int> lines;
+        QObject::connect(editor, &EditorArea::projectSelected, [&] {
             if (!paints.isEmpty())
                 return;
-            paints << fixture.window->editor()->updatesEnabled();
-            QTimer::singleShot(0, [&] { paints << fixture.window->editor()->updatesEnabled(); });
+            paints << editor->updatesEnabled();
+            QTimer::singleShot(0, [&] { lines << editor->currentLine(); });
+        });
+        QObject::connect(editor, &EditorArea::linesSelected, [&] {
+            if (editor->currentLine() == 5 && paints.size() == 1) {
+                paints << editor->updatesEnabled();
+                QTimer::singleShot(0, [&] { paints << editor->updatesEnabled(); });
+            }
         });
         fixture.open(file);
         QCOMPARE(fixture.window->editor()->currentPath(), project);
         QCOMPARE(fixture.window->editor()->currentLine(), 5);
         QCOMPARE(turnedBefore, std::optional(true));
-        QCOMPARE(paints, (QList<bool>{false, false}));
+        QCOMPARE(paints, (QList<bool>{false, false, false}));
+        QVERIFY(lines.size() == 1 && lines.first() != 5);
         QVERIFY(fixture.window->editor()->updatesEnabled());
     }
 

@@ -126,6 +126,9 @@ void tst_StepList::takesBackOneAlone()
     QTest::keyClick(view(dialog), Qt::Key_Down);
     QTest::keyClick(view(dialog), Qt::Key_Down);
     QCOMPARE(hint(dialog), "Kein anderer Schritt hängt davon ab.");
+    const auto *const label = dialog->findChild<QLabel *>("hint");
+    QVERIFY(label->y() > view(dialog)->geometry().bottom() &&
+            label->geometry().bottom() < button(dialog, "move")->mapTo(dialog, QPoint()).y());
     QCOMPARE(button(dialog, "move")->text(), "Nur diesen &zurücknehmen");
     QTest::mouseClick(button(dialog, "move"), Qt::LeftButton);
     QVERIFY(!isConfirmed(fixture, din933, 3));
