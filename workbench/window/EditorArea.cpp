@@ -1,10 +1,9 @@
 #include "EditorArea.h"
 
 #include "KeyedActions.h"
+#include "readTablesAhead.h"
 #include "TargetProjectOpener.h"
 
-#include <core/text/PPathName.h>
-#include <geomcore/table/readProjectTable.h>
 #include <gui/application/PCommandKeys.h>
 #include <mapping/view/CatalogMappingWidget.h>
 #include <workbench/session/BackgroundWork.h>
@@ -148,7 +147,9 @@ bool EditorArea::openProject(const QString &sourcePath, int line)
         return false;
     BackgroundWork::letShow();
     const QList<VKTab::ContentRef> held =
-        isThere() ? readTables(sourcePath) : QList<VKTab::ContentRef>();
+        isThere()
+            ? readTablesAhead(m_document->release(), m_sourceRoot, sourcePath, !m_remoteTargets)
+            : QList<VKTab::ContentRef>();
     if (!isThere())
         return false;
     // Opened in one turn, its line in the next, painted in the last.
@@ -159,34 +160,6 @@ bool EditorArea::openProject(const QString &sourcePath, int line)
     BackgroundWork::letShow();
     setUpdatesEnabled(true);
     return isShown && isThere();
-}
-
-/// Of a project and its targets: while they are held, whoever opens them has nothing to read.
-QList<VKTab::ContentRef> EditorArea::readTables(const QString &sourcePath) const
-{
-    const ReleaseMappingC release = m_document->release();
-    const QString file = m_sourceRoot + u'/' + sourcePath;
-    QList<VKTab::ContentRef> tables;
-    const QString text = QCoreApplication::translate("DocumentFile", "%1 wird gelesen");
-    BackgroundWork::run(text.arg(sourcePath), [&] {
-        const auto read = [&tables](const QString &project, const QString &catalogPath) {
-            VKTab::ContentRef table = VKTab::Content();
-            // Whoever opens it tells what is wrong with it.
-            (void)VKTab::readProjectTable(PPathName(project).native(), table,
-                                          {.catalogPath = catalogPath, .tells = false});
-            tables += table;
-        };
-        read(file, sourcePath);
-        for (int i = 0; i < release.countMappings() && !m_remoteTargets; ++i) {
-            const PrjMappingC mapping = release.mappingAt(i);
-            for (int t = 0; t < mapping.countTargets() && mapping.getSourcePath() == sourcePath;
-                 ++t) {
-                if (const QString path = mapping.targetAt(t).getTargetPath(); !path.isEmpty())
-                    read(CatalogMappingWidget::buildTargetPath(true, path), {});
-            }
-        }
-    });
-    return tables;
 }
 
 bool EditorArea::showProject(const QString &sourcePath)

@@ -124,7 +124,6 @@ private Q_SLOTS:
 
 private:
     void make();
-    [[nodiscard]] QList<VKTab::ContentRef> readTables(const QString &sourcePath) const;
     void showChanges();
     void filterProjects();
     void filterLines();
