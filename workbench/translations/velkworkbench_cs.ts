@@ -3174,6 +3174,10 @@ Projekt: %1
             <numerusform>%Ln řádků proti</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Keine ist vereinbart. Ist die Liste der Unterschiede offen, werden deren Ersetzungen hier angeboten.</source>
+        <translation>Žádná není dohodnuta. Je-li seznam rozdílů otevřený, nabízejí se zde jeho náhrady.</translation>
+    </message>
 </context>
 <context>
     <name>ReportTexts</name>

@@ -3109,6 +3109,10 @@ Linje: %2
             <numerusform>%Ln linjer imod</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Keine ist vereinbart. Ist die Liste der Unterschiede offen, werden deren Ersetzungen hier angeboten.</source>
+        <translation>Ingen er aftalt. Når listen over forskelle er åben, tilbydes dens erstatninger her.</translation>
+    </message>
 </context>
 <context>
     <name>ReportTexts</name>

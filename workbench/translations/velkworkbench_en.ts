@@ -3109,6 +3109,10 @@ Line: %2
             <numerusform>%Ln do not</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Keine ist vereinbart. Ist die Liste der Unterschiede offen, werden deren Ersetzungen hier angeboten.</source>
+        <translation>None is agreed. While the list of differences is open, its replacements are offered here.</translation>
+    </message>
 </context>
 <context>
     <name>ReportTexts</name>

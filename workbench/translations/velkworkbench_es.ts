@@ -3109,6 +3109,10 @@ Fila: %2
             <numerusform>%Ln filas en contra</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Keine ist vereinbart. Ist die Liste der Unterschiede offen, werden deren Ersetzungen hier angeboten.</source>
+        <translation>No hay ninguna acordada. Con la lista de diferencias abierta, sus sustituciones se ofrecen aquí.</translation>
+    </message>
 </context>
 <context>
     <name>ReportTexts</name>

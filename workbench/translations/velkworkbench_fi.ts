@@ -3109,6 +3109,10 @@ Rivi: %2
             <numerusform>%Ln riviä vastaan</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Keine ist vereinbart. Ist die Liste der Unterschiede offen, werden deren Ersetzungen hier angeboten.</source>
+        <translation>Yhtään ei ole sovittu. Kun erojen luettelo on auki, sen korvaukset tarjotaan tässä.</translation>
+    </message>
 </context>
 <context>
     <name>ReportTexts</name>

@@ -3109,6 +3109,10 @@ Ligne : %2
             <numerusform>%Ln lignes contre</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Keine ist vereinbart. Ist die Liste der Unterschiede offen, werden deren Ersetzungen hier angeboten.</source>
+        <translation>Aucun n’est convenu. Quand la liste des différences est ouverte, ses remplacements sont proposés ici.</translation>
+    </message>
 </context>
 <context>
     <name>ReportTexts</name>

@@ -3044,6 +3044,10 @@ Sor: %2
             <numerusform>%Ln sor ellene</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Keine ist vereinbart. Ist die Liste der Unterschiede offen, werden deren Ersetzungen hier angeboten.</source>
+        <translation>Nincs megállapodott helyettesítés. Ha a különbségek listája nyitva van, annak helyettesítései itt választhatók.</translation>
+    </message>
 </context>
 <context>
     <name>ReportTexts</name>

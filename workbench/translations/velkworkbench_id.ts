@@ -3044,6 +3044,10 @@ Baris: %2
             <numerusform>%Ln baris menentang</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Keine ist vereinbart. Ist die Liste der Unterschiede offen, werden deren Ersetzungen hier angeboten.</source>
+        <translation>Belum ada yang disepakati. Saat daftar perbedaan terbuka, penggantiannya ditawarkan di sini.</translation>
+    </message>
 </context>
 <context>
     <name>ReportTexts</name>

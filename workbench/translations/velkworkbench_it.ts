@@ -3109,6 +3109,10 @@ Riga: %2
             <numerusform>%Ln righe contro</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Keine ist vereinbart. Ist die Liste der Unterschiede offen, werden deren Ersetzungen hier angeboten.</source>
+        <translation>Nessuna è concordata. Con l’elenco delle differenze aperto, le sue sostituzioni sono proposte qui.</translation>
+    </message>
 </context>
 <context>
     <name>ReportTexts</name>

@@ -3044,6 +3044,10 @@ Zeile: %2
             <numerusform>反する %Ln 行</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Keine ist vereinbart. Ist die Liste der Unterschiede offen, werden deren Ersetzungen hier angeboten.</source>
+        <translation>合意済みのものはありません。差異の一覧を開いている間は、その置換がここに表示されます。</translation>
+    </message>
 </context>
 <context>
     <name>ReportTexts</name>

@@ -3044,6 +3044,10 @@ Zeile: %2
             <numerusform>반하는 행 %Ln개</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Keine ist vereinbart. Ist die Liste der Unterschiede offen, werden deren Ersetzungen hier angeboten.</source>
+        <translation>합의된 것이 없습니다. 차이 목록이 열려 있으면 그 대체가 여기에 제시됩니다.</translation>
+    </message>
 </context>
 <context>
     <name>ReportTexts</name>

@@ -3109,6 +3109,10 @@ Linje: %2
             <numerusform>%Ln linjer imot</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Keine ist vereinbart. Ist die Liste der Unterschiede offen, werden deren Ersetzungen hier angeboten.</source>
+        <translation>Ingen er avtalt. Når listen over forskjeller er åpen, tilbys erstatningene dens her.</translation>
+    </message>
 </context>
 <context>
     <name>ReportTexts</name>

@@ -3174,6 +3174,10 @@ Wiersz: %2
             <numerusform>%Ln wierszy przeciw</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Keine ist vereinbart. Ist die Liste der Unterschiede offen, werden deren Ersetzungen hier angeboten.</source>
+        <translation>Żadna nie jest uzgodniona. Gdy lista różnic jest otwarta, jej zamiany są tu proponowane.</translation>
+    </message>
 </context>
 <context>
     <name>ReportTexts</name>

@@ -3109,6 +3109,10 @@ Linha: %2
             <numerusform>%Ln linhas contra</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Keine ist vereinbart. Ist die Liste der Unterschiede offen, werden deren Ersetzungen hier angeboten.</source>
+        <translation>Nenhuma está acordada. Com a lista de diferenças aberta, as suas substituições são propostas aqui.</translation>
+    </message>
 </context>
 <context>
     <name>ReportTexts</name>

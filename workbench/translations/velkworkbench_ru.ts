@@ -3174,6 +3174,10 @@ Zeile: %2
             <numerusform>%Ln строк против</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Keine ist vereinbart. Ist die Liste der Unterschiede offen, werden deren Ersetzungen hier angeboten.</source>
+        <translation>Согласованных замен нет. Пока открыт список различий, его замены предлагаются здесь.</translation>
+    </message>
 </context>
 <context>
     <name>ReportTexts</name>

@@ -3239,6 +3239,10 @@ Vrstica: %2
             <numerusform>%Ln vrstic proti</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Keine ist vereinbart. Ist die Liste der Unterschiede offen, werden deren Ersetzungen hier angeboten.</source>
+        <translation>Nobena ni dogovorjena. Ko je seznam razlik odprt, so njegove zamenjave ponujene tukaj.</translation>
+    </message>
 </context>
 <context>
     <name>ReportTexts</name>

@@ -3109,6 +3109,10 @@ Rad: %2
             <numerusform>%Ln rader emot</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Keine ist vereinbart. Ist die Liste der Unterschiede offen, werden deren Ersetzungen hier angeboten.</source>
+        <translation>Ingen är överenskommen. När listan över skillnader är öppen erbjuds dess ersättningar här.</translation>
+    </message>
 </context>
 <context>
     <name>ReportTexts</name>

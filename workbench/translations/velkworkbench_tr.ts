@@ -3044,6 +3044,10 @@ Satır: %2
             <numerusform>aleyhte %Ln satır</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Keine ist vereinbart. Ist die Liste der Unterschiede offen, werden deren Ersetzungen hier angeboten.</source>
+        <translation>Anlaşılan yok. Farklar listesi açıkken onun değiştirmeleri burada önerilir.</translation>
+    </message>
 </context>
 <context>
     <name>ReportTexts</name>

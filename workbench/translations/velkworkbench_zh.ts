@@ -3044,6 +3044,10 @@ Zeile: %2
             <numerusform>%Ln 行不支持</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Keine ist vereinbart. Ist die Liste der Unterschiede offen, werden deren Ersetzungen hier angeboten.</source>
+        <translation>尚无约定的替换。打开差异列表后，其中的替换会在此提供。</translation>
+    </message>
 </context>
 <context>
     <name>ReportTexts</name>

@@ -3044,6 +3044,10 @@ Zeile: %2
             <numerusform>%Ln 列不支持</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Keine ist vereinbart. Ist die Liste der Unterschiede offen, werden deren Ersetzungen hier angeboten.</source>
+        <translation>尚無約定的取代。開啟差異清單後，其中的取代會在此提供。</translation>
+    </message>
 </context>
 <context>
     <name>ReportTexts</name>

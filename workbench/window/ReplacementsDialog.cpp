@@ -59,7 +59,8 @@ ReplacementsDialog::ReplacementsDialog(const ReleaseMappingC &release, const QSt
     m_evidence->setTextFormat(Qt::PlainText);
     m_evidence->setWordWrap(true);
     for (const VelkRelease::ValueChange &change : offered) {
-        if (const auto replacement = replacementOf(change); replacement && !change.agreed)
+        if (const auto replacement = replacementOf(change);
+            replacement && !change.agreed && !m_offered.contains(*replacement))
             m_offered.append(*replacement);
     }
     m_folder->addItem(tr("im ganzen Katalogstand"), QString());
@@ -71,8 +72,8 @@ ReplacementsDialog::ReplacementsDialog(const ReleaseMappingC &release, const QSt
     m_agree->setObjectName("agreeButton");
     m_withdraw = buttons->addButton(tr("&Zurückziehen"), QDialogButtonBox::ActionRole);
     m_withdraw->setObjectName("withdrawButton");
-    auto *const evidence = buttons->addButton(tr("&Belege"), QDialogButtonBox::ActionRole);
-    evidence->setObjectName("evidenceButton");
+    m_showEvidence = buttons->addButton(tr("&Belege"), QDialogButtonBox::ActionRole);
+    m_showEvidence->setObjectName("evidenceButton");
     auto *const accept = buttons->addButton(tr("&Übernehmen"), QDialogButtonBox::AcceptRole);
     accept->setObjectName("acceptButton");
     buttons->addButton(Question::cancelText(), QDialogButtonBox::RejectRole);
@@ -86,7 +87,7 @@ ReplacementsDialog::ReplacementsDialog(const ReleaseMappingC &release, const QSt
     layout->addWidget(buttons);
     connect(m_agree, &QPushButton::clicked, this, &ReplacementsDialog::agree);
     connect(m_withdraw, &QPushButton::clicked, this, &ReplacementsDialog::withdraw);
-    connect(evidence, &QPushButton::clicked, this, &ReplacementsDialog::showEvidence);
+    connect(m_showEvidence, &QPushButton::clicked, this, &ReplacementsDialog::showEvidence);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(m_list, &QListWidget::currentRowChanged, this, &ReplacementsDialog::updateButtons);
@@ -124,7 +125,12 @@ void ReplacementsDialog::updateButtons()
     const bool agreed = m_list->currentRow() < m_agreed.size();
     m_agree->setEnabled(current() && !agreed);
     m_withdraw->setEnabled(current() && agreed);
-    m_evidence->clear();
+    m_showEvidence->setEnabled(current());
+    m_evidence->setText(
+        m_list->count() > 0
+            ? QString()
+            : tr("Keine ist vereinbart. Ist die Liste der Unterschiede offen, werden "
+                 "deren Ersetzungen hier angeboten."));
 }
 
 void ReplacementsDialog::agree()

@@ -13,7 +13,7 @@ class QListWidget;
 class QPushButton;
 QT_END_NAMESPACE
 
-/// What is agreed to about values, to be withdrawn, and what a pattern offers, to be agreed to for
+/// What is agreed to about values, to be withdrawn, and what patterns offer, to be agreed to for
 /// the whole release or a folder. Each one is shown with the lines that support it and those that
 /// do not.
 class ReplacementsDialog : public QDialog
@@ -21,7 +21,8 @@ class ReplacementsDialog : public QDialog
     Q_OBJECT
 
 public:
-    /// \a offered: changes of the chosen pattern. \a projectPath: project in sight, may be empty.
+    /// \a offered: changes of the chosen pattern, or of all. \a projectPath: project in sight, may
+    /// be empty.
     ReplacementsDialog(const ReleaseMappingC &release, const QString &sourceRoot,
                        const QList<VelkRelease::ValueChange> &offered, const QString &projectPath,
                        QWidget *parent);
@@ -47,4 +48,5 @@ private:
     QLabel *m_evidence = nullptr;
     QPushButton *m_agree = nullptr;
     QPushButton *m_withdraw = nullptr;
+    QPushButton *m_showEvidence = nullptr;
 };

@@ -19,6 +19,21 @@
 
 using VelkRelease::DifferencePatterns;
 
+namespace {
+
+/// Of a pattern, or of all, those of most lines first, with -1.
+QList<VelkRelease::ValueChange> changesOf(const DifferencePatterns &patterns, int chosen)
+{
+    if (chosen >= 0)
+        return patterns.changes(chosen);
+    QList<VelkRelease::ValueChange> changes;
+    for (const int pattern : patterns.ranked())
+        changes += patterns.changes(pattern);
+    return changes;
+}
+
+} // namespace
+
 ReviewCommands::ReviewCommands(MappingDocument *document, EditorArea *editor, LineCommands *lines,
                                QWidget *window)
     : m_document(document)
@@ -331,10 +346,8 @@ void ReviewCommands::showPairs(const LinePairs &pairs)
 
 void ReviewCommands::editReplacements()
 {
-    QList<VelkRelease::ValueChange> changes;
-    if (m_dock->chosen() >= 0)
-        changes = m_work->patterns().changes(m_dock->chosen());
-    ReplacementsDialog dialog(m_document->release(), m_document->catalogRoots().source, changes,
+    ReplacementsDialog dialog(m_document->release(), m_document->catalogRoots().source,
+                              changesOf(m_work->patterns(), m_dock->chosen()),
                               m_editor->currentPath(), m_window);
     if (dialog.exec() != QDialog::Accepted ||
         dialog.replacements() == m_document->release().getReplacements())

@@ -13,6 +13,7 @@
 #include <QAbstractItemModelTester>
 #include <QComboBox>
 #include <QListWidget>
+#include <QSet>
 #include <QSpinBox>
 
 namespace {
@@ -54,6 +55,7 @@ private Q_SLOTS:
     void firstWrongOneSplits();
     void selectedLinesBySample();
     void agreedReplacement();
+    void replacementsOfAllPatterns();
     void neighboursAreMendedInOneStep();
 };
 
@@ -240,6 +242,46 @@ void tst_ReviewSamples::agreedReplacement()
     fixture.press(Qt::Key_E, Qt::ControlModifier);
     QVERIFY(script.isDone());
     QVERIFY(fixture.document()->release().getReplacements().isEmpty());
+}
+
+/// Without a chosen pattern what all of them have to offer, once each; before there are patterns a
+/// word instead.
+void tst_ReviewSamples::replacementsOfAllPatterns()
+{
+    WindowFixture fixture;
+    fixture.open(fixture.mappingFile());
+    ModalScript script;
+    QStringList before;
+    script.then([&before](QWidget *dialog) {
+        before = {QString::number(dialog->findChild<QListWidget *>("ReplacementList")->count()),
+                  dialog->findChild<QLabel *>("ReplacementEvidence")->text()};
+        QVERIFY(!dialog->findChild<QPushButton *>("evidenceButton")->isEnabled());
+        dialog->close();
+    });
+    fixture.press(Qt::Key_E, Qt::ControlModifier);
+    QVERIFY(script.isDone());
+    QCOMPARE(before, QStringList({"0", "Keine ist vereinbart. Ist die Liste der Unterschiede "
+                                       "offen, werden deren Ersetzungen hier angeboten."}));
+    fixture.press(Qt::Key_F7);
+    QVERIFY(
+        QTest::qWaitFor([&] { return fixture.window->review()->work()->hasPatterns(); }, 20'000));
+    QVERIFY(QTest::qWaitFor([&] { return !fixture.window->review()->work()->isReading(); }, 20000));
+    QStringList offered;
+    QString said = QStringLiteral("not asked");
+    script.then([&](QWidget *dialog) {
+        const auto *const list = dialog->findChild<QListWidget *>("ReplacementList");
+        for (int row = 0; row < list->count(); ++row)
+            offered += list->item(row)->text();
+        said = dialog->findChild<QLabel *>("ReplacementEvidence")->text();
+        QVERIFY(dialog->findChild<QPushButton *>("evidenceButton")->isEnabled());
+        dialog->close();
+    });
+    fixture.press(Qt::Key_E, Qt::ControlModifier);
+    QVERIFY(script.isDone());
+    QVERIFY2(offered.contains("Werkstoff: FP → FKM"), qPrintable(offered.join(u'\n')));
+    QVERIFY2(offered.contains("s: − 1"), qPrintable(offered.join(u'\n')));
+    QCOMPARE(QSet<QString>(offered.begin(), offered.end()).size(), offered.size());
+    QCOMPARE(said, QString());
 }
 
 void tst_ReviewSamples::neighboursAreMendedInOneStep()
