@@ -338,6 +338,12 @@ Přiřazení je třeba změnit pomocí „Upravit přiřazení rozsahů hodnot�
         <translation>Katalog</translation>
     </message>
     <message>
+        <source>Kein Projekt passt zur Auswahl unter dem Baum.
+„%1“ ausschalten, um wieder alle Projekte zu sehen.</source>
+        <translation>Výběru pod stromem neodpovídá žádný projekt.
+Vypněte „%1“, aby byly zase vidět všechny projekty.</translation>
+    </message>
+    <message>
         <source>Keine Fehler gefunden</source>
         <translation>Nebyly nalezeny žádné chyby</translation>
     </message>

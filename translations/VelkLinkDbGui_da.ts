@@ -338,6 +338,12 @@ Tildelingen skal ændres med 'Rediger tildeling af værdiområder'</translation>
         <translation>Katalog</translation>
     </message>
     <message>
+        <source>Kein Projekt passt zur Auswahl unter dem Baum.
+„%1“ ausschalten, um wieder alle Projekte zu sehen.</source>
+        <translation>Intet projekt passer til valget under træet.
+Slå „%1“ fra for at se alle projekter igen.</translation>
+    </message>
+    <message>
         <source>Keine Fehler gefunden</source>
         <translation>Ingen fejl fundet</translation>
     </message>

@@ -338,6 +338,12 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</tran
         <translation>Katalog</translation>
     </message>
     <message>
+        <source>Kein Projekt passt zur Auswahl unter dem Baum.
+„%1“ ausschalten, um wieder alle Projekte zu sehen.</source>
+        <translation>Kein Projekt passt zur Auswahl unter dem Baum.
+„%1“ ausschalten, um wieder alle Projekte zu sehen.</translation>
+    </message>
+    <message>
         <source>Keine Fehler gefunden</source>
         <translation>Keine Fehler gefunden</translation>
     </message>

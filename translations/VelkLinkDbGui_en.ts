@@ -338,6 +338,12 @@ The assignment must be changed by 'Edit value range assignment'</translation>
         <translation>Catalog</translation>
     </message>
     <message>
+        <source>Kein Projekt passt zur Auswahl unter dem Baum.
+„%1“ ausschalten, um wieder alle Projekte zu sehen.</source>
+        <translation>No project fits the choice below the tree.
+Switch “%1” off to see all projects again.</translation>
+    </message>
+    <message>
         <source>Keine Fehler gefunden</source>
         <translation>No errors found</translation>
     </message>

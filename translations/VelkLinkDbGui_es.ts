@@ -338,6 +338,12 @@ La asignación debe cambiarse con 'Editar la asignación de rangos de valores'</
         <translation>Catálogo</translation>
     </message>
     <message>
+        <source>Kein Projekt passt zur Auswahl unter dem Baum.
+„%1“ ausschalten, um wieder alle Projekte zu sehen.</source>
+        <translation>Ningún proyecto corresponde a la selección bajo el árbol.
+Desactive «%1» para volver a ver todos los proyectos.</translation>
+    </message>
+    <message>
         <source>Keine Fehler gefunden</source>
         <translation>No se han encontrado errores</translation>
     </message>

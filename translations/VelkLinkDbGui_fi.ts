@@ -338,6 +338,12 @@ Kohdistusta on muutettava toiminnolla 'Muokkaa arvoalueiden kohdistusta'</transl
         <translation>Luettelo</translation>
     </message>
     <message>
+        <source>Kein Projekt passt zur Auswahl unter dem Baum.
+„%1“ ausschalten, um wieder alle Projekte zu sehen.</source>
+        <translation>Mikään projekti ei vastaa puun alla olevaa valintaa.
+Poista käytöstä ”%1”, niin kaikki projektit näkyvät taas.</translation>
+    </message>
+    <message>
         <source>Keine Fehler gefunden</source>
         <translation>Virheitä ei löytynyt</translation>
     </message>

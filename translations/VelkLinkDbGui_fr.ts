@@ -338,6 +338,12 @@ L'affectation doit être modifiée par « Modifier l'affectation de plages de va
         <translation>Catalogue</translation>
     </message>
     <message>
+        <source>Kein Projekt passt zur Auswahl unter dem Baum.
+„%1“ ausschalten, um wieder alle Projekte zu sehen.</source>
+        <translation>Aucun projet ne correspond au choix sous l'arbre.
+Désactivez « %1 » pour revoir tous les projets.</translation>
+    </message>
+    <message>
         <source>Keine Fehler gefunden</source>
         <translation>Aucune erreur trouvée</translation>
     </message>

@@ -338,6 +338,12 @@ A hozzárendelést az „Értéktartomány-hozzárendelés szerkesztése” para
         <translation>Katalógus</translation>
     </message>
     <message>
+        <source>Kein Projekt passt zur Auswahl unter dem Baum.
+„%1“ ausschalten, um wieder alle Projekte zu sehen.</source>
+        <translation>Egyetlen projekt sem felel meg a fa alatti választásnak.
+Kapcsolja ki ezt: „%1”, hogy újra minden projekt látsszon.</translation>
+    </message>
+    <message>
         <source>Keine Fehler gefunden</source>
         <translation>Nincs hiba</translation>
     </message>

@@ -338,6 +338,12 @@ Penetapan harus diubah dengan 'Sunting penetapan rentang nilai'</translation>
         <translation>Katalog</translation>
     </message>
     <message>
+        <source>Kein Projekt passt zur Auswahl unter dem Baum.
+„%1“ ausschalten, um wieder alle Projekte zu sehen.</source>
+        <translation>Tidak ada proyek yang sesuai dengan pilihan di bawah pohon.
+Matikan “%1” untuk melihat semua proyek lagi.</translation>
+    </message>
+    <message>
         <source>Keine Fehler gefunden</source>
         <translation>Tidak ada kesalahan</translation>
     </message>

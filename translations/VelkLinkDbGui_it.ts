@@ -338,6 +338,12 @@ L'assegnazione va modificata con 'Modificare l'assegnazione degli intervalli di 
         <translation>Catalogo</translation>
     </message>
     <message>
+        <source>Kein Projekt passt zur Auswahl unter dem Baum.
+„%1“ ausschalten, um wieder alle Projekte zu sehen.</source>
+        <translation>Nessun progetto corrisponde alla scelta sotto l'albero.
+Disattivare «%1» per rivedere tutti i progetti.</translation>
+    </message>
+    <message>
         <source>Keine Fehler gefunden</source>
         <translation>Nessun errore trovato</translation>
     </message>

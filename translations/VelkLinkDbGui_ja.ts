@@ -338,6 +338,12 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>カタログ</translation>
     </message>
     <message>
+        <source>Kein Projekt passt zur Auswahl unter dem Baum.
+„%1“ ausschalten, um wieder alle Projekte zu sehen.</source>
+        <translation>ツリーの下の選択に合うプロジェクトはありません。
+「%1」をオフにすると、すべてのプロジェクトが再び表示されます。</translation>
+    </message>
+    <message>
         <source>Keine Fehler gefunden</source>
         <translation>エラーはありません</translation>
     </message>

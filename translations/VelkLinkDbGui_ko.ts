@@ -338,6 +338,12 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>카탈로그</translation>
     </message>
     <message>
+        <source>Kein Projekt passt zur Auswahl unter dem Baum.
+„%1“ ausschalten, um wieder alle Projekte zu sehen.</source>
+        <translation>트리 아래의 선택에 맞는 프로젝트가 없습니다.
+‘%1’을(를) 끄면 모든 프로젝트가 다시 표시됩니다.</translation>
+    </message>
+    <message>
         <source>Keine Fehler gefunden</source>
         <translation>오류가 없습니다</translation>
     </message>

@@ -338,6 +338,12 @@ Tilordningen må endres med 'Rediger tilordning av verdiområder'</translation>
         <translation>Katalog</translation>
     </message>
     <message>
+        <source>Kein Projekt passt zur Auswahl unter dem Baum.
+„%1“ ausschalten, um wieder alle Projekte zu sehen.</source>
+        <translation>Ingen prosjekter passer til valget under treet.
+Slå av «%1» for å se alle prosjektene igjen.</translation>
+    </message>
+    <message>
         <source>Keine Fehler gefunden</source>
         <translation>Ingen feil funnet</translation>
     </message>

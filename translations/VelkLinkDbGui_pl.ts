@@ -338,6 +338,12 @@ Przypisanie trzeba zmienić poleceniem „Edytuj przypisanie zakresów wartości
         <translation>Katalog</translation>
     </message>
     <message>
+        <source>Kein Projekt passt zur Auswahl unter dem Baum.
+„%1“ ausschalten, um wieder alle Projekte zu sehen.</source>
+        <translation>Żaden projekt nie pasuje do wyboru pod drzewem.
+Aby znów zobaczyć wszystkie projekty, wyłącz „%1”.</translation>
+    </message>
+    <message>
         <source>Keine Fehler gefunden</source>
         <translation>Nie znaleziono błędów</translation>
     </message>

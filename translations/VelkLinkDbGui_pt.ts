@@ -338,6 +338,12 @@ A atribuição tem de ser alterada com 'Editar a atribuição de intervalos de v
         <translation>Catálogo</translation>
     </message>
     <message>
+        <source>Kein Projekt passt zur Auswahl unter dem Baum.
+„%1“ ausschalten, um wieder alle Projekte zu sehen.</source>
+        <translation>Nenhum projeto corresponde à escolha por baixo da árvore.
+Desative «%1» para voltar a ver todos os projetos.</translation>
+    </message>
+    <message>
         <source>Keine Fehler gefunden</source>
         <translation>Nenhum erro encontrado</translation>
     </message>

@@ -338,6 +338,12 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>Каталог</translation>
     </message>
     <message>
+        <source>Kein Projekt passt zur Auswahl unter dem Baum.
+„%1“ ausschalten, um wieder alle Projekte zu sehen.</source>
+        <translation>Ни один проект не соответствует выбору под деревом.
+Выключите «%1», чтобы снова увидеть все проекты.</translation>
+    </message>
+    <message>
         <source>Keine Fehler gefunden</source>
         <translation>Ошибок не найдено</translation>
     </message>

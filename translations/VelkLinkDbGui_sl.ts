@@ -338,6 +338,12 @@ Dodelitev je treba spremeniti z ukazom »Uredi dodelitev območij vrednosti«</t
         <translation>Katalog</translation>
     </message>
     <message>
+        <source>Kein Projekt passt zur Auswahl unter dem Baum.
+„%1“ ausschalten, um wieder alle Projekte zu sehen.</source>
+        <translation>Noben projekt ne ustreza izbiri pod drevesom.
+Izklopite »%1«, da bodo spet vidni vsi projekti.</translation>
+    </message>
+    <message>
         <source>Keine Fehler gefunden</source>
         <translation>Ni napak</translation>
     </message>

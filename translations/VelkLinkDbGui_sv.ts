@@ -338,6 +338,12 @@ Tilldelningen måste ändras med 'Redigera tilldelning av värdeområden'</trans
         <translation>Katalog</translation>
     </message>
     <message>
+        <source>Kein Projekt passt zur Auswahl unter dem Baum.
+„%1“ ausschalten, um wieder alle Projekte zu sehen.</source>
+        <translation>Inget projekt passar valet under trädet.
+Stäng av ”%1” för att se alla projekt igen.</translation>
+    </message>
+    <message>
         <source>Keine Fehler gefunden</source>
         <translation>Inga fel hittades</translation>
     </message>

@@ -338,6 +338,12 @@ Atama 'Değer aralığı atamasını düzenle' ile değiştirilmelidir</translat
         <translation>Katalog</translation>
     </message>
     <message>
+        <source>Kein Projekt passt zur Auswahl unter dem Baum.
+„%1“ ausschalten, um wieder alle Projekte zu sehen.</source>
+        <translation>Ağacın altındaki seçime uyan proje yok.
+Tüm projeleri yeniden görmek için “%1” seçeneğini kapatın.</translation>
+    </message>
+    <message>
         <source>Keine Fehler gefunden</source>
         <translation>Hata bulunamadı</translation>
     </message>

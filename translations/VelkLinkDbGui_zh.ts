@@ -338,6 +338,12 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>目录</translation>
     </message>
     <message>
+        <source>Kein Projekt passt zur Auswahl unter dem Baum.
+„%1“ ausschalten, um wieder alle Projekte zu sehen.</source>
+        <translation>没有项目符合树下方的选择。
+关闭“%1”即可重新看到所有项目。</translation>
+    </message>
+    <message>
         <source>Keine Fehler gefunden</source>
         <translation>未发现错误</translation>
     </message>

@@ -338,6 +338,12 @@ Zuordnung muss über 'Wertebereichszuordnung bearbeiten' verändert werden</sour
         <translation>目錄</translation>
     </message>
     <message>
+        <source>Kein Projekt passt zur Auswahl unter dem Baum.
+„%1“ ausschalten, um wieder alle Projekte zu sehen.</source>
+        <translation>沒有專案符合樹下方的選擇。
+關閉「%1」即可重新看到所有專案。</translation>
+    </message>
+    <message>
         <source>Keine Fehler gefunden</source>
         <translation>未發現錯誤</translation>
     </message>

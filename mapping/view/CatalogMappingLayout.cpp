@@ -16,6 +16,7 @@
 #include <core/text/PString.h>
 #include <geomcoregui/table/VkTableView.h>
 #include <gui/views/ElidedCheckBox.h>
+#include <gui/views/EmptyViewLabel.h>
 
 #include <QLabel>
 #include <QPushButton>
@@ -96,6 +97,8 @@ void CatalogMappingWidgetPrivate::makeTreeModels()
     filterModel->setDynamicSortFilter(false);
     filterModel->setSourceModel(model);
     treeView->setModel(filterModel);
+    emptyTree = new EmptyViewLabel(treeView, filterModel);
+    emptyTree->setObjectName(QStringLiteral("emptyTree"));
     treeView->setItemDelegate(new CatalogStructureDelegate(treeView));
 }
 

@@ -131,8 +131,10 @@ bool CatalogMappingWidget::onlyOpenProjects() const
 }
 
 void CatalogMappingWidget::setProjectFilter(
-    const std::function<bool(const PrjMappingC &mapping)> &accepts)
+    const std::function<bool(const PrjMappingC &mapping)> &accepts, const QString &ifNone)
 {
+    d->hostFilterText = accepts ? ifNone : QString();
+    d->tellFilters();
     d->filterModel->hostFilter = accepts;
     d->filterModel->invalidate();
     const PrjMappingC shown = currentProject();

@@ -108,8 +108,10 @@ public:
     void setOnlyOpenProjects(bool on);
     [[nodiscard]] bool onlyOpenProjects() const;
     /// Another filter of the tree, beside its own: only projects that it accepts. An empty one
-    /// takes it away. Asked at each change of a filter, not at changes of mappings.
-    void setProjectFilter(const std::function<bool(const PrjMappingC &mapping)> &accepts);
+    /// takes it away. Asked at each change of a filter, not at changes of mappings. \a ifNone is
+    /// said in the tree while it has no project left: why, and how to get them back.
+    void setProjectFilter(const std::function<bool(const PrjMappingC &mapping)> &accepts,
+                          const QString &ifNone = QString());
     /// The source table shows only these lines, ascending by number, until another project is shown
     /// or the user chooses another filter of lines; none at all if there are none, and \a ifNone in
     /// their place.

@@ -16,6 +16,7 @@
 #include <geomcore/records/sameTargetHead.h>
 #include <geomcore/table/readProjectTable.h>
 #include <geomcoregui/table/VkTableView.h>
+#include <gui/views/EmptyViewLabel.h>
 
 #include <QCheckBox>
 #include <QItemSelection>
@@ -241,7 +242,21 @@ void CatalogMappingWidgetPrivate::onFilterToCheckChanged(int state)
     filterModel->filterNoTarget = checkNoTarget->isChecked();
     checkTarget->setEnabled(on);
     checkNoTarget->setEnabled(on);
+    tellFilters();
     filterModel->invalidate();
+}
+
+void CatalogMappingWidgetPrivate::tellFilters()
+{
+    QStringList texts;
+    if (!hostFilterText.isEmpty())
+        texts += hostFilterText;
+    if (checkToCheck->isChecked())
+        texts += PString::translate("Kein Projekt passt zur Auswahl unter dem Baum.\n„%1“ "
+                                    "ausschalten, um wieder alle Projekte zu sehen.",
+                                    "VelkLinkDbGui")
+                     .arg(checkToCheck->text());
+    emptyTree->tell(texts.join(QStringLiteral("\n\n")));
 }
 
 void CatalogMappingWidgetPrivate::onFilterTargetChanged(int state)

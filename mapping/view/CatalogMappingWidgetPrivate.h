@@ -29,6 +29,7 @@ class CatalogMappingNotifier;
 class CatalogMappingWidget;
 class CatalogStructureModel;
 class CatalogStructureNodeI;
+class EmptyViewLabel;
 class MappingConflictWidget;
 class ProjectMappingWidget;
 class TableMappingWidget;
@@ -55,12 +56,16 @@ public:
     [[nodiscard]] bool shows(const PrjMappingC &mapping) const;
     [[nodiscard]] EditorPlace place() const;
     void revealShown();
+    /// Why the tree is empty, if it is.
+    void tellFilters();
 
     CatalogMappingHandlerI *handler;
     PPathName basePath;
     /// Never deleted: what was shown of the tree stays in memory until the process ends.
     CatalogStructureModel *model = nullptr;
     QTreeView *treeView = nullptr;
+    EmptyViewLabel *emptyTree = nullptr;
+    QString hostFilterText; ///< of the host's filter, for a tree without a project
     QLabel *statisticsLabel = nullptr;
     TableMappingWidget *tableWidget = nullptr;
     ProjectMappingWidget *projectWidget = nullptr;

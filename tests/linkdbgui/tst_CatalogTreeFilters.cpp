@@ -7,6 +7,7 @@
 #include <core/config/PConfigService.h>
 #include <geomcoregui/table/VkTableView.h>
 
+#include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
 
@@ -28,6 +29,7 @@ private Q_SLOTS:
     void filtersKeepTheirChecks();
     void filterByTarget();
     void filterByNoTarget();
+    void tellsWhyItIsEmpty();
 
     void menuOfAProject();
     void menuOfAProjectCancelled();
@@ -126,6 +128,36 @@ void tst_CatalogTreeFilters::filterByNoTarget()
     editor.check("checkToCheck");
     editor.check("checkNoTarget");
     QCOMPARE(editor.shownProjects(), QStringLiteral("a.prj"));
+}
+
+void tst_CatalogTreeFilters::tellsWhyItIsEmpty()
+{
+    const Editor editor;
+    editor.show();
+    const auto *const empty = editor.tree->findChild<QLabel *>("emptyTree");
+    const auto onlyComplete = [](const PrjMappingC &mapping) {
+        return mapping.getSourcePath().endsWith("c.prj");
+    };
+    editor.widget->setProjectFilter(onlyComplete, "None for the host.");
+    QCOMPARE(editor.shownProjects(), QStringLiteral("c.prj"));
+    QVERIFY(!empty->isVisible());
+    editor.check("checkToCheck");
+    QCOMPARE(editor.shownProjects(), QString());
+    QVERIFY(empty->isVisible());
+    QCOMPARE(empty->geometry(), editor.tree->viewport()->geometry());
+    const QString unfinished =
+        QStringLiteral(
+            "Kein Projekt passt zur Auswahl unter dem Baum.\n„%1“ ausschalten, um wieder "
+            "alle Projekte zu sehen.")
+            .arg(editor.box("checkToCheck")->text());
+    QCOMPARE(empty->text(), "None for the host.\n\n" + unfinished);
+    editor.check("checkToCheck");
+    QVERIFY(!empty->isVisible());
+    editor.widget->setProjectFilter([](const PrjMappingC &) { return false; }, "None.");
+    QVERIFY(empty->isVisible());
+    QCOMPARE(empty->text(), QStringLiteral("None."));
+    editor.widget->setProjectFilter({});
+    QVERIFY(!empty->isVisible());
 }
 
 void tst_CatalogTreeFilters::menuOfAProject()

@@ -770,6 +770,12 @@ Zvolte jiný soubor.</translation>
         <translation>Žádný řádek tohoto projektu není ve filtru.
 Otevřete „%1“ a zvolte „%2“, aby byly zase vidět všechny řádky.</translation>
     </message>
+    <message>
+        <source>Kein Projekt hat eine Zeile im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Projekte zu sehen.</source>
+        <translation>Žádný projekt nemá řádek ve filtru.
+Otevřete „%1“ a zvolte „%2“, aby byly zase vidět všechny projekty.</translation>
+    </message>
 </context>
 <context>
     <name>FileNames</name>
@@ -2804,6 +2810,10 @@ Projekt: %1
     <message>
         <source>%1 kann nicht geschrieben werden.</source>
         <translation>%1 nelze zapsat.</translation>
+    </message>
+    <message>
+        <source>Seite</source>
+        <translation>Strana</translation>
     </message>
 </context>
 <context>

@@ -747,6 +747,12 @@ Vælg en anden fil.</translation>
         <translation>Ingen linje i dette projekt er i filteret.
 Åbn „%1“ og vælg „%2“ for at se alle linjer igen.</translation>
     </message>
+    <message>
+        <source>Kein Projekt hat eine Zeile im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Projekte zu sehen.</source>
+        <translation>Intet projekt har en linje i filteret.
+Åbn „%1“ og vælg „%2“ for at se alle projekter igen.</translation>
+    </message>
 </context>
 <context>
     <name>FileNames</name>
@@ -2750,6 +2756,10 @@ Linje: %2
     <message>
         <source>%1 kann nicht geschrieben werden.</source>
         <translation>%1 kan ikke skrives.</translation>
+    </message>
+    <message>
+        <source>Seite</source>
+        <translation>Side</translation>
     </message>
 </context>
 <context>

@@ -747,6 +747,12 @@ Please choose another file.</translation>
         <translation>No line of this project is in the filter.
 Open “%1” and choose “%2” to see all lines again.</translation>
     </message>
+    <message>
+        <source>Kein Projekt hat eine Zeile im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Projekte zu sehen.</source>
+        <translation>No project has a line in the filter.
+Open “%1” and choose “%2” to see all projects again.</translation>
+    </message>
 </context>
 <context>
     <name>FileNames</name>
@@ -2750,6 +2756,10 @@ Line: %2
     <message>
         <source>%1 kann nicht geschrieben werden.</source>
         <translation>%1 cannot be written.</translation>
+    </message>
+    <message>
+        <source>Seite</source>
+        <translation>Page</translation>
     </message>
 </context>
 <context>

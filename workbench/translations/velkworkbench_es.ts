@@ -747,6 +747,12 @@ Elija otro archivo.</translation>
         <translation>Ninguna fila de este proyecto está en el filtro.
 Abra «%1» y elija «%2» para volver a ver todas las filas.</translation>
     </message>
+    <message>
+        <source>Kein Projekt hat eine Zeile im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Projekte zu sehen.</source>
+        <translation>Ningún proyecto tiene una fila en el filtro.
+Abra «%1» y elija «%2» para volver a ver todos los proyectos.</translation>
+    </message>
 </context>
 <context>
     <name>FileNames</name>
@@ -2750,6 +2756,10 @@ Fila: %2
     <message>
         <source>%1 kann nicht geschrieben werden.</source>
         <translation>No se puede escribir %1.</translation>
+    </message>
+    <message>
+        <source>Seite</source>
+        <translation>Página</translation>
     </message>
 </context>
 <context>

@@ -747,6 +747,12 @@ Valitse toinen tiedosto.</translation>
         <translation>Mikään tämän projektin rivi ei ole suodattimessa.
 Avaa ”%1” ja valitse ”%2”, niin kaikki rivit näkyvät taas.</translation>
     </message>
+    <message>
+        <source>Kein Projekt hat eine Zeile im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Projekte zu sehen.</source>
+        <translation>Millään projektilla ei ole riviä suodattimessa.
+Avaa ”%1” ja valitse ”%2”, niin kaikki projektit näkyvät taas.</translation>
+    </message>
 </context>
 <context>
     <name>FileNames</name>
@@ -2750,6 +2756,10 @@ Rivi: %2
     <message>
         <source>%1 kann nicht geschrieben werden.</source>
         <translation>Tiedostoa %1 ei voi kirjoittaa.</translation>
+    </message>
+    <message>
+        <source>Seite</source>
+        <translation>Sivu</translation>
     </message>
 </context>
 <context>

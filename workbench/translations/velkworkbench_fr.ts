@@ -747,6 +747,12 @@ Choisissez un autre fichier.</translation>
         <translation>Aucune ligne de ce projet n&apos;est dans le filtre.
 Ouvrez « %1 » et choisissez « %2 » pour revoir toutes les lignes.</translation>
     </message>
+    <message>
+        <source>Kein Projekt hat eine Zeile im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Projekte zu sehen.</source>
+        <translation>Aucun projet n&apos;a de ligne dans le filtre.
+Ouvrez « %1 » et choisissez « %2 » pour revoir tous les projets.</translation>
+    </message>
 </context>
 <context>
     <name>FileNames</name>
@@ -2750,6 +2756,10 @@ Ligne : %2
     <message>
         <source>%1 kann nicht geschrieben werden.</source>
         <translation>%1 ne peut pas être écrit.</translation>
+    </message>
+    <message>
+        <source>Seite</source>
+        <translation>Page</translation>
     </message>
 </context>
 <context>

@@ -724,6 +724,12 @@ Válasszon másik fájlt.</translation>
         <translation>A projekt egyetlen sora sincs a szűrőben.
 Nyissa meg ezt: „%1”, és válassza ezt: „%2”, hogy újra minden sor látsszon.</translation>
     </message>
+    <message>
+        <source>Kein Projekt hat eine Zeile im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Projekte zu sehen.</source>
+        <translation>Egyetlen projektnek sincs sora a szűrőben.
+Nyissa meg ezt: „%1”, és válassza ezt: „%2”, hogy újra minden projekt látsszon.</translation>
+    </message>
 </context>
 <context>
     <name>FileNames</name>
@@ -2696,6 +2702,10 @@ Sor: %2
     <message>
         <source>%1 kann nicht geschrieben werden.</source>
         <translation>A(z) %1 nem írható.</translation>
+    </message>
+    <message>
+        <source>Seite</source>
+        <translation>Oldal</translation>
     </message>
 </context>
 <context>

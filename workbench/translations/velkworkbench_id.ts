@@ -724,6 +724,12 @@ Harap pilih berkas lain.</translation>
         <translation>Tidak ada baris proyek ini dalam filter.
 Buka “%1” dan pilih “%2” untuk melihat semua baris lagi.</translation>
     </message>
+    <message>
+        <source>Kein Projekt hat eine Zeile im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Projekte zu sehen.</source>
+        <translation>Tidak ada proyek yang memiliki baris dalam filter.
+Buka “%1” dan pilih “%2” untuk melihat semua proyek lagi.</translation>
+    </message>
 </context>
 <context>
     <name>FileNames</name>
@@ -2696,6 +2702,10 @@ Baris: %2
     <message>
         <source>%1 kann nicht geschrieben werden.</source>
         <translation>%1 tidak dapat ditulis.</translation>
+    </message>
+    <message>
+        <source>Seite</source>
+        <translation>Halaman</translation>
     </message>
 </context>
 <context>

@@ -747,6 +747,12 @@ Scegliere un altro file.</translation>
         <translation>Nessuna riga di questo progetto è nel filtro.
 Aprire «%1» e scegliere «%2» per rivedere tutte le righe.</translation>
     </message>
+    <message>
+        <source>Kein Projekt hat eine Zeile im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Projekte zu sehen.</source>
+        <translation>Nessun progetto ha una riga nel filtro.
+Aprire «%1» e scegliere «%2» per rivedere tutti i progetti.</translation>
+    </message>
 </context>
 <context>
     <name>FileNames</name>
@@ -2750,6 +2756,10 @@ Riga: %2
     <message>
         <source>%1 kann nicht geschrieben werden.</source>
         <translation>Impossibile scrivere %1.</translation>
+    </message>
+    <message>
+        <source>Seite</source>
+        <translation>Pagina</translation>
     </message>
 </context>
 <context>

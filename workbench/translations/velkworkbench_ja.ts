@@ -724,6 +724,12 @@ Bitte eine andere Datei wählen.</source>
         <translation>このプロジェクトの行はフィルターに一つもありません。
 「%1」を開いて「%2」を選ぶと、すべての行が再び表示されます。</translation>
     </message>
+    <message>
+        <source>Kein Projekt hat eine Zeile im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Projekte zu sehen.</source>
+        <translation>フィルターに行があるプロジェクトは一つもありません。
+「%1」を開いて「%2」を選ぶと、すべてのプロジェクトが再び表示されます。</translation>
+    </message>
 </context>
 <context>
     <name>FileNames</name>
@@ -2696,6 +2702,10 @@ Zeile: %2
     <message>
         <source>%1 kann nicht geschrieben werden.</source>
         <translation>%1 に書き込めません。</translation>
+    </message>
+    <message>
+        <source>Seite</source>
+        <translation>ページ</translation>
     </message>
 </context>
 <context>

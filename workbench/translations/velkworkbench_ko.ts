@@ -724,6 +724,12 @@ Bitte eine andere Datei wählen.</source>
         <translation>이 프로젝트의 행이 필터에 하나도 없습니다.
 ‘%1’을(를) 열고 ‘%2’을(를) 선택하면 모든 행이 다시 표시됩니다.</translation>
     </message>
+    <message>
+        <source>Kein Projekt hat eine Zeile im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Projekte zu sehen.</source>
+        <translation>필터에 행이 있는 프로젝트가 하나도 없습니다.
+‘%1’을(를) 열고 ‘%2’을(를) 선택하면 모든 프로젝트가 다시 표시됩니다.</translation>
+    </message>
 </context>
 <context>
     <name>FileNames</name>
@@ -2696,6 +2702,10 @@ Zeile: %2
     <message>
         <source>%1 kann nicht geschrieben werden.</source>
         <translation>%1을(를) 쓸 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Seite</source>
+        <translation>페이지</translation>
     </message>
 </context>
 <context>

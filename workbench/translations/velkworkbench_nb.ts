@@ -747,6 +747,12 @@ Velg en annen fil.</translation>
         <translation>Ingen linje i dette prosjektet er i filteret.
 Åpne «%1» og velg «%2» for å se alle linjene igjen.</translation>
     </message>
+    <message>
+        <source>Kein Projekt hat eine Zeile im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Projekte zu sehen.</source>
+        <translation>Ingen prosjekter har en linje i filteret.
+Åpne «%1» og velg «%2» for å se alle prosjektene igjen.</translation>
+    </message>
 </context>
 <context>
     <name>FileNames</name>
@@ -2750,6 +2756,10 @@ Linje: %2
     <message>
         <source>%1 kann nicht geschrieben werden.</source>
         <translation>%1 kan ikke skrives.</translation>
+    </message>
+    <message>
+        <source>Seite</source>
+        <translation>Side</translation>
     </message>
 </context>
 <context>

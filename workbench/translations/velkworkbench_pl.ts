@@ -770,6 +770,12 @@ Wybierz inny plik.</translation>
         <translation>Żaden wiersz tego projektu nie jest w filtrze.
 Aby znów zobaczyć wszystkie wiersze, otwórz „%1” i wybierz „%2”.</translation>
     </message>
+    <message>
+        <source>Kein Projekt hat eine Zeile im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Projekte zu sehen.</source>
+        <translation>Żaden projekt nie ma wiersza w filtrze.
+Aby znów zobaczyć wszystkie projekty, otwórz „%1” i wybierz „%2”.</translation>
+    </message>
 </context>
 <context>
     <name>FileNames</name>
@@ -2804,6 +2810,10 @@ Wiersz: %2
     <message>
         <source>%1 kann nicht geschrieben werden.</source>
         <translation>Nie można zapisać %1.</translation>
+    </message>
+    <message>
+        <source>Seite</source>
+        <translation>Strona</translation>
     </message>
 </context>
 <context>

@@ -747,6 +747,12 @@ Escolha outro ficheiro.</translation>
         <translation>Nenhuma linha deste projeto está no filtro.
 Abra «%1» e escolha «%2» para voltar a ver todas as linhas.</translation>
     </message>
+    <message>
+        <source>Kein Projekt hat eine Zeile im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Projekte zu sehen.</source>
+        <translation>Nenhum projeto tem uma linha no filtro.
+Abra «%1» e escolha «%2» para voltar a ver todos os projetos.</translation>
+    </message>
 </context>
 <context>
     <name>FileNames</name>
@@ -2750,6 +2756,10 @@ Linha: %2
     <message>
         <source>%1 kann nicht geschrieben werden.</source>
         <translation>Não é possível escrever %1.</translation>
+    </message>
+    <message>
+        <source>Seite</source>
+        <translation>Página</translation>
     </message>
 </context>
 <context>

@@ -770,6 +770,12 @@ Bitte eine andere Datei wählen.</source>
         <translation>Ни одной строки этого проекта нет в фильтре.
 Откройте «%1» и выберите «%2», чтобы снова увидеть все строки.</translation>
     </message>
+    <message>
+        <source>Kein Projekt hat eine Zeile im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Projekte zu sehen.</source>
+        <translation>Ни у одного проекта нет строк в фильтре.
+Откройте «%1» и выберите «%2», чтобы снова увидеть все проекты.</translation>
+    </message>
 </context>
 <context>
     <name>FileNames</name>
@@ -2804,6 +2810,10 @@ Zeile: %2
     <message>
         <source>%1 kann nicht geschrieben werden.</source>
         <translation>%1 не удаётся записать.</translation>
+    </message>
+    <message>
+        <source>Seite</source>
+        <translation>Страница</translation>
     </message>
 </context>
 <context>

@@ -793,6 +793,12 @@ Izberite drugo datoteko.</translation>
         <translation>Nobena vrstica tega projekta ni v filtru.
 Odprite »%1« in izberite »%2«, da bodo spet vidne vse vrstice.</translation>
     </message>
+    <message>
+        <source>Kein Projekt hat eine Zeile im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Projekte zu sehen.</source>
+        <translation>Noben projekt nima vrstice v filtru.
+Odprite »%1« in izberite »%2«, da bodo spet vidni vsi projekti.</translation>
+    </message>
 </context>
 <context>
     <name>FileNames</name>
@@ -2858,6 +2864,10 @@ Vrstica: %2
     <message>
         <source>%1 kann nicht geschrieben werden.</source>
         <translation>%1 ni mogoče zapisati.</translation>
+    </message>
+    <message>
+        <source>Seite</source>
+        <translation>Stran</translation>
     </message>
 </context>
 <context>

@@ -747,6 +747,12 @@ Välj en annan fil.</translation>
         <translation>Ingen rad i det här projektet finns i filtret.
 Öppna ”%1” och välj ”%2” för att se alla rader igen.</translation>
     </message>
+    <message>
+        <source>Kein Projekt hat eine Zeile im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Projekte zu sehen.</source>
+        <translation>Inget projekt har en rad i filtret.
+Öppna ”%1” och välj ”%2” för att se alla projekt igen.</translation>
+    </message>
 </context>
 <context>
     <name>FileNames</name>
@@ -2750,6 +2756,10 @@ Rad: %2
     <message>
         <source>%1 kann nicht geschrieben werden.</source>
         <translation>%1 kan inte skrivas.</translation>
+    </message>
+    <message>
+        <source>Seite</source>
+        <translation>Sida</translation>
     </message>
 </context>
 <context>

@@ -724,6 +724,12 @@ Lütfen başka bir dosya seçin.</translation>
         <translation>Bu projenin hiçbir satırı filtrede değil.
 Tüm satırları yeniden görmek için “%1” komutunu açın ve “%2” seçeneğini seçin.</translation>
     </message>
+    <message>
+        <source>Kein Projekt hat eine Zeile im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Projekte zu sehen.</source>
+        <translation>Hiçbir projenin filtrede satırı yok.
+Tüm projeleri yeniden görmek için “%1” komutunu açın ve “%2” seçeneğini seçin.</translation>
+    </message>
 </context>
 <context>
     <name>FileNames</name>
@@ -2696,6 +2702,10 @@ Satır: %2
     <message>
         <source>%1 kann nicht geschrieben werden.</source>
         <translation>%1 yazılamıyor.</translation>
+    </message>
+    <message>
+        <source>Seite</source>
+        <translation>Sayfa</translation>
     </message>
 </context>
 <context>

@@ -724,6 +724,12 @@ Bitte eine andere Datei wählen.</source>
         <translation>此项目没有任何行在筛选中。
 打开“%1”并选择“%2”即可重新看到所有行。</translation>
     </message>
+    <message>
+        <source>Kein Projekt hat eine Zeile im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Projekte zu sehen.</source>
+        <translation>没有任何项目的行在筛选中。
+打开“%1”并选择“%2”即可重新看到所有项目。</translation>
+    </message>
 </context>
 <context>
     <name>FileNames</name>
@@ -2696,6 +2702,10 @@ Zeile: %2
     <message>
         <source>%1 kann nicht geschrieben werden.</source>
         <translation>无法写入 %1。</translation>
+    </message>
+    <message>
+        <source>Seite</source>
+        <translation>页</translation>
     </message>
 </context>
 <context>

@@ -724,6 +724,12 @@ Bitte eine andere Datei wählen.</source>
         <translation>此專案沒有任何列在篩選中。
 開啟「%1」並選擇「%2」即可重新看到所有列。</translation>
     </message>
+    <message>
+        <source>Kein Projekt hat eine Zeile im Filter.
+„%1“ öffnen und „%2“ wählen, um wieder alle Projekte zu sehen.</source>
+        <translation>沒有任何專案的列在篩選中。
+開啟「%1」並選擇「%2」即可重新看到所有專案。</translation>
+    </message>
 </context>
 <context>
     <name>FileNames</name>
@@ -2696,6 +2702,10 @@ Zeile: %2
     <message>
         <source>%1 kann nicht geschrieben werden.</source>
         <translation>無法寫入 %1。</translation>
+    </message>
+    <message>
+        <source>Seite</source>
+        <translation>頁</translation>
     </message>
 </context>
 <context>

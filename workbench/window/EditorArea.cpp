@@ -1,10 +1,8 @@
 #include "EditorArea.h"
 
-#include "KeyedActions.h"
 #include "readTablesAhead.h"
 #include "TargetProjectOpener.h"
 
-#include <gui/application/PCommandKeys.h>
 #include <mapping/view/CatalogMappingWidget.h>
 #include <workbench/session/BackgroundWork.h>
 #include <workbench/session/MappingDocument.h>
@@ -242,27 +240,19 @@ void EditorArea::filterProjects()
     if (!m_editor)
         return;
     if (!m_choice.isEmpty())
-        m_editor->setProjectFilter([choice = m_choice](const PrjMappingC &mapping) {
-            return choice.contains(ProjectId::of(mapping));
-        });
+        m_editor->setProjectFilter(
+            [choice = m_choice](const PrjMappingC &mapping) {
+                return choice.contains(ProjectId::of(mapping));
+            },
+            noProjectText());
     else if (m_kinds)
-        m_editor->setProjectFilter([kinds = m_kinds](const PrjMappingC &mapping) {
-            return OpenLines::countOf(mapping, kinds) > 0;
-        });
+        m_editor->setProjectFilter(
+            [kinds = m_kinds](const PrjMappingC &mapping) {
+                return OpenLines::countOf(mapping, kinds) > 0;
+            },
+            noProjectText());
     else
         m_editor->setProjectFilter({});
-}
-
-QString EditorArea::noLineText()
-{
-    QString command = QCoreApplication::translate("WorkbenchActions", "Filter über alle Zeilen");
-    if (const QString key = PCommandKeys::instance().keyText(QStringLiteral("reviewFilter"));
-        !key.isEmpty())
-        command += QStringLiteral(" (%1)").arg(key);
-    return tr("Keine Zeile dieses Projekts ist im Filter.\n„%1“ öffnen und „%2“ wählen, um wieder "
-              "alle Zeilen zu sehen.")
-        .arg(command,
-             KeyedActions::plain(QCoreApplication::translate("FilterDock", "Filter au&fheben")));
 }
 
 void EditorArea::filterLines()

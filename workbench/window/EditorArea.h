@@ -127,8 +127,11 @@ private:
     void showChanges();
     void filterProjects();
     void filterLines();
-    /// For a table without a line in the filter.
+    /// For a table without a line in the filter, and for a tree without a project.
     [[nodiscard]] static QString noLineText();
+    [[nodiscard]] static QString noProjectText();
+    /// \a text with the command that opens the filter and the one that lifts it.
+    [[nodiscard]] static QString liftingText(const QString &text);
     [[nodiscard]] bool goToProject(const QString &path, const QString &version);
 
     QVBoxLayout *const m_layout;

@@ -1,32 +1,22 @@
 #pragma once
 
-#include <QLabel>
-
-QT_BEGIN_NAMESPACE
-class QAbstractItemView;
-QT_END_NAMESPACE
+#include <gui/views/EmptyViewLabel.h>
 
 class VkTableModel;
 
-/// Over a grid while a filter leaves no line of its table: why it is empty and what to do. Clicks
-/// go through to the grid.
-class EmptyTableLabel : public QLabel
+/// Over a grid while a filter leaves no line of its table.
+class EmptyTableLabel : public EmptyViewLabel
 {
     Q_OBJECT
 
 public:
+    /// \a grid shows \a model.
     EmptyTableLabel(QAbstractItemView *grid, const VkTableModel *model);
-
-    /// Plain text; nothing is shown for an empty one.
-    void tell(const QString &text);
+    ~EmptyTableLabel() override;
 
 protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
+    [[nodiscard]] bool isEmpty() const override;
 
 private:
-    void refresh();
-    void place();
-
-    const QAbstractItemView *m_grid;
-    const VkTableModel *m_model;
+    const VkTableModel *const m_table;
 };

@@ -313,12 +313,19 @@ void tst_FilterDock::nothingFits()
              QString("Keine Zeile dieses Projekts ist im Filter.\n„Filter über alle Zeilen (%1)“ "
                      "öffnen und „Filter aufheben“ wählen, um wieder alle Zeilen zu sehen.")
                  .arg(QKeySequence("Ctrl+L").toString(QKeySequence::NativeText)));
+    const auto *const emptyTree = fixture.window->findChild<QLabel *>("emptyTree");
+    QVERIFY(emptyTree->isVisible());
+    QVERIFY2(emptyTree->text().startsWith("Kein Projekt hat eine Zeile im Filter.\n„Filter über "
+                                          "alle Zeilen (") &&
+                 emptyTree->text().contains("„Filter aufheben“ wählen"),
+             qPrintable(emptyTree->text()));
     fixture.press(Qt::Key_F8);
     QCOMPARE(fixture.window->status()->note(), "Keine Zeile ist mehr im Filter");
     // It can be taken away where it stands.
     tick(fixture, LineTrait::Author, "nobody of this name");
     QVERIFY(!fixture.window->editor()->shownLines().isEmpty());
     QVERIFY(!empty->isVisible());
+    QVERIFY(!emptyTree->isVisible());
 }
 
 void tst_FilterDock::isKept()
