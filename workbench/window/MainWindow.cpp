@@ -177,6 +177,8 @@ void MainWindow::connectParts()
     connect(m_editor, &EditorArea::conditionCopied, m_lines, &LineCommands::tellCondition);
     connect(m_states, &LineStateFilter::kindsChanged, this, &MainWindow::onLineKindsChanged);
     connect(m_filters, &FilterCommands::noted, this, note);
+    connect(m_filters, &FilterCommands::numbersChanged, this, &MainWindow::dropNoLineNote);
+    connect(m_editor, &EditorArea::projectSelected, this, &MainWindow::dropNoLineNote);
     connect(m_filters, &FilterCommands::numbersChanged, m_counterTimer,
             qOverload<>(&QTimer::start));
     connect(m_remote, &RemoteCatalogs::told, this,
@@ -207,15 +209,6 @@ void MainWindow::showErpNumbers()
     const bool isConnected = PLinkDbC::instance()->isOpen();
     m_erpNumbers->attach(isConnected ? m_editor->sourceTable() : VKTab::ContentRef(),
                          m_editor->currentPath());
-}
-
-void MainWindow::onLineKindsChanged()
-{
-    const OpenLines::Kinds kinds = m_states->kinds();
-    if (!kinds || !m_editor->shownLines().isEmpty())
-        return;
-    const QString next = PCommandKeys::instance().keyText(QStringLiteral("goNext"));
-    m_status->showNote(tr("Hier ist keine solche Zeile. %1 geht zur nächsten.").arg(next));
 }
 
 void MainWindow::showOnScreen()

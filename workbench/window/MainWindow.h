@@ -99,6 +99,8 @@ private:
     void onDocumentClosed();
     void onStepDone(const QString &text, int lines);
     void onLineKindsChanged();
+    [[nodiscard]] bool isWithoutSuchLine() const;
+    void dropNoLineNote();
     void updateState();
     void updateTitle();
     void updateCounter();
@@ -148,5 +150,6 @@ private:
     /// Counting the projects walks all of them: once for a burst of changes.
     QTimer *const m_counterTimer;
     QString m_language;
+    QString m_noLineNote; ///< as long as it may be in the status bar
     std::unique_ptr<PMessageSinkScope> m_messages;
 };

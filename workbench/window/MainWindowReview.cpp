@@ -2,7 +2,9 @@
 #include "ConflictCommands.h"
 #include "DockRoom.h"
 #include "DocumentDesk.h"
+#include "EditorArea.h"
 #include "FilterCommands.h"
+#include "LineStateFilter.h"
 #include "LogWindow.h"
 #include "MainWindow.h"
 #include "NeighbourCommands.h"
@@ -13,6 +15,7 @@
 #include "StatusArea.h"
 #include "WorkbenchActions.h"
 
+#include <gui/application/PCommandKeys.h>
 #include <workbench/review/ConflictDock.h>
 #include <workbench/review/DifferencePanel.h>
 #include <workbench/review/FilterDock.h>
@@ -124,4 +127,25 @@ void MainWindow::connectReview()
     connect(m_review, &ReviewCommands::done, this, showStep);
     connect(m_neighbours, &NeighbourCommands::noted, this, showNote);
     connect(m_neighbours, &NeighbourCommands::done, this, showStep);
+}
+
+void MainWindow::onLineKindsChanged()
+{
+    if (!isWithoutSuchLine())
+        return dropNoLineNote();
+    const QString next = PCommandKeys::instance().keyText(QStringLiteral("goNext"));
+    m_noLineNote = tr("Hier ist keine solche Zeile. %1 geht zur nächsten.").arg(next);
+    m_status->showNote(m_noLineNote);
+}
+
+bool MainWindow::isWithoutSuchLine() const
+{
+    return m_states->kinds() && m_editor->shown().rows == 0;
+}
+
+/// The filter was lifted, or there are such lines by now.
+void MainWindow::dropNoLineNote()
+{
+    if (!m_noLineNote.isEmpty() && !isWithoutSuchLine())
+        m_status->dropNote(std::exchange(m_noLineNote, QString()));
 }

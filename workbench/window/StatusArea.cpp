@@ -42,6 +42,12 @@ void StatusArea::showNote(const QString &text, bool undoable)
     writeNote();
 }
 
+void StatusArea::dropNote(const QString &text)
+{
+    if (m_noteText == text)
+        showNote(QString());
+}
+
 void StatusArea::dropUndo()
 {
     m_undoable = false;

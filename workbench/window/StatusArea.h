@@ -17,6 +17,8 @@ public:
     /// Stays until the next one. With \a undoable a link offers to take it back.
     void showNote(const QString &text, bool undoable = false);
     [[nodiscard]] QString note() const { return m_noteText; }
+    /// If \a text is still the note, there is none any more.
+    void dropNote(const QString &text);
     /// The last note cannot be taken back any more.
     void dropUndo();
     /// Lines that need a decision and the projects that have them; negative: nothing is open.

@@ -19,6 +19,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QMenu>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QToolBar>
 #include <QToolButton>
@@ -105,6 +106,9 @@ private Q_SLOTS:
     void staysWhenTheEditorIsMadeAnew();
     void goesWithTheDocument();
     void anEmptyTableIsTold();
+    void whatIsToldOfATableGoesWithIt_data();
+    void whatIsToldOfATableGoesWithIt();
+    void whatIsToldOfATableGoesWithTheFilter();
     void namesItselfInQuestions();
     void columnFiltersStillHoldTheWalk();
     void english();
@@ -344,12 +348,54 @@ void tst_LineStateFilter::anEmptyTableIsTold()
     QCOMPARE(shownLines(fixture), QString());
     QCOMPARE(fixture.window->status()->note(),
              QStringLiteral("Hier ist keine solche Zeile. F8 geht zur nächsten."));
-    fixture.window->status()->showNote(QString());
     click(fixture, "stateToCheck");
     QCOMPARE(fixture.window->status()->note(), QString());
     QVERIFY(fixture.window->editor()->selectProject(din933));
     click(fixture, "stateToCheck");
     QCOMPARE(fixture.window->status()->note(), QString());
+}
+
+/// It is said of a table, as long as that is so.
+void tst_LineStateFilter::whatIsToldOfATableGoesWithIt_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::addColumn<bool>("isStill");
+    QTest::newRow("to the next one") << Qt::Key_F8 << false;
+    QTest::newRow("in the table") << Qt::Key_Down << true;
+}
+
+void tst_LineStateFilter::whatIsToldOfATableGoesWithIt()
+{
+    QFETCH(Qt::Key, key);
+    QFETCH(bool, isStill);
+    WindowFixture fixture;
+    fixture.open(fixture.mappingFile());
+    QVERIFY(fixture.window->editor()->selectProject(equal));
+    click(fixture, "stateNotFound");
+    const QString told = fixture.window->status()->note();
+    QVERIFY2(told.startsWith("Hier ist keine"), qPrintable(told));
+    fixture.press(key);
+    QCOMPARE(fixture.window->editor()->currentPath() == equal, isStill);
+    QCOMPARE(fixture.window->status()->note() == told, isStill);
+}
+
+void tst_LineStateFilter::whatIsToldOfATableGoesWithTheFilter()
+{
+    WindowFixture fixture;
+    fixture.open(fixture.mappingFile());
+    QVERIFY(fixture.window->editor()->selectProject(equal));
+    click(fixture, "stateToCheck");
+    QVERIFY(fixture.window->status()->note().startsWith("Hier ist keine"));
+    fixture.press(Qt::Key_L, Qt::ControlModifier);
+    auto *const lift = fixture.window->findChild<QPushButton *>("FilterClear");
+    QTest::mouseClick(lift, Qt::LeftButton);
+    QVERIFY(!fixture.action("stateToCheck")->isChecked());
+    QCOMPARE(fixture.window->status()->note(), QString());
+    // What was said since stays.
+    click(fixture, "stateToCheck");
+    fixture.window->status()->showNote("something else");
+    click(fixture, "stateToCheck");
+    QCOMPARE(fixture.window->status()->note(), QStringLiteral("something else"));
 }
 
 void tst_LineStateFilter::namesItselfInQuestions()
