@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 
 #include <memory>
 #include <sys/stat.h>
@@ -44,6 +45,8 @@ private Q_SLOTS:
     void tableVersionCanBeUndone();
     void directoriesShowUndoneStates();
     void markingConflictsIsNoStep();
+    void loopRunsWhileAReleaseIsReplaced_data();
+    void loopRunsWhileAReleaseIsReplaced();
     void replacesTheRelease();
     void countsFollowEveryChange();
 };
@@ -281,6 +284,47 @@ void tst_MappingDocumentSteps::markingConflictsIsNoStep()
     QVERIFY(target.getLineConflicted(4));
     QCOMPARE(target.getMappedLine(1).getState(), PRJMAPPING::ToCheck);
     QVERIFY(m_document->isModified());
+}
+
+/// A large one is worked through beside the loop, in which nothing may change it.
+void tst_MappingDocumentSteps::loopRunsWhileAReleaseIsReplaced_data()
+{
+    QTest::addColumn<bool>("byUndo");
+    QTest::newRow("replaced") << false;
+    QTest::newRow("undone") << true;
+}
+
+void tst_MappingDocumentSteps::loopRunsWhileAReleaseIsReplaced()
+{
+    QFETCH(bool, byUndo);
+    open();
+    const ReleaseMappingC small = m_document->release();
+    ReleaseMappingC large = small;
+    for (int i = 0; i < 50000; ++i)
+        large.addMapping(
+            SessionFixture::plainMapping(QStringLiteral("cat/d%1/p%2.prj").arg(i % 7).arg(i), 1));
+    if (byUndo) {
+        m_document->replaceRelease(large, QStringLiteral("..."));
+        m_document->replaceRelease(small, QStringLiteral("..."));
+    }
+    QSignalSpy replaced(m_document.get(), &MappingDocument::releaseReplaced);
+    QSignalSpy problems(m_document.get(), &MappingDocument::problemOccurred);
+    bool isServed = false;
+    QTimer::singleShot(0, this, [&] {
+        isServed = replaced.isEmpty();
+        m_document->updateMapping(
+            SessionFixture::withState(m_document->mapping(projectId(Path)), {1}, 2));
+    });
+    if (byUndo)
+        m_document->undo();
+    else
+        m_document->replaceRelease(large, QStringLiteral("..."));
+    QVERIFY(isServed);
+    QCOMPARE(replaced.size(), 1);
+    QCOMPARE(SessionFixture::bytes(m_document->mapping(projectId(Path))),
+             SessionFixture::bytes(large.findMapping(Path, projectId(Path).version, QString())));
+    QTRY_COMPARE(problems.size(), 1); // the change was refused, and that is told
+    QCOMPARE(m_document->release().countMappings(), large.countMappings());
 }
 
 void tst_MappingDocumentSteps::replacesTheRelease()

@@ -10,6 +10,7 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QScopedValueRollback>
 #include <QScopeGuard>
 #include <QThreadPool>
 
@@ -184,10 +185,7 @@ OpenResult MappingDocumentPrivate::begin(const ReleaseMappingC &release, const Q
     rootName = name.isEmpty()
                    ? QStringLiteral("%1 → %2").arg(release.getSourceDate(), release.getTargetDate())
                    : name;
-    PreparedRelease prepared;
-    BackgroundWork::run(QCoreApplication::translate("DocumentFile", "%1 wird gelesen")
-                            .arg(QFileInfo(file.path()).fileName()),
-                        [&] { prepared = PreparedRelease::of(release, rootName, file.path()); });
+    PreparedRelease prepared = prepare(release);
     roots = CatalogRootMemory(settings).roots(file.path());
     m_wasModified = false;
     lastAutosave = QDateTime();
@@ -235,6 +233,18 @@ StepRecorder::Opening MappingDocumentPrivate::opening() const
 {
     const ReleaseMappingC now = release();
     return {now.getSourceDate(), now.getTargetDate(), file.known().hash};
+}
+
+/// On another thread, while the loop of this one runs.
+PreparedRelease MappingDocumentPrivate::prepare(const ReleaseMappingC &release)
+{
+    PreparedRelease prepared;
+    const QScopedValueRollback refusing(m_saving, true); // events come meanwhile
+    BackgroundWork::run(
+        QCoreApplication::translate("DocumentFile", "%1 wird gelesen")
+            .arg(QFileInfo(file.path()).fileName()),
+        [&, path = file.path()] { prepared = PreparedRelease::of(release, rootName, path); });
+    return prepared;
 }
 
 void MappingDocumentPrivate::adoptRelease(PreparedRelease &&prepared)

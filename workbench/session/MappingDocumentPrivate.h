@@ -79,6 +79,7 @@ private:
                                       bool isNew = false);
     void beginJournal();
     void tellJournal();
+    [[nodiscard]] PreparedRelease prepare(const ReleaseMappingC &release);
     void adoptRelease(PreparedRelease &&prepared);
     [[nodiscard]] StepRecorder::Opening opening() const;
 

@@ -87,7 +87,7 @@ void MappingDocumentPrivate::replaceRelease(const ReleaseMappingC &given)
 
 void MappingDocumentPrivate::applyRelease(const ReleaseMappingC &given)
 {
-    adoptRelease(PreparedRelease::of(given, rootName, file.path()));
+    adoptRelease(prepare(given));
     Q_EMIT q->releaseReplaced();
 }
 
