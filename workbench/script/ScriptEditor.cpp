@@ -157,6 +157,13 @@ bool ScriptEditor::mayDrop()
                          QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
     question.setObjectName("scriptUnsaved");
     question.setDefaultButton(QMessageBox::Save);
+    // Qt does not have them in each of the languages.
+    question.button(QMessageBox::Save)
+        ->setText(QCoreApplication::translate("DocumentDesk", "&Speichern"));
+    question.button(QMessageBox::Discard)
+        ->setText(QCoreApplication::translate("DocumentDesk", "&Verwerfen"));
+    question.button(QMessageBox::Cancel)
+        ->setText(QCoreApplication::translate("Question", "Abbrechen"));
     switch (question.exec()) {
     case QMessageBox::Save:
         return save();

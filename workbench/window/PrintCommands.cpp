@@ -1,6 +1,7 @@
 #include "PrintCommands.h"
 
 #include "EditorArea.h"
+#include "PreviewAccess.h"
 #include "Question.h"
 #include "ReleaseCommands.h"
 
@@ -61,6 +62,7 @@ void PrintCommands::run(const QString &title, bool isWide,
     QPrintPreviewDialog dialog(&printer, m_window);
     dialog.setObjectName(QStringLiteral("PrintPreview"));
     dialog.setWindowTitle(tr("Drucken: %1").arg(title));
+    PreviewAccess::name(dialog, title, tr("Seite"));
     dialog.resize(m_window->size() * previewPart);
     bool isPainted = true;
     connect(&dialog, &QPrintPreviewDialog::paintRequested, this,

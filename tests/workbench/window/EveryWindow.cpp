@@ -3,10 +3,13 @@
 #include "ModalScript.h"
 #include "WindowFixture.h"
 
+#include <core/message/PMessage.h>
 #include <formula/DlgFormulaEditor.h>
 #include <geomcore/linkdb/PLinkDbC.h>
+#include <geomcore/records/MappingFile.h>
 #include <geomcore/records/ReleaseMappingC.h>
 #include <geomcoregui/table/VkTableView.h>
+#include <gui/application/PApplicationPool.h>
 #include <selection/dlgSearchSelect.h>
 #include <workbench/locator/LocatorDialog.h>
 #include <workbench/locator/LocatorSearch.h>
@@ -22,6 +25,7 @@
 #include <workbench/window/ImportDialog.h>
 #include <workbench/window/LegendDialog.h>
 #include <workbench/window/LineCommands.h>
+#include <workbench/window/LinkDbHost.h>
 #include <workbench/window/LinkDbLoginDialog.h>
 #include <workbench/window/LinkListDialog.h>
 #include <workbench/window/LinkProofDialog.h>
@@ -42,7 +46,12 @@
 #include <QAction>
 #include <QDir>
 #include <QDockWidget>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
 #include <QTableView>
+#include <QTimer>
+#include <QToolButton>
 
 namespace {
 
@@ -148,6 +157,148 @@ void showCarrying(WindowFixture &fixture, const std::function<void(QWidget *)> &
                });
 }
 
+/// Of the dialog that opens when somebody does that; it is called off.
+void showOne(const std::function<void()> &act, const std::function<void(QWidget *)> &look)
+{
+    showInTurn(act, 1, [&](QWidget *dialog, int) {
+        look(dialog);
+        dialog->close();
+    });
+}
+
+/// Which release of a file with several; what is open stays open.
+void showReleases(WindowFixture &fixture, const std::function<void(QWidget *)> &look)
+{
+    openMapping(fixture);
+    const QString file = fixture.mappingFile("releases.json");
+    MappingFile mapping;
+    QVERIFY(mapping.read(file));
+    ReleaseMappingC older;
+    older.setSourceDate("2019-01-01T00:00:00Z");
+    older.setTargetDate("2020-01-01T00:00:00Z");
+    mapping.setRelease(older);
+    QVERIFY(mapping.write(file));
+    showOne([&] { QVERIFY(!fixture.window->desk()->open({.file = file})); }, look);
+}
+
+void showGroups(WindowFixture &fixture, const std::function<void(QWidget *)> &look)
+{
+    WorkbenchSettings::Values values = fixture.settings->values();
+    values.linkDb = "sqlite:" + fixture.directory.filePath("link.db");
+    fixture.settings->setValues(values);
+    QTRY_COMPARE(fixture.window->linkDb()->state(), LinkDbHost::Connected);
+    showOne([] { PApplicationPool::instance().action("LinkDbChangeGroup")->trigger(); }, look);
+}
+
+/// The pages of the table and of the report, and where they are printed to.
+void showPrinting(WindowFixture &fixture, const std::function<void(QWidget *)> &look)
+{
+    openMapping(fixture);
+    showOne([&] { fixture.action("filePrintReport")->trigger(); }, look);
+    ModalScript script;
+    script.then([&](QWidget *preview) {
+        look(preview);
+        const QString print = QCoreApplication::translate("QPrintPreviewDialog", "Print");
+        for (QAction *const action : preview->findChildren<QAction *>()) {
+            if (action->text() == print)
+                QTimer::singleShot(0, action, &QAction::trigger);
+        }
+    });
+    script.then([&](QWidget *dialog) {
+        look(dialog);
+        dialog->close();
+    });
+    script.then([](QWidget *preview) { preview->close(); });
+    fixture.action("filePrint")->trigger();
+    QVERIFY(script.isDone());
+}
+
+/// Whether to keep what was changed, that others changed it too, and that it was discarded.
+void showUnsaved(WindowFixture &fixture, const std::function<void(QWidget *)> &look)
+{
+    openMapping(fixture);
+    DocumentDesk *const desk = fixture.window->desk();
+    const QString file = desk->document()->mappingFile();
+    fixture.press(Qt::Key_V);
+    QTRY_VERIFY(desk->document()->isModified());
+    showOne([&] { QVERIFY(!desk->close()); }, look);
+    MappingFile theirs;
+    QVERIFY(theirs.read(file));
+    ReleaseMappingC changed = theirs.releases().first();
+    changed.setTargetDate("2030-01-01T00:00:00Z");
+    theirs.setRelease(changed);
+    QVERIFY(theirs.write(file));
+    showOne([&] { QVERIFY(!desk->save()); }, look);
+    showInTurn(
+        [&] { QVERIFY(desk->close()); }, 1,
+        [](QWidget *dialog, int) { dialog->findChild<QPushButton *>("answerRefuse")->click(); });
+    (void)fixture.mappingFile(); // as it was
+}
+
+/// Opened for reading, as somebody else has it.
+void showLocked(WindowFixture &fixture, const std::function<void(QWidget *)> &look)
+{
+    DocumentDesk *const desk = fixture.window->desk();
+    const QString file = fixture.mappingFile("locked.json");
+    MappingDocument other;
+    QCOMPARE(other.open({.mappingFile = file, .sourceDate = {}, .rootName = {}}),
+             MappingDocument::OpenResult::Opened);
+    showOne([&] { QVERIFY(desk->open({.file = file, .roots = WindowFixture::roots()})); }, look);
+    QVERIFY(desk->close());
+}
+
+/// What a script or a library asks.
+void showMessage(WindowFixture & /*fixture*/, const std::function<void(QWidget *)> &look)
+{
+    showOne([] { (void)PMessage::Show("M8 x 40", PMsgDlgMode::YesNoCancel); }, look);
+    showOne([] { (void)PMessage::Show("M8 x 40", PMsgDlgMode::OkCancel); }, look);
+}
+
+/// That the script is not saved, and which one to open instead.
+void showScripts(WindowFixture &fixture, const std::function<void(QWidget *)> &look)
+{
+    ScriptEditor editor(fixture.window.get());
+    editor.show();
+    auto *const text = editor.findChild<QPlainTextEdit *>("scriptText");
+    QTest::keyClicks(text, "print(1)");
+    const auto click = [&](const char *name) {
+        QTest::mouseClick(editor.findChild<QPushButton *>(name), Qt::LeftButton);
+    };
+    showOne([&] { click("openScript"); }, look);
+}
+
+/// Which script to open, and where to save one.
+void showScriptFiles(WindowFixture &fixture, const std::function<void(QWidget *)> &look)
+{
+    ScriptEditor editor(fixture.window.get());
+    editor.show();
+    for (const char *const name : {"openScript", "saveScript"}) {
+        auto *const button = editor.findChild<QPushButton *>(name);
+        showOne([&] { QTest::mouseClick(button, Qt::LeftButton); }, look);
+    }
+}
+
+/// That the new mapping's file is there already.
+void showTaken(WindowFixture &fixture, const std::function<void(QWidget *)> &look)
+{
+    const QString file = fixture.mappingFile("taken.json");
+    NewMappingDialog dialog(fixture.settings->store(), nullptr);
+    dialog.findChild<QLineEdit *>("sourceRoot")->setText(WindowFixture::roots().source);
+    dialog.findChild<QLineEdit *>("targetRoot")->setText(WindowFixture::roots().target);
+    dialog.findChild<QLineEdit *>("mappingFile")->setText(file);
+    dialog.show();
+    showOne([&] { dialog.accept(); }, look);
+}
+
+/// Which folder a catalog is in.
+void showFolders(WindowFixture &fixture, const std::function<void(QWidget *)> &look)
+{
+    NewMappingDialog dialog(fixture.settings->store(), nullptr);
+    dialog.show();
+    auto *const button = dialog.findChild<QToolButton *>();
+    showOne([&] { button->click(); }, look);
+}
+
 RecoveryOffer fullOffer()
 {
     RecoveryOffer offer;
@@ -159,12 +310,12 @@ RecoveryOffer fullOffer()
 
 } // namespace
 
-void EveryWindow::addRows()
+void EveryWindow::addRows(bool withThoseOfQt)
 {
     QTest::addColumn<Show>("show");
     const QList<Window> windows = all();
     for (const Window &window : windows) {
-        if (!window.isOfQt)
+        if (!window.isOfQt || withThoseOfQt)
             QTest::newRow(window.name.constData()) << window.show;
     }
 }
@@ -254,9 +405,22 @@ QList<EveryWindow::Window> EveryWindow::all()
     row("sample", showSample);
     row("sharing", showSharing);
     row("carrying", showCarrying);
+    row("release", showReleases);
+    row("group", showGroups);
+    row("unsaved", showUnsaved);
+    row("locked", showLocked);
+    row("message", showMessage);
+    row("unsaved script", showScripts);
+    row("taken file", showTaken);
     for (const char *const command :
          {"fileOpen", "fileSaveAs", "fileExport", "fileReport", "carryDecisions", "shareWith"}) {
         row(command, byCommand(command));
+        windows.last().isOfQt = true;
+    }
+    for (const auto &[name, show] : {std::pair("printing", Show(showPrinting)),
+                                     {"script files", Show(showScriptFiles)},
+                                     {"folder", Show(showFolders)}}) {
+        row(name, show);
         windows.last().isOfQt = true;
     }
     return windows;

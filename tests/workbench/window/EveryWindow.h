@@ -26,8 +26,8 @@ struct Window
 /// All of them. A mapping that is open already is not opened again, so that one fixture can show
 /// them one after another.
 [[nodiscard]] QList<Window> all();
-/// A row each, with the column "show"; without the dialogs of Qt.
-void addRows();
+/// A row each, with the column "show".
+void addRows(bool withThoseOfQt = false);
 
 } // namespace EveryWindow
 

@@ -18,6 +18,7 @@
 #include <QCompleter>
 #include <QDialog>
 #include <QFile>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QPushButton>
@@ -237,6 +238,10 @@ void tst_Scripts::editorRuns()
     ModalScript user;
     user.then([&user](QWidget *dialog) {
         user.note(dialog);
+        QStringList answers;
+        for (const QAbstractButton *const button : qobject_cast<QMessageBox *>(dialog)->buttons())
+            answers += button->text();
+        QCOMPARE(answers, QStringList({"&Speichern", "&Verwerfen", "Abbrechen"}));
         QTest::keyClick(dialog, Qt::Key_Escape);
     });
     QVERIFY(!editor->close());
