@@ -6,6 +6,7 @@
 #include <core/message/PScriptedMessageSink.h>
 #include <geomcore/records/MappingFile.h>
 #include <geomcoregui/table/VkTableView.h>
+#include <release/import/FolderImport.h>
 #include <workbench/review/NeighbourDock.h>
 #include <workbench/review/PatternDock.h>
 #include <workbench/review/PatternModel.h>
@@ -20,6 +21,8 @@
 
 #include <QTest>
 #include <QTreeView>
+
+#include <algorithm>
 
 namespace {
 
@@ -55,6 +58,14 @@ public:
     [[nodiscard]] int keys() const { return m_keys; }
     [[nodiscard]] int decisions() const { return m_decisions; }
     [[nodiscard]] int openLines() const { return window->lines()->openLines().count(); }
+    [[nodiscard]] OpenLines::Kind currentKind() const
+    {
+        const EditorArea *const editor = window->editor();
+        return window->lines()
+            ->openLines()
+            .kindOf({editor->currentProject(), editor->currentLine()})
+            .value_or(OpenLines::Proposed);
+    }
     [[nodiscard]] ReviewCommands *review() const { return window->review(); }
     [[nodiscard]] MappingDocument *document() const { return window->desk()->document(); }
 
@@ -62,6 +73,28 @@ private:
     int m_keys = 0;
     int m_decisions = 0;
 };
+
+void importTables(const QString &tables, const QString &root, const QString &date)
+{
+    VelkRelease::ImportOptions options;
+    options.date = date;
+    options.root = root + QStringLiteral("/parts");
+    VelkRelease::FolderImport import(tables, options, {});
+    QCOMPARE(import.run(), VelkRelease::FolderImport::Outcome::Done);
+}
+
+void makeMapping(const CatalogRoots &roots, const QString &catalog, const QString &file)
+{
+    const PMessageSinkScope silence(std::make_shared<PScriptedMessageSink>());
+    MappingMaker maker;
+    QVERIFY(maker.make({.sourceRoot = roots.source,
+                        .targetRoot = roots.target,
+                        .sourceCatalog = catalog,
+                        .targetCatalog = catalog}));
+    MappingFile mapping;
+    mapping.setRelease(maker.release());
+    QVERIFY(mapping.write(file));
+}
 
 /// A catalog in two releases, made by rules: tables of a folder change alike, as they do between
 /// two editions of a standard, and what became of each line is known.
@@ -79,15 +112,7 @@ public:
             for (int table = 0; table < Tables; ++table)
                 addTable(folder, table);
         }
-        const PMessageSinkScope silence(std::make_shared<PScriptedMessageSink>());
-        MappingMaker maker;
-        QVERIFY(maker.make({.sourceRoot = m_old.root(),
-                            .targetRoot = m_now.root(),
-                            .sourceCatalog = "parts",
-                            .targetCatalog = "parts"}));
-        MappingFile mapping;
-        mapping.setRelease(maker.release());
-        QVERIFY(mapping.write(file()));
+        makeMapping(roots(), "parts", file());
     }
 
     [[nodiscard]] QString file() const { return m_old.root() + QStringLiteral("/../m.json"); }
@@ -188,6 +213,8 @@ private Q_SLOTS:
     void settledByKeys();
     void thousandsOfOpenLines();
     void aHundredDecisions();
+    void aHundredDecisionsOnTables_data();
+    void aHundredDecisionsOnTables();
 };
 
 void tst_WholeRelease::settledByKeys()
@@ -253,6 +280,50 @@ void tst_WholeRelease::thousandsOfOpenLines()
     }
     QCOMPARE(lines, 7 * MadeRelease::Tables * MadeRelease::Lines);
     QCOMPARE(confirmed, open);
+}
+
+/// VELK_SAMPLE_OLD and VELK_SAMPLE_NEW name folders of CSV tables for one more row.
+void tst_WholeRelease::aHundredDecisionsOnTables_data()
+{
+    QTest::addColumn<QString>("oldTables");
+    QTest::addColumn<QString>("newTables");
+    QTest::newRow("made by rules") << QString() << QString();
+    const QString oldTables = qEnvironmentVariable("VELK_SAMPLE_OLD");
+    const QString newTables = qEnvironmentVariable("VELK_SAMPLE_NEW");
+    if (!oldTables.isEmpty() && !newTables.isEmpty())
+        QTest::newRow("given tables") << oldTables << newTables;
+}
+
+/// What has a proposal is confirmed; a line without one has no successor.
+void tst_WholeRelease::aHundredDecisionsOnTables()
+{
+    QFETCH(QString, oldTables);
+    QFETCH(QString, newTables);
+    const QTemporaryDir directory;
+    std::unique_ptr<Modeller> modeller;
+    if (oldTables.isEmpty()) {
+        const MadeRelease made(directory.path());
+        modeller = std::make_unique<Modeller>(made.file(), made.roots());
+    } else {
+        const CatalogRoots roots{directory.filePath("old"), directory.filePath("new")};
+        importTables(oldTables, roots.source, "2021-12-31T12:00:00Z");
+        importTables(newTables, roots.target, "2026-06-30T12:00:00Z");
+        makeMapping(roots, "parts", directory.filePath("m.json"));
+        modeller = std::make_unique<Modeller>(directory.filePath("m.json"), roots);
+    }
+    const int wanted = std::min(100, modeller->openLines());
+    modeller->key(Qt::Key_F8);
+    while (modeller->decisions() < wanted && modeller->keys() < 2 * wanted) {
+        const bool isWithout = modeller->currentKind() == OpenLines::NotFound;
+        (void)modeller->decide(isWithout ? Qt::Key_X : Qt::Key_V,
+                               isWithout ? Qt::ControlModifier : Qt::NoModifier);
+        // Every tenth line is left for later.
+        if (modeller->decisions() % 10 == 9)
+            modeller->key(Qt::Key_F8);
+    }
+    qInfo("%d decisions, %d keys", modeller->decisions(), modeller->keys());
+    QCOMPARE(modeller->decisions(), wanted);
+    QVERIFY2(modeller->keys() * 10 <= wanted * 13, qPrintable(QString::number(modeller->keys())));
 }
 
 void tst_WholeRelease::aHundredDecisions()
