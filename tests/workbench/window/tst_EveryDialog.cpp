@@ -6,7 +6,11 @@
 #include <workbench/window/MainWindow.h>
 
 #include <QAccessible>
+#include <QDirIterator>
 #include <QDockWidget>
+#include <QRegularExpression>
+#include <QSet>
+#include <TestPaths.h>
 
 class tst_EveryDialog : public QObject
 {
@@ -21,6 +25,7 @@ private Q_SLOTS:
     void controlsHaveNameRoleAndFocus() { check(&ControlCheck::access); }
     void fitsASmallScreen_data() { EveryWindow::addRows(); }
     void fitsASmallScreen();
+    void noneIsMissing();
 
 private:
     static void check(QStringList (*faultsOf)(const QWidget &))
@@ -56,6 +61,42 @@ void tst_EveryDialog::fitsASmallScreen()
         QVERIFY2(least.width() <= 950 && least.height() <= 560,
                  qPrintable(QStringLiteral("%1 x %2").arg(least.width()).arg(least.height())));
     });
+}
+
+/// Every class of a dialog and every name of one that the sources have.
+void tst_EveryDialog::noneIsMissing()
+{
+    QSet<QString> shown;
+    WindowFixture fixture;
+    for (const EveryWindow::Window &window : EveryWindow::all()) {
+        if (window.isMainWindow)
+            continue;
+        window.show(fixture, [&shown](const QWidget *widget) {
+            shown += widget->objectName();
+            for (const QMetaObject *meta = widget->metaObject(); meta; meta = meta->superClass())
+                shown += QLatin1String(meta->className());
+        });
+    }
+    static const QRegularExpression dialog(
+        QStringLiteral("class (\\w+) : public \\w*Dialog\\b|"
+                       "\\bdialog\\.setObjectName\\((?:QStringLiteral\\()?\"(\\w+)\""));
+    QSet<QString> missing;
+    int found = 0;
+    QDirIterator sources(QStringLiteral(VELK_SOURCE_DIR "/workbench"), {"*.h", "*.cpp"},
+                         QDir::Files, QDirIterator::Subdirectories);
+    while (sources.hasNext()) {
+        QFile file(sources.next());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString text = QString::fromUtf8(file.readAll());
+        for (const QRegularExpressionMatch &match : dialog.globalMatch(text)) {
+            const QString name = match.captured(1) + match.captured(2);
+            ++found;
+            if (!shown.contains(name))
+                missing += name;
+        }
+    }
+    QVERIFY2(found > 20, qPrintable(QString::number(found)));
+    QVERIFY2(missing.isEmpty(), qPrintable(QStringList(missing.values()).join(u' ')));
 }
 
 QTEST_MAIN(tst_EveryDialog)
