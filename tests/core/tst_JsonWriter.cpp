@@ -153,6 +153,68 @@ private Q_SLOTS:
         QCOMPARE(device.data(), collected.take());
     }
 
+    // Neither the place of a value nor its size makes a difference to what comes around it.
+    void valuesThatOthersSeeOrPut_data()
+    {
+        QTest::addColumn<bool>("member");
+        QTest::addColumn<int>("rows");
+        QTest::newRow("member") << true << 3;
+        QTest::newRow("large member") << true << 100000;
+        QTest::newRow("element") << false << 3;
+        QTest::newRow("large element") << false << 100000;
+    }
+    void valuesThatOthersSeeOrPut()
+    {
+        QFETCH(bool, member);
+        QFETCH(int, rows);
+        const auto writeValue = [&](JsonWriter &writer) {
+            writer.beginArray();
+            for (int i = 0; i < rows; ++i)
+                writer.row({i, -i});
+            writer.written('"' + QByteArray(rows * 4, 'x') + '"');
+            writer.endArray();
+        };
+        const auto written = [&](const std::function<void(QBuffer &, JsonWriter &)> &value) {
+            QBuffer device;
+            [[maybe_unused]] const bool open = device.open(QIODevice::WriteOnly);
+            JsonWriter writer(device, JsonWriter::Indented);
+            if (member)
+                writer.beginObject();
+            else
+                writer.beginArray();
+            for (int i = 0; i < 3; ++i) {
+                if (member)
+                    writer.key("name");
+                if (i == 1)
+                    value(device, writer);
+                else
+                    writer.value(i);
+            }
+            if (member)
+                writer.endObject();
+            else
+                writer.endArray();
+            const qsizetype size = writer.size();
+            return writer.finish() && size == device.size() ? device.data() : QByteArray();
+        };
+        const QByteArray plain =
+            written([&](QBuffer &, JsonWriter &writer) { writeValue(writer); });
+        QVERIFY(!plain.isEmpty());
+        QByteArray text;
+        QCOMPARE(written([&](QBuffer &, JsonWriter &writer) {
+                     writer.seen([&](QByteArrayView piece) { text += piece; },
+                                 [&] { writeValue(writer); });
+                 }),
+                 plain);
+        JsonWriter collected(JsonWriter::Indented, 1);
+        writeValue(collected);
+        QCOMPARE(text, collected.take());
+        QCOMPARE(written([&](QBuffer &device, JsonWriter &writer) {
+                     writer.leaveTo([&] { return device.write(text); });
+                 }),
+                 plain);
+    }
+
     void refusingDevice_data()
     {
         QTest::addColumn<int>("rows");

@@ -1,9 +1,12 @@
 #include "RecordSamples.h"
 
+#include <core/files/ContentHash.h>
 #include <core/json/PJsonValue.h>
 #include <geomcore/records/CatalogMappingC.h>
 #include <geomcore/records/MappingChange.h>
+#include <geomcore/records/ReleaseDigest.h>
 
+#include <QBuffer>
 #include <QTest>
 
 using RecordSamples::mapping;
@@ -51,43 +54,50 @@ private Q_SLOTS:
         QCOMPARE(release.getMappingState().toInt(), 0);
     }
 
-    // A document takes the kept text, and of nothing but the release as it was.
-    void keptTextIsThatOfTheRelease()
+    // What is noted is what stands in the file, of nothing but the release as it was.
+    void digestIsOfWhatWasWritten()
     {
         QRandomGenerator random(7);
         const ReleaseMappingC release = RecordSamples::randomRelease(random, "2022");
-        const auto bytes = [](const ReleaseMappingC &of, bool compact, bool headsOnly = false) {
-            PJsonValue value;
-            of.toJson(value, headsOnly);
+        const auto bytes = [](const ReleaseMappingC &of) {
             PJsonValue document(PJsonValue::Object);
-            document["2022"] = value;
-            PJsonValue deeper(PJsonValue::Object);
-            deeper["in"] = document;
-            return document.toByteArray(compact) + deeper.toByteArray(compact) +
-                   value.toByteArray(compact);
+            document["2021"] = PJsonValue::fromInt(1);
+            of.toJson(document["2022"], false);
+            QBuffer device;
+            return device.open(QIODevice::WriteOnly) && document.writeTo(device, false)
+                       ? device.data()
+                       : QByteArray();
         };
-        const QByteArray plain = bytes(release, false);
-        const QByteArray compact = bytes(release, true);
-        const QByteArray heads = bytes(release, false, true);
+        const QByteArray plain = bytes(release);
+        const auto digest = release.noteDigest();
+        QVERIFY(!digest->text());
+        (void)jsonOf(release);
+        (void)jsonOf(release, true);
         ReleaseMappingC changed = release;
         changed.setTargetDate("2030");
-        const QByteArray other = bytes(changed, false);
-        QVERIFY(other != plain);
+        QVERIFY(bytes(changed) != plain);
+        QVERIFY(!digest->text());
 
-        ReleaseMappingC own = release;
-        auto text = own.keepText();
-        QCOMPARE(bytes(own, false), plain);
-        QCOMPARE(bytes(release, false), plain);
-        QCOMPARE(bytes(own, true), compact);
-        QCOMPARE(bytes(own, false, true), heads);
-        own.setTargetDate("2030");
-        QCOMPARE(bytes(own, false), other);
-        QCOMPARE(bytes(release, false), plain);
+        const ReleaseMappingC copy = release;
+        QCOMPARE(bytes(copy), plain);
+        QVERIFY(digest->text().has_value());
+        const qsizetype from = plain.indexOf("{\n  \"sourceDate\"");
+        const QByteArray text = plain.sliced(from, plain.size() - from - 3);
+        QCOMPARE(digest->text()->size, qint64(text.size()));
+        QCOMPARE(digest->text()->hash, ContentHash::of(text));
+    }
+
+    void digestKeepsTheReleaseAsItWas()
+    {
+        QRandomGenerator random(7);
+        ReleaseMappingC release = RecordSamples::randomRelease(random, "2022");
+        const auto digest = release.noteDigest();
+        release.setTargetDate("2030"); // nobody else has it
         PJsonValue document(PJsonValue::Object);
         release.toJson(document["2022"], false);
-        text.reset();
-        QCOMPARE(bytes(release, false), plain);
-        QVERIFY(document.toByteArray(false) == plain.first(document.toByteArray(false).size()));
+        QBuffer device;
+        QVERIFY(device.open(QIODevice::WriteOnly) && document.writeTo(device, false));
+        QVERIFY(!digest->text());
     }
 
     void findMapping_data()

@@ -19,6 +19,8 @@ private Q_SLOTS:
 
     void failuresAreUndone_data();
     void failuresAreUndone();
+    void whatIsWrittenRightAndDamagedIsNoticed_data();
+    void whatIsWrittenRightAndDamagedIsNoticed();
     void aFailedNewFileIsRemoved();
     void theFileIsNeverOpenedForWriting();
     void aFullDiskIsTold();
@@ -60,6 +62,60 @@ void tst_SaveFailures::failuresAreUndone()
     QVERIFY(outcome.text.contains(QStringLiteral("Die Datei ist unverändert")));
     QCOMPARE(SessionFixture::content(m_file), before);
     QCOMPARE(names(), QStringList(QStringLiteral("release.json")));
+}
+
+void tst_SaveFailures::whatIsWrittenRightAndDamagedIsNoticed_data()
+{
+    QTest::addColumn<QByteArray>("former");
+    QTest::addColumn<QByteArray>("damaged");
+    QTest::addColumn<QString>("part");
+    QTest::newRow("nothing") << QByteArray("[1,") << QByteArray("[1,") << QString();
+    QTest::newRow("another form") << QByteArray("[1,") << QByteArray("[1 ,") << QString();
+    QTest::newRow("another number") << QByteArray("[1,") << QByteArray("[2,")
+                                    << QStringLiteral("enthält nicht, was gespeichert");
+    QTest::newRow("of the same size in another place")
+        << QByteArray("\"2022-01-01\": {") << QByteArray("\"2022-01-02\": {")
+        << QStringLiteral("enthält nicht, was gespeichert");
+    QTest::newRow("no JSON") << QByteArray("[1,") << QByteArray("[,,")
+                             << QStringLiteral("nicht lesbar");
+    QTest::newRow("another release") << QByteArray("2020-01-01\",\n  \"targetDate\": \"2")
+                                     << QByteArray("2020-01-01\",\n  \"targetDate\": \"3")
+                                     << QStringLiteral("fehlt der Stand 2020-01-01");
+    QTest::newRow("something behind")
+        << QByteArray("\n }\n}\n") << QByteArray("\n }\n}\n}") << QStringLiteral("nicht lesbar");
+    QTest::newRow("cut off") << QByteArray("\n }\n}\n") << QByteArray("\n }\n")
+                             << QStringLiteral("nicht lesbar");
+}
+
+/// By the document's own way, of which it is known what was written.
+void tst_SaveFailures::whatIsWrittenRightAndDamagedIsNoticed()
+{
+    QFETCH(QByteArray, former);
+    QFETCH(QByteArray, damaged);
+    QFETCH(QString, part);
+    m_files->addRelease(m_file, SessionFixture::sampleRelease(QStringLiteral("2020-01-01")));
+    const QByteArray before = SessionFixture::content(m_file);
+    const ReleaseMappingC release = changedRelease();
+    GuardedSave guard(m_file, {FileState::of(m_file), SessionFixture::sampleRelease()});
+    QByteArray written;
+    const SaveOutcome outcome =
+        guard.run(release,
+                  [&](const QString &copy) {
+                      const bool done =
+                          ReleaseMappingHandler(release, {}, copy).commitModifications();
+                      written = SessionFixture::content(copy);
+                      const qsizetype at = written.indexOf(former);
+                      written = at < 0 ? QByteArray() : written.replace(at, former.size(), damaged);
+                      SessionFixture::setContent(copy, written);
+                      return done;
+                  },
+                  {});
+    QVERIFY(!written.isEmpty());
+    QVERIFY2(part.isEmpty() == outcome.text.isEmpty() && outcome.text.contains(part),
+             qPrintable(outcome.text));
+    QCOMPARE(SessionFixture::content(m_file), part.isEmpty() ? written : before);
+    if (part.isEmpty())
+        QVERIFY(guard.saved().state.sameContent(FileState::of(m_file)));
 }
 
 void tst_SaveFailures::aFailedNewFileIsRemoved()

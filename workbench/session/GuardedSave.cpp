@@ -3,7 +3,9 @@
 #include "OwnFile.h"
 #include "ReadBack.h"
 
+#include <core/json/JsonWriter.h>
 #include <geomcore/records/MappingFile.h>
+#include <geomcore/records/ReleaseDigest.h>
 
 #include <QFile>
 #include <QLockFile>
@@ -44,16 +46,13 @@ SaveOutcome GuardedSave::run(const ReleaseMappingC &release, const Commit &commi
 {
     m_outcome = SaveOutcome();
     m_release = release;
-    // Written into the copy and compared with what was written there.
-    const auto text = std::async(std::launch::async, [this] { return m_release.keepText(); });
+    m_digest = m_release.noteDigest();
     QLockFile lock(lockFile(m_file));
     std::optional<Obstacle> obstacle = takeLock(lock);
     if (!obstacle)
         obstacle = examine(options);
-    if (!obstacle) {
-        text.wait();
+    if (!obstacle)
         obstacle = write(commit);
-    }
     if (!obstacle) {
         obstacle = keepFormer();
         if (!obstacle)
@@ -242,7 +241,7 @@ QString GuardedSave::fillCopy(const Commit &commit)
         others[date()] = PJsonValue();
     QString error;
     if (!OwnFile::remove(copy, &error) ||
-        !OwnFile::create(copy, others.toByteArray(false), m_file, &error))
+        !OwnFile::createUnsynced(copy, others.toByteArray(false), m_file, &error))
         return error;
     if (!commit(copy)) {
         // The function does not say why; trying the same does.
@@ -277,7 +276,7 @@ QString GuardedSave::readBack(const QString &copy)
     m_saved.state.exists = true;
     m_saved.release = m_release;
     m_saved.isAlone = expected().size() == 1;
-    if (expected().writeTo(comparison, false) && comparison.isSame()) {
+    if (holdsExpected(comparison)) {
         m_saved.state.size = comparison.readSize();
         m_saved.state.hash = comparison.hash();
         return QString();
@@ -288,6 +287,21 @@ QString GuardedSave::readBack(const QString &copy)
     m_saved.state.size = written->size();
     m_saved.state.hash = FileState::hashOf(*written);
     return check(*written);
+}
+
+/// The release is not written once more if it is known what became of it: its text in the copy must
+/// have that hash. The rest is compared as it is.
+bool GuardedSave::holdsExpected(ReadBack &copy) const
+{
+    PJsonValue document = expected();
+    if (const std::optional<ReleaseDigest::Text> text = m_digest->text())
+        document[date()] = PJsonValue::fromWriter(PJsonValue::Object, [&](JsonWriter &writer) {
+            writer.leaveTo([&] {
+                copy.expect(text->size, text->hash);
+                return qsizetype(text->size);
+            });
+        });
+    return document.writeTo(copy, false) && copy.isSame();
 }
 
 /// What is wrong with a content that differs from what was expected in more than its form.

@@ -11,9 +11,12 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 class QLockFile;
+class ReadBack;
+class ReleaseDigest;
 
 /// A mapping file as it was read or saved last.
 struct KnownFile
@@ -74,6 +77,7 @@ private:
     [[nodiscard]] QString fillCopy(const Commit &commit);
     [[nodiscard]] PJsonValue expected() const;
     [[nodiscard]] QString readBack(const QString &copy);
+    [[nodiscard]] bool holdsExpected(ReadBack &copy) const;
     [[nodiscard]] QString check(const QByteArray &written) const;
     [[nodiscard]] std::optional<Obstacle> keepFormer();
     void keepOlder() const;
@@ -84,6 +88,7 @@ private:
     const QString m_file;
     const KnownFile m_known;
     ReleaseMappingC m_release;
+    std::shared_ptr<const ReleaseDigest> m_digest; ///< of what was written of the release
     PJsonValue m_members; ///< of the file, or of the backup if the file cannot be read
     FileContent m_before; ///< without its bytes if it is as known
     bool m_readable = false;

@@ -90,6 +90,23 @@ bool syncDescriptor(int file)
     return ::fsync(file) == 0 || errno == EINVAL || errno == ENOSYS || errno == ENOTSUP;
 }
 
+/// \a finish is called with the written file and tells whether it is good.
+bool createWith(const QString &path, QByteArrayView content, const QString &like, auto finish,
+                QString *error)
+{
+    QFile file;
+    if (!OwnFile::open(file, path,
+                       QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered, error))
+        return false;
+    takeAfter(file.handle(), like);
+    if (writeAll(file.handle(), content) && finish(file.handle()))
+        return true;
+    reportErrno(error);
+    file.close();
+    OwnFile::remove(path);
+    return false;
+}
+
 QByteArray stampOf(const struct stat &found)
 {
     const qint64 parts[] = {qint64(found.st_dev), qint64(found.st_ino), qint64(found.st_size),
@@ -277,16 +294,14 @@ void OwnFile::syncFolder(const QString &path)
 bool OwnFile::create(const QString &path, QByteArrayView content, const QString &like,
                      QString *error)
 {
-    QFile file;
-    if (!open(file, path, QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered, error))
-        return false;
-    takeAfter(file.handle(), like);
-    if (writeAll(file.handle(), content) && syncDescriptor(file.handle()))
-        return true;
-    reportErrno(error);
-    file.close();
-    remove(path);
-    return false;
+    return createWith(path, content, like, syncDescriptor, error);
+}
+
+bool OwnFile::createUnsynced(const QString &path, QByteArrayView content, const QString &like,
+                             QString *error)
+{
+    return createWith(
+        path, content, like, [](int) { return true; }, error);
 }
 
 bool OwnFile::replace(const QString &path, QByteArrayView content, QString *error)

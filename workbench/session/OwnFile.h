@@ -61,7 +61,11 @@ void syncFolder(const QString &path);
 /// there, and returns when it is on the disk. False with \a error: then there is no half file.
 [[nodiscard]] bool create(const QString &path, QByteArrayView content, const QString &like,
                           QString *error = nullptr);
-/// The same in the place of a former file in one go; if that fails, the former one is as it was.
+/// The same, to be synced by whoever has written all of it.
+[[nodiscard]] bool createUnsynced(const QString &path, QByteArrayView content, const QString &like,
+                                  QString *error = nullptr);
+/// As create(), in the place of a former file in one go; if that fails, the former one is as it
+/// was.
 [[nodiscard]] bool replace(const QString &path, QByteArrayView content, QString *error = nullptr);
 /// Keeps the content of a file under a second name, in the place of what had it, so that \a file
 /// can be replaced. Needs no room on file systems that know hard links.

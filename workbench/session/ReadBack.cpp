@@ -23,15 +23,35 @@ bool ReadBack::isSame()
     return m_same && m_file.read(m_piece.data(), 1) == 0;
 }
 
+void ReadBack::expect(qint64 size, const QByteArray &hash)
+{
+    ContentHash found;
+    for (qint64 done = 0; m_same && done < size;) {
+        const QByteArrayView piece = next(size - done);
+        found.add(piece);
+        done += piece.size();
+    }
+    m_same = m_same && found.result() == hash;
+}
+
 qint64 ReadBack::writeData(const char *data, qint64 size)
 {
     for (qint64 done = 0; m_same && done < size;) {
-        const qint64 part = std::min(size - done, PieceSize);
-        m_same = m_file.read(m_piece.data(), part) == part &&
-                 std::memcmp(m_piece.data(), data + done, std::size_t(part)) == 0;
-        m_hash.add(QByteArrayView(m_piece.data(), part));
-        done += part;
+        const QByteArrayView piece = next(size - done);
+        m_same = m_same && std::memcmp(piece.data(), data + done, std::size_t(piece.size())) == 0;
+        done += piece.size();
     }
-    m_size += size;
     return m_same ? size : -1;
+}
+
+/// Of the file, at most \a size bytes; if it has fewer than there should be, it is not the same.
+QByteArrayView ReadBack::next(qint64 size)
+{
+    const qint64 wanted = std::min(size, PieceSize);
+    const qint64 part = m_file.read(m_piece.data(), wanted);
+    m_same = part == wanted;
+    const QByteArrayView piece(m_piece.data(), std::max(part, qint64(0)));
+    m_hash.add(piece);
+    m_size += piece.size();
+    return piece;
 }

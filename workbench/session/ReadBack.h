@@ -15,6 +15,8 @@ public:
     /// \a file is open for reading, at its begin, and outlives this object.
     explicit ReadBack(QFile &file);
 
+    /// Compares the next \a size bytes by their hash alone.
+    void expect(qint64 size, const QByteArray &hash);
     /// Whether the file holds what was written here and nothing behind it.
     [[nodiscard]] bool isSame();
     /// Of what was read and is the same.
@@ -27,6 +29,8 @@ protected:
     qint64 readData(char *, qint64) override { return -1; }
 
 private:
+    [[nodiscard]] QByteArrayView next(qint64 size);
+
     QFile &m_file;
     std::vector<char> m_piece;
     ContentHash m_hash;

@@ -187,6 +187,27 @@ void JsonWriter::written(QByteArrayView json, int indentBy)
     }
 }
 
+void JsonWriter::seen(const std::function<void(QByteArrayView)> &see,
+                      const std::function<void()> &write)
+{
+    Q_ASSERT(m_device);
+    beforeValue();
+    handOn();
+    m_afterKey = true; // what comes before the value is there
+    m_see = &see;
+    write();
+    handOn();
+    m_see = nullptr;
+}
+
+void JsonWriter::leaveTo(const std::function<qsizetype()> &put)
+{
+    Q_ASSERT(m_device);
+    beforeValue();
+    handOn();
+    m_handedOn += put();
+}
+
 QByteArray JsonWriter::take()
 {
     m_buffer.truncate(pending());
@@ -257,8 +278,7 @@ void JsonWriter::put(std::string_view text)
     const auto size = qsizetype(text.size());
     if (m_device && size > PieceSize) {
         handOn();
-        m_refused = m_refused || m_device->write(text.data(), size) != size;
-        m_handedOn += size;
+        handOn(text);
         return;
     }
     std::memcpy(reserve(size), text.data(), text.size());
@@ -343,7 +363,16 @@ void JsonWriter::handOn()
     const qsizetype size = pending();
     if (!m_device || size == 0)
         return;
-    m_refused = m_refused || m_device->write(m_buffer.constData(), size) != size;
-    m_handedOn += size;
+    handOn(std::string_view(m_buffer.constData(), std::size_t(size)));
     m_at = m_buffer.data();
+}
+
+void JsonWriter::handOn(std::string_view text)
+{
+    const auto size = qsizetype(text.size());
+    Q_ASSERT(m_device);
+    if (m_see)
+        (*m_see)(QByteArrayView(text.data(), size));
+    m_refused = m_refused || m_device->write(text.data(), size) != size;
+    m_handedOn += size;
 }

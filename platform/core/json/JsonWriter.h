@@ -6,6 +6,7 @@
 #include <QByteArrayView>
 #include <QStringView>
 
+#include <functional>
 #include <initializer_list>
 #include <string_view>
 
@@ -51,10 +52,17 @@ public:
     /// Already written JSON; \a indentBy blanks are put behind each of its line feeds, or taken
     /// away if it is negative.
     void written(QByteArrayView json, int indentBy = 0);
+    /// Of a writer with a device: \a write writes one value, whose text is shown to \a see piece by
+    /// piece before the device gets it.
+    void seen(const std::function<void(QByteArrayView)> &see, const std::function<void()> &write);
+    /// Of a writer with a device: the device has all that was written when \a put is called, which
+    /// sees to the text of one value, and gives its size.
+    void leaveTo(const std::function<qsizetype()> &put);
 
     void lineFeed() { *reserve(1) = '\n', ++m_at; }
     [[nodiscard]] int level() const { return m_level; }
     [[nodiscard]] Layout layout() const { return m_layout; }
+    [[nodiscard]] bool hasDevice() const { return m_device != nullptr; }
     /// Bytes that came together up to now.
     [[nodiscard]] qsizetype size() const { return m_handedOn + pending(); }
     /// The text that was collected; the writer is empty afterwards.
@@ -81,9 +89,11 @@ private:
     }
     void grow(qsizetype size);
     void handOn();
+    void handOn(std::string_view text);
     [[nodiscard]] qsizetype pending() const { return m_at ? m_at - m_buffer.constData() : 0; }
 
     QIODevice *const m_device = nullptr;
+    const std::function<void(QByteArrayView)> *m_see = nullptr;
     bool m_refused = false;
     qsizetype m_handedOn = 0;
     QByteArray m_buffer; ///< text up to m_at, room up to m_end

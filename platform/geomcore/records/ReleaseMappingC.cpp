@@ -1,10 +1,11 @@
 #include "ReleaseMappingC.h"
 
 #include "MappingList.h"
+#include "ReleaseDigest.h"
 #include "ReleaseReader.h"
-#include "ReleaseText.h"
 #include "ReleaseWriter.h"
 
+#include <core/files/ContentHash.h>
 #include <core/json/JsonWriter.h>
 #include <core/json/PJsonValue.h>
 
@@ -12,37 +13,50 @@
 
 namespace {
 
-/// The text that somebody keeps of a release; a copy that will be changed has none. Any thread.
-class KeptText
+/// Where somebody wants to have noted what is written of a release; a copy that will be changed has
+/// none. Any thread.
+class WantedDigest
 {
 public:
-    KeptText() = default;
-    KeptText(const KeptText &) {}
-    KeptText &operator=(const KeptText &) = delete;
-    ~KeptText() = default;
+    WantedDigest() = default;
+    WantedDigest(const WantedDigest &) {}
+    WantedDigest &operator=(const WantedDigest &) = delete;
+    ~WantedDigest() = default;
 
-    [[nodiscard]] std::shared_ptr<const ReleaseText> get() const
+    [[nodiscard]] std::shared_ptr<ReleaseDigest> get() const
     {
         const std::lock_guard guard(m_mutex);
-        return m_text.lock();
+        return m_digest.lock();
     }
-    void set(const std::shared_ptr<const ReleaseText> &text)
+    void set(const std::shared_ptr<ReleaseDigest> &digest)
     {
         const std::lock_guard guard(m_mutex);
-        m_text = text;
+        m_digest = digest;
     }
 
 private:
     mutable std::mutex m_mutex;
-    std::weak_ptr<const ReleaseText> m_text;
+    std::weak_ptr<ReleaseDigest> m_digest;
 };
+
+void writeNoting(JsonWriter &writer, const ReleaseMappingC &release, ReleaseDigest &digest)
+{
+    ContentHash hash;
+    qint64 size = 0;
+    const auto see = [&](QByteArrayView piece) {
+        hash.add(piece);
+        size += piece.size();
+    };
+    writer.seen(see, [&] { writeRelease(writer, release, false); });
+    digest.note({size, hash.result()});
+}
 
 } // namespace
 
 class ReleaseMappingData : public QSharedData
 {
 public:
-    mutable KeptText text;
+    mutable WantedDigest digest;
     QString sourceDate;
     QString targetDate;
     QList<AgreedReplacement> replacements;
@@ -176,23 +190,23 @@ PRJMAPPING::MappingState ReleaseMappingC::getMappingState() const
 
 void ReleaseMappingC::toJson(PJsonValue &out, bool headsOnly) const
 {
-    const std::shared_ptr<const ReleaseText> text = headsOnly ? nullptr : d->text.get();
-    const auto write = [copy = *this, headsOnly, text](JsonWriter &writer) {
-        const bool fits =
-            text && writer.layout() == JsonWriter::Indented && writer.level() == ReleaseText::Level;
-        if (fits)
-            writer.written(text->text());
+    const std::shared_ptr<ReleaseDigest> digest = headsOnly ? nullptr : d->digest.get();
+    const auto write = [copy = *this, headsOnly, digest](JsonWriter &writer) {
+        const bool inFile = writer.hasDevice() && writer.layout() == JsonWriter::Indented &&
+                            writer.level() == ReleaseDigest::Level;
+        if (digest && inFile)
+            writeNoting(writer, copy, *digest);
         else
             writeRelease(writer, copy, headsOnly);
     };
     out = PJsonValue::fromWriter(PJsonValue::Object, write);
 }
 
-std::shared_ptr<const ReleaseText> ReleaseMappingC::keepText() const
+std::shared_ptr<const ReleaseDigest> ReleaseMappingC::noteDigest() const
 {
-    auto text = std::make_shared<const ReleaseText>(*this);
-    d->text.set(text);
-    return text;
+    const auto digest = std::make_shared<ReleaseDigest>(*this);
+    d->digest.set(digest);
+    return digest;
 }
 
 bool ReleaseMappingC::fromJson(const PJsonValue &in, QString *error)

@@ -14,7 +14,7 @@
 
 class PJsonValue;
 class ReleaseMappingData;
-class ReleaseText;
+class ReleaseDigest;
 
 /// One release step of a catalog: a source date, a target date and the mappings of all its
 /// projects. A copy-on-write value that shares its pages of mappings: replacing one mapping costs
@@ -70,10 +70,10 @@ public:
     /// Writes the release as one JSON object; \a headsOnly leaves out the mappings. The same
     /// records give the same bytes.
     void toJson(PJsonValue &out, bool headsOnly) const;
-    /// Makes the text now: as long as somebody holds it, documents with what toJson gives of this
-    /// release, or of copies that nobody changed, take it from there. For who writes a release more
-    /// than once.
-    [[nodiscard]] std::shared_ptr<const ReleaseText> keepText() const;
+    /// As long as somebody holds it, the text of this release, or of copies that nobody changed, is
+    /// noted there when it is written into a mapping file: a document with what toJson gives
+    /// afterwards is written to a device.
+    [[nodiscard]] std::shared_ptr<const ReleaseDigest> noteDigest() const;
     /// Reads what toJson wrote, "mappings" may be missing. False if anything is not as it should
     /// be: then \a error tells what, where in the text and at which member, and this release is as
     /// before. Members of other names are passed over.
