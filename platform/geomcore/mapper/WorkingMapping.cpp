@@ -37,8 +37,10 @@ bool WorkingMapping::takeOut(int lineId, int exceptTarget, bool alsoVerified,
 {
     bool confirmed = false;
     for (int i = 0; i < m_mapping->countTargets(); ++i) {
+        if (i == exceptTarget)
+            continue;
         const LineTable::Iterator entry = m_mapping->targetAt(i).lines().find(lineId);
-        if (!entry || i == exceptTarget)
+        if (!entry)
             continue;
         const bool verified = entry->state() == PRJMAPPING::Verified;
         if (verified && !alsoVerified)

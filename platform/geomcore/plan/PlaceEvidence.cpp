@@ -1,5 +1,7 @@
 #include "PlaceEvidence.h"
 
+#include <core/parallel/WorkerPool.h>
+
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
@@ -20,19 +22,25 @@ constexpr double Strength = 4;
 
 PlaceEvidence::PlaceEvidence(std::vector<int> partners, int targetRows)
     : m_partners(std::move(partners))
-    , m_above(m_partners.size())
-    , m_below(m_partners.size())
     , m_targetRows(targetRows)
 {
-    const int count = int(m_partners.size());
-    for (int row = 0, above = -1; row < count; ++row) {
-        m_above[size_t(row)] = above;
-        above = m_partners[size_t(row)] >= 0 ? row : above;
-    }
-    for (int row = count - 1, below = count; row >= 0; --row) {
-        m_below[size_t(row)] = below;
-        below = m_partners[size_t(row)] >= 0 ? row : below;
-    }
+    const auto count = int(m_partners.size());
+    const auto lookAbove = [&] {
+        m_above.resize(m_partners.size());
+        for (int row = 0, above = -1; row < count; ++row) {
+            m_above[size_t(row)] = above;
+            above = m_partners[size_t(row)] >= 0 ? row : above;
+        }
+    };
+    const auto lookBelow = [&] {
+        m_below.resize(m_partners.size());
+        for (int row = count - 1, below = count; row >= 0; --row) {
+            m_below[size_t(row)] = below;
+            below = m_partners[size_t(row)] >= 0 ? row : below;
+        }
+    };
+    // All rows count, though few lines are open.
+    WorkerPool::instance().run(2, [&](int way) { way == 0 ? lookAbove() : lookBelow(); });
 }
 
 PlaceEvidence::Places PlaceEvidence::places(int sourceRow) const
