@@ -32,6 +32,7 @@ private Q_SLOTS:
     void walksInTheOrderOfTheTree();
     void walksBackwards();
     void startsWithoutAPlace();
+    void passesByAProject();
     void startsBesideOpenLines();
     void aloneIsItsOwnNext();
     void nothingOpen();
@@ -122,6 +123,25 @@ void tst_OpenLines::startsWithoutAPlace()
     QCOMPARE(lines.next({projectId(QString::fromLatin1(A)), -1}).line, ref(A, 7));
     QCOMPARE(lines.previous({projectId(QString::fromLatin1(B)), -1}).line, ref(B, 12));
     QCOMPARE(lines.next(ref("gone.prj", 5)).line, ref(B, 3));
+}
+
+/// All of its lines at once, however many they are.
+void tst_OpenLines::passesByAProject()
+{
+    use({open(A, {7}), open(B, {3, 12}), open(D, {5, 14})});
+    const OpenLines lines(m_document.get());
+    const OpenLines::Kind kind = lines.next(LineRef()).kind;
+    const auto beyond = [&](const char *path, bool forward) {
+        return lines.beyond(projectId(QString::fromLatin1(path)), {}, kind, forward);
+    };
+    QCOMPARE(beyond(B, true).line, ref(D, 5));
+    QCOMPARE(beyond(D, true).line, ref(A, 7));
+    QVERIFY(!beyond(D, true).wrapped);
+    QCOMPARE(beyond(A, true).line, ref(B, 3));
+    QVERIFY(beyond(A, true).wrapped);
+    QCOMPARE(beyond(A, false).line, ref(D, 14));
+    QCOMPARE(beyond(D, false).line, ref(B, 12));
+    QCOMPARE(beyond(B, false).line, ref(A, 7));
 }
 
 void tst_OpenLines::startsBesideOpenLines()

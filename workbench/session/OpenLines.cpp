@@ -221,6 +221,13 @@ OpenLines::Found OpenLines::previous(const LineRef &from, const Shown &shown,
     return seek(from, shown, among, false);
 }
 
+OpenLines::Found OpenLines::beyond(const ProjectId &project, const Shown &shown, Kind among,
+                                   bool forward) const
+{
+    const int end = forward ? std::numeric_limits<int>::max() : 0;
+    return seek({project, end}, shown, among, forward);
+}
+
 ProjectId OpenLines::nextProject(const ProjectId &from, bool forward) const
 {
     const ReleaseMappingC release = m_document->release();

@@ -87,6 +87,10 @@ public:
     [[nodiscard]] Found previous(const LineRef &from) const { return previous(from, Shown()); }
     [[nodiscard]] Found previous(const LineRef &from, const Shown &shown,
                                  std::optional<Kind> among = {}) const;
+    /// The next or previous one of this kind that is not in the project: nothing of it can be
+    /// shown.
+    [[nodiscard]] Found beyond(const ProjectId &project, const Shown &shown, Kind among,
+                               bool forward) const;
     /// The next project behind or before this one, in the order of the tree and round its end, that
     /// has lines of these kinds; not valid if no other has.
     [[nodiscard]] ProjectId nextProject(const ProjectId &from, bool forward) const;

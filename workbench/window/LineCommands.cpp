@@ -91,7 +91,8 @@ void LineCommands::go(bool forward)
 QString LineCommands::gone(bool forward)
 {
     OpenLines::Found to = seek(forward, here());
-    // A line that its table lacks cannot be shown; each is tried once.
+    // A line that its table lacks cannot be shown; each is tried once, and of a project without its
+    // table one of each kind.
     bool wrapped = to.wrapped;
     for (int tries = walk().count(); to.line.isValid() && tries > 0; --tries) {
         if (m_editor->goTo(to.line)) {
@@ -99,8 +100,12 @@ QString LineCommands::gone(bool forward)
             m_last = to;
             return goneText(to, forward);
         }
-        to = forward ? walk().next(to.line, m_editor->shown(), to.kind)
-                     : walk().previous(to.line, m_editor->shown(), to.kind);
+        const OpenLines::Shown shown = m_editor->shown();
+        if (shown.project != to.line.project)
+            to = walk().beyond(to.line.project, shown, to.kind, forward);
+        else
+            to = forward ? walk().next(to.line, shown, to.kind)
+                         : walk().previous(to.line, shown, to.kind);
         wrapped = wrapped || to.wrapped;
     }
     return nothingText();
