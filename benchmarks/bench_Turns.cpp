@@ -19,6 +19,7 @@
 #include <core/config/PConfigInst.h>
 #include <geomcore/records/MappingFile.h>
 #include <gui/application/PApplication.h>
+#include <mapping/view/CatalogMappingWidget.h>
 
 #include <QAction>
 #include <QApplication>
@@ -107,6 +108,22 @@ const Release &manyProjects()
             PrjMappingC mapping = first;
             mapping.setSourcePath(
                 QStringLiteral("bench/d%1/din%2_%3.prj").arg(i % 97).arg(900 + i % 4200).arg(i));
+            all.addMapping(mapping);
+        }
+        return all;
+    }());
+    return release;
+}
+
+/// In one folder.
+const Release &flatFolder()
+{
+    static const Release release([] {
+        ReleaseMappingC all = bigRelease(10);
+        const PrjMappingC first = all.mappingAt(0);
+        for (int i = 0; i < 100000; ++i) {
+            PrjMappingC mapping = first;
+            mapping.setSourcePath(QStringLiteral("bench/flat/din%1.prj").arg(i));
             all.addMapping(mapping);
         }
         return all;
@@ -205,6 +222,43 @@ void openManyProjects(benchmark::State &state)
     measureAnew(
         state, [] { return std::make_unique<Workbench>(manyProjects()); },
         [](Workbench &workbench) { workbench.open(); });
+}
+
+/// 100 000 rows.
+void expandFlatFolder(benchmark::State &state)
+{
+    measureAnew(
+        state, [] { return Workbench::opened(flatFolder()); },
+        [](Workbench &workbench) {
+            auto *const tree = workbench.window->findChild<QTreeView *>("treeView");
+            tree->expand(tree->model()->index(0, 0, tree->model()->index(0, 0)));
+        });
+}
+
+/// Only one of the 100 000 projects is left, the last one in the tree.
+void filterProjects(benchmark::State &state, const Release &release)
+{
+    measureAnew(
+        state, [&] { return Workbench::opened(release); },
+        [](Workbench &workbench) {
+            const ReleaseMappingC all = workbench.window->desk()->document()->release();
+            const QString last = all.mappingAt(all.countMappings() - 1).getSourcePath();
+            workbench.window->editor()->editor()->setProjectFilter(
+                [last](const PrjMappingC &mapping) { return mapping.getSourcePath() == last; });
+        });
+}
+
+/// A release is replaced by one in which a project is gone.
+void replaceRelease(benchmark::State &state)
+{
+    measureAnew(
+        state, [] { return Workbench::opened(manyProjects()); },
+        [](Workbench &workbench) {
+            MappingDocument *const document = workbench.window->desk()->document();
+            ReleaseMappingC changed = document->release();
+            changed.setTargetDate(QStringLiteral("2031-01-01"));
+            document->replaceRelease(changed, QStringLiteral("..."));
+        });
 }
 
 void closeManyProjects(benchmark::State &state)
@@ -393,6 +447,18 @@ int main(int argc, char **argv)
     velkbench::addTurns("saveMapping", velkbench::saveMapping, 2);
     velkbench::addTurns("closeMapping", velkbench::closeMapping, 3);
     velkbench::addTurns("openManyProjects", velkbench::openManyProjects, 2);
+    velkbench::addTurns("expandFlatFolder", velkbench::expandFlatFolder, 2);
+    velkbench::addTurns(
+        "filterProjects",
+        [](benchmark::State &state) {
+            velkbench::filterProjects(state, velkbench::manyProjects());
+        },
+        2);
+    velkbench::addTurns(
+        "filterFlatFolder",
+        [](benchmark::State &state) { velkbench::filterProjects(state, velkbench::flatFolder()); },
+        2);
+    velkbench::addTurns("replaceRelease", velkbench::replaceRelease, 2);
     velkbench::addTurns("closeManyProjects", velkbench::closeManyProjects, 2);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

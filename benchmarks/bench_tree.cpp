@@ -167,6 +167,7 @@ void toggleFilter(benchmark::State &state)
         for (const bool on : {true, false}) {
             tree.filter.filterToCheck = on;
             tree.filter.invalidate();
+            tree.filter.finish();
             paint(tree.view, image);
         }
     });

@@ -1,57 +1,113 @@
 #include "CatalogFilterModel.h"
 
+#include "CatalogFilterWalk.h"
 #include "CatalogStructureModel.h"
 
 #include <mapping/data/CatalogStructureNodeI.h>
 
 #include <geomcore/records/PRJMAPPING.h>
 
+#include <chrono>
+
+namespace {
+
+constexpr std::chrono::milliseconds Turn{8}; // the rest of a picture's time is for others
+
+bool acceptsState(int state, bool onlyTarget, bool onlyNoTarget)
+{
+    using namespace PRJMAPPING;
+    if (onlyNoTarget)
+        return state & StateUnmapped;
+    if (onlyTarget)
+        return !(state & StateUnmapped) && (state & (StateUnverified | StateIncomplete));
+    return state & (StateTableError | StateUnmapped | StateUnverified | StateIncomplete);
+}
+
+} // namespace
+
 CatalogFilterModel::CatalogFilterModel(QObject *parent)
     : QSortFilterProxyModel(parent)
 {
+    m_turn.setSingleShot(true);
+    m_turn.setInterval(0);
+    connect(&m_turn, &QTimer::timeout, this, [this] { goOn(); });
 }
 
 CatalogFilterModel::~CatalogFilterModel() = default;
 
+CatalogFilterModel::Accepts CatalogFilterModel::settings() const
+{
+    if (!filterToCheck && !hostFilter)
+        return {};
+    return [host = hostFilter, toCheck = filterToCheck, target = filterTarget,
+            noTarget = filterNoTarget](const CatalogStructureNodeI &project) {
+        return (!host || host(project.getMapping())) &&
+               (!toCheck || acceptsState(project.getMappingState().toInt(), target, noTarget));
+    };
+}
+
+void CatalogFilterModel::invalidate()
+{
+    m_walk.reset();
+    m_wanted = settings();
+    const auto *const source = qobject_cast<const CatalogStructureModel *>(sourceModel());
+    if (!source || !m_wanted)
+        return apply();
+    m_walk = std::make_unique<CatalogFilterWalk>(source->rootItem(), m_wanted);
+    goOn();
+}
+
+void CatalogFilterModel::goOn()
+{
+    if (m_walk && m_walk->run(QDeadlineTimer(Turn)))
+        apply();
+    else if (m_walk)
+        m_turn.start();
+}
+
+void CatalogFilterModel::finish()
+{
+    if (m_walk && m_walk->run(QDeadlineTimer(QDeadlineTimer::Forever)))
+        apply();
+}
+
+void CatalogFilterModel::apply()
+{
+    m_turn.stop();
+    m_directories = m_walk ? m_walk->takeDecided() : CatalogFilterWalk::Decided();
+    m_walk.reset();
+    m_accepts = m_wanted;
+    QSortFilterProxyModel::invalidate();
+    if (onApplied)
+        onApplied();
+}
+
 bool CatalogFilterModel::hasChildren(const QModelIndex &parent) const
 {
-    if (isFiltering() || !sourceModel())
+    if (!sourceModel() || (m_accepts && !parent.isValid()))
         return QSortFilterProxyModel::hasChildren(parent);
-    return sourceModel()->hasChildren(mapToSource(parent));
+    return sourceModel()->hasChildren(mapToSource(parent)); // no directory in sight is empty
+}
+
+void CatalogFilterModel::fetchMore(const QModelIndex &parent)
+{
+    const int before = rowCount(parent);
+    while (rowCount(parent) == before && canFetchMore(parent))
+        QSortFilterProxyModel::fetchMore(parent);
 }
 
 bool CatalogFilterModel::filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const
 {
-    if (!isFiltering())
+    if (!m_accepts)
         return QSortFilterProxyModel::filterAcceptsRow(sourceRow, sourceParent);
-    const QModelIndex source = sourceModel()->index(sourceRow, 0, sourceParent);
-    if (source.data(Qt::DisplayRole).toString().endsWith(QLatin1String(".prj")))
-        return passesHostFilter(source) &&
-               (!filterToCheck ||
-                acceptsState(source.data(CatalogStructureModel::MappingStateRole).toInt()));
-    const int rows = sourceModel()->rowCount(source);
-    for (int row = 0; row < rows; ++row) {
-        if (filterAcceptsRow(row, source))
-            return true;
+    const auto *const source = static_cast<const CatalogStructureModel *>(sourceModel());
+    const CatalogStructureNodeI &node = source->nodeAt(source->index(sourceRow, 0, sourceParent));
+    if (CatalogFilterWalk::isProject(node))
+        return m_accepts(node);
+    if (!m_directories.contains(&node)) {
+        CatalogFilterWalk walk(node, m_accepts);
+        (void)walk.run(QDeadlineTimer(QDeadlineTimer::Forever));
+        m_directories.insert(walk.takeDecided());
     }
-    return false;
-}
-
-bool CatalogFilterModel::passesHostFilter(const QModelIndex &source) const
-{
-    if (!hostFilter)
-        return true;
-    const auto node =
-        CatalogStructureModel::nodeFrom(source.data(CatalogStructureModel::StructureNodeRole));
-    return node && hostFilter(node->getMapping());
-}
-
-bool CatalogFilterModel::acceptsState(int state) const
-{
-    using namespace PRJMAPPING;
-    if (filterNoTarget)
-        return state & StateUnmapped;
-    if (filterTarget)
-        return !(state & StateUnmapped) && (state & (StateUnverified | StateIncomplete));
-    return state & (StateTableError | StateUnmapped | StateUnverified | StateIncomplete);
+    return m_directories.value(&node);
 }

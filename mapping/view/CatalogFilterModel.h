@@ -1,13 +1,19 @@
 #pragma once
 
+#include <QHash>
 #include <QSortFilterProxyModel>
+#include <QTimer>
 
 #include <functional>
+#include <memory>
 
+class CatalogFilterWalk;
+class CatalogStructureNodeI;
 class PrjMappingC;
 
 /// Leaves only projects that are incomplete, and the directories above them. After a change of the
-/// settings call invalidate().
+/// settings call invalidate(). A large tree is walked in turns of the event loop: until it is
+/// through, the model shows what it showed before.
 class CatalogFilterModel : public QSortFilterProxyModel
 {
     Q_OBJECT
@@ -22,16 +28,34 @@ public:
     /// A host's filter besides: only projects that it accepts, and the directories above them.
     /// Empty: none.
     std::function<bool(const PrjMappingC &mapping)> hostFilter;
+    /// Called whenever what the settings say is shown.
+    std::function<void()> onApplied;
+
+    /// Applies the settings as they are now. The source is a CatalogStructureModel.
+    void invalidate();
+    /// Does at once what is left of that.
+    void finish();
 
     /// Without a filter what the source says, whose rows are left alone until they are wanted.
     [[nodiscard]] bool hasChildren(const QModelIndex &parent = QModelIndex()) const override;
+    /// Until there is another row, if there is one.
+    void fetchMore(const QModelIndex &parent) override;
 
 protected:
     [[nodiscard]] bool filterAcceptsRow(int sourceRow,
                                         const QModelIndex &sourceParent) const override;
 
 private:
-    [[nodiscard]] bool isFiltering() const { return filterToCheck || hostFilter; }
-    [[nodiscard]] bool passesHostFilter(const QModelIndex &source) const;
-    [[nodiscard]] bool acceptsState(int state) const;
+    /// Null: all are.
+    using Accepts = std::function<bool(const CatalogStructureNodeI &project)>;
+
+    [[nodiscard]] Accepts settings() const;
+    void goOn();
+    void apply();
+
+    QTimer m_turn;
+    std::unique_ptr<CatalogFilterWalk> m_walk; ///< as long as it is not through
+    Accepts m_wanted;                          ///< what it is for
+    Accepts m_accepts;                         ///< what is shown
+    mutable QHash<const CatalogStructureNodeI *, bool> m_directories; ///< those known
 };

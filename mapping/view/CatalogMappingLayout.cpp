@@ -6,6 +6,7 @@
 #include "CatalogMappingWidget.h"
 #include "CatalogStructureDelegate.h"
 #include "CatalogStructureModel.h"
+#include "RowsInSight.h"
 #include "TableRoom.h"
 
 #include <mapping/data/CatalogMappingHandlerI.h>
@@ -96,7 +97,11 @@ void CatalogMappingWidgetPrivate::makeTreeModels()
     filterModel = new CatalogFilterModel(q);
     filterModel->setDynamicSortFilter(false);
     filterModel->setSourceModel(model);
+    filterModel->onApplied = [this] {
+        onFilterApplied();
+    };
     treeView->setModel(filterModel);
+    new RowsInSight(treeView);
     emptyTree = new EmptyViewLabel(treeView, filterModel);
     emptyTree->setObjectName(QStringLiteral("emptyTree"));
     treeView->setItemDelegate(new CatalogStructureDelegate(treeView));

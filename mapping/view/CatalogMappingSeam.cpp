@@ -136,10 +136,8 @@ void CatalogMappingWidget::setProjectFilter(
     d->hostFilterText = accepts ? ifNone : QString();
     d->tellFilters();
     d->filterModel->hostFilter = accepts;
+    d->revealsFiltered = true;
     d->filterModel->invalidate();
-    const PrjMappingC shown = currentProject();
-    if (shown.isValid() && (!accepts || accepts(shown)))
-        d->revealShown();
 }
 
 void CatalogMappingWidget::showOnlyLines(const std::vector<int> &lines, const QString &ifNone)

@@ -27,6 +27,8 @@
 #include <QScopedValueRollback>
 #include <QTreeView>
 
+#include <utility>
+
 namespace {
 
 bool configuredVerifyAllOnDir()
@@ -131,6 +133,15 @@ void CatalogMappingWidgetPrivate::revealShown()
     const QScopedValueRollback revealing(isRevealing, true);
     const PrjMappingC mapping = shownNode->getMapping();
     (void)place().revealProject(mapping.getSourcePath(), mapping.getSourceVersion());
+}
+
+void CatalogMappingWidgetPrivate::onFilterApplied()
+{
+    if (!std::exchange(revealsFiltered, false) || !shownNode)
+        return;
+    const PrjMappingC shown = shownNode->getMapping();
+    if (shown.isValid() && (!filterModel->hostFilter || filterModel->hostFilter(shown)))
+        revealShown();
 }
 
 void CatalogMappingWidgetPrivate::reloadProject()

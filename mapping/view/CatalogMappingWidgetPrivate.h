@@ -56,6 +56,8 @@ public:
     [[nodiscard]] bool shows(const PrjMappingC &mapping) const;
     [[nodiscard]] EditorPlace place() const;
     void revealShown();
+    /// The tree shows what its filters leave.
+    void onFilterApplied();
     /// Why the tree is empty, if it is.
     void tellFilters();
 
@@ -78,8 +80,9 @@ public:
     QCheckBox *checkNoTarget = nullptr;
     bool allowVerifyAllOnDir;
     CatalogMappingNotifier *notifier;
-    Node shownNode;           ///< opened last; null before the first one
-    bool isRevealing = false; ///< the tree shows what is open anyway
+    Node shownNode;               ///< opened last; null before the first one
+    bool isRevealing = false;     ///< the tree shows what is open anyway
+    bool revealsFiltered = false; ///< as soon as the host's filter is through
 
 public Q_SLOTS:
     void onTreeSelectionChanged(const QItemSelection &selected, const QItemSelection &deselected);

@@ -16,12 +16,18 @@ struct CatalogStructureItem
     /// Frees all items below.
     ~CatalogStructureItem();
 
-    /// Asks the node for its children, once.
+    /// Asks the node for its children, once, and makes the first of them.
     void loadChildren();
+    /// How many more are made at once; 0: all are there.
+    [[nodiscard]] int nextPortion() const;
+    /// Makes them.
+    void loadMore();
 
     CatalogStructureItem *parent; ///< null on the root item
     int row;                      ///< index among the parent's children
     boost::shared_ptr<CatalogStructureNodeI> node;
     QList<CatalogStructureItem *> children; ///< owned; empty until childrenLoaded
+    /// Of a directory with very many: all of them, as long as there are not that many children.
+    QList<boost::shared_ptr<CatalogStructureNodeI>> childNodes;
     bool childrenLoaded = false;
 };

@@ -7,6 +7,8 @@
 #include <mapping/data/FilledNodeI.h>
 #include <mapping/data/StateTreeI.h>
 
+#include <QScopedValueRollback>
+
 namespace {
 
 using Node = boost::shared_ptr<CatalogStructureNodeI>;
@@ -25,6 +27,14 @@ QVariant nodeVariant(const Node &node)
 bool isProject(const CatalogStructureNodeI &node)
 {
     return CatalogNodeType::isProject(node.getNodeType());
+}
+
+void invalidateWithAllBelow(const Node &node)
+{
+    const QList<Node> children = node->getChildren();
+    for (const Node &child : children)
+        invalidateWithAllBelow(child);
+    node->invalidateState();
 }
 
 } // namespace
@@ -65,6 +75,24 @@ int CatalogStructureModel::rowCount(const QModelIndex &parent) const
 int CatalogStructureModel::columnCount(const QModelIndex &) const
 {
     return 1;
+}
+
+bool CatalogStructureModel::canFetchMore(const QModelIndex &parent) const
+{
+    const CatalogStructureItem *const item = d->itemOf(parent);
+    return !d->isInserting && item->childrenLoaded && item->nextPortion() > 0;
+}
+
+void CatalogStructureModel::fetchMore(const QModelIndex &parent)
+{
+    if (!canFetchMore(parent))
+        return;
+    CatalogStructureItem *const item = d->itemOf(parent);
+    const int first = int(item->children.size());
+    const QScopedValueRollback inserting(d->isInserting, true); // whoever hears of it may ask
+    beginInsertRows(parent, first, first + item->nextPortion() - 1);
+    item->loadMore();
+    endInsertRows();
 }
 
 bool CatalogStructureModel::hasChildren(const QModelIndex &parent) const
@@ -109,8 +137,20 @@ void CatalogStructureModel::invalidateNodes(CatalogStructureItem *item)
     item->loadChildren();
     for (CatalogStructureItem *child : std::as_const(item->children))
         invalidateNodes(child);
+    for (qsizetype i = item->children.size(); i < item->childNodes.size(); ++i)
+        invalidateWithAllBelow(item->childNodes.at(i));
     if (item->node)
         item->node->invalidateState();
+}
+
+const CatalogStructureItem &CatalogStructureModel::rootItem() const
+{
+    return *d->rootItem;
+}
+
+const CatalogStructureNodeI &CatalogStructureModel::nodeAt(const QModelIndex &index) const
+{
+    return *d->itemOf(index)->node;
 }
 
 boost::shared_ptr<CatalogStructureNodeI> CatalogStructureModel::nodeFrom(const QVariant &value)

@@ -10,7 +10,8 @@ struct CatalogStructureItem;
 class CatalogStructureModelPrivate;
 
 /// The catalog's tree of nodes as an item model of one column. Children are asked of a node when a
-/// view needs them, and once: the tree neither grows nor shrinks after that. GUI thread only.
+/// view needs them, and once: the tree does not change after that. Of a directory with very many,
+/// the rows come in portions, as views fetch them. GUI thread only.
 class CatalogStructureModel : public QAbstractItemModel
 {
     Q_OBJECT
@@ -33,11 +34,17 @@ public:
     [[nodiscard]] int columnCount(const QModelIndex &parent = QModelIndex()) const override;
     /// Loads them to know, but for a FilledNodeI.
     [[nodiscard]] bool hasChildren(const QModelIndex &parent = QModelIndex()) const override;
+    [[nodiscard]] bool canFetchMore(const QModelIndex &parent) const override;
+    void fetchMore(const QModelIndex &parent) override;
     [[nodiscard]] QVariant data(const QModelIndex &index,
                                 int role = Qt::DisplayRole) const override;
 
+    /// What is there of the tree.
+    [[nodiscard]] const CatalogStructureItem &rootItem() const;
+    [[nodiscard]] const CatalogStructureNodeI &nodeAt(const QModelIndex &index) const;
+
     /// Makes all nodes from \a item down drop what they remember of their state; null begins at the
-    /// root. A root that is a StateTreeI does it by itself and loads nothing; else the items are
+    /// root. A root that is a StateTreeI does it by itself and loads nothing; else the nodes are
     /// walked, which loads them, children before parents. Sends no signal: the caller repaints its
     /// views.
     void invalidateNodes(CatalogStructureItem *item = nullptr);

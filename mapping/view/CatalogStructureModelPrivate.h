@@ -25,6 +25,7 @@ public:
     void loadIcons();
 
     std::unique_ptr<CatalogStructureItem> rootItem;
+    bool isInserting = false; ///< more rows of a directory
     QIcon directoryIcon;
     QIcon projectIcon;
 };

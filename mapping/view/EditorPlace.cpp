@@ -1,5 +1,6 @@
 #include "EditorPlace.h"
 
+#include "CatalogFilterModel.h"
 #include "TreePath.h"
 
 #include <mapping/table/TableMappingWidget.h>
@@ -21,6 +22,8 @@ bool EditorPlace::selectProject(const QString &sourcePath, const QString &source
     if (sourcePath.isEmpty())
         return false;
     const auto find = [&] {
+        if (auto *const filter = qobject_cast<CatalogFilterModel *>(m_tree->model()))
+            filter->finish();
         return TreePath::find(m_tree->model(), sourcePath, sourceVersion);
     };
     QModelIndex index = find();

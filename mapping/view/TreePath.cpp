@@ -26,10 +26,17 @@ bool isProject(const QModelIndex &index, const Project &project)
            (project.version.isEmpty() || node->getMapping().getSourceVersion() == project.version);
 }
 
-QModelIndex childNamed(const QAbstractItemModel *model, const QModelIndex &parent,
-                       const QString &name)
+/// Fetches rows as far as it takes.
+bool hasRow(QAbstractItemModel *model, int row, const QModelIndex &parent)
 {
-    for (int row = 0; row < model->rowCount(parent); ++row) {
+    while (row >= model->rowCount(parent) && model->canFetchMore(parent))
+        model->fetchMore(parent);
+    return row < model->rowCount(parent);
+}
+
+QModelIndex childNamed(QAbstractItemModel *model, const QModelIndex &parent, const QString &name)
+{
+    for (int row = 0; hasRow(model, row, parent); ++row) {
         const QModelIndex child = model->index(row, 0, parent);
         if (child.data().toString() == name && model->hasChildren(child))
             return child;
@@ -37,10 +44,10 @@ QModelIndex childNamed(const QAbstractItemModel *model, const QModelIndex &paren
     return {};
 }
 
-QModelIndex findBelow(const QAbstractItemModel *model, const QModelIndex &parent,
-                      const Project &project, bool deep)
+QModelIndex findBelow(QAbstractItemModel *model, const QModelIndex &parent, const Project &project,
+                      bool deep)
 {
-    for (int row = 0; row < model->rowCount(parent); ++row) {
+    for (int row = 0; hasRow(model, row, parent); ++row) {
         const QModelIndex child = model->index(row, 0, parent);
         if (isProject(child, project))
             return child;
@@ -90,7 +97,7 @@ void TreePath::expand(QTreeView &tree, const QStringList &paths)
     }
 }
 
-QModelIndex TreePath::find(const QAbstractItemModel *model, const QString &sourcePath,
+QModelIndex TreePath::find(QAbstractItemModel *model, const QString &sourcePath,
                            const QString &sourceVersion)
 {
     const Project project{sourcePath, sourceVersion};

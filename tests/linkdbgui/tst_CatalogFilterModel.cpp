@@ -5,6 +5,7 @@
 
 #include <QAbstractItemModelTester>
 #include <QTest>
+#include <QThread>
 #include <QTreeView>
 
 namespace {
@@ -279,6 +280,53 @@ private Q_SLOTS:
         QCOMPARE(filtered.filter.rowCount(), 1);
         filtered.filter.invalidate();
         QCOMPARE(filtered.filter.rowCount(), 0);
+    }
+
+    void aLargeTreeIsWalkedInTurns_data()
+    {
+        QTest::addColumn<bool>("atOnce");
+        QTest::newRow("by itself") << false;
+        QTest::newRow("somebody needs it at once") << true;
+    }
+    void aLargeTreeIsWalkedInTurns()
+    {
+        QFETCH(bool, atOnce);
+        QList<TestNode::Ptr> directories;
+        for (int i = 0; i < 10; ++i) {
+            directories += TestNode::directory("d" + QString::number(i));
+            for (int project = 0; project < 1000; ++project)
+                directories.last()->children +=
+                    TestNode::project(QString::number(project) + ".prj");
+        }
+        directories.last()->children.last()->mapping.setSourcePath("wanted");
+        Filtered filtered(TestNode::root(directories));
+        QCOMPARE(filtered.filter.rowCount(), 10);
+        int asked = 0;
+        int applied = 0;
+        filtered.filter.onApplied = [&applied] {
+            ++applied;
+        };
+        filtered.filter.hostFilter = [&asked](const PrjMappingC &mapping) {
+            if (++asked % 3000 == 0)
+                QThread::msleep(20);
+            return mapping.getSourcePath() == "wanted";
+        };
+        filtered.set(false, false, false);
+        QVERIFY2(asked < 5000, qPrintable(QString::number(asked)));
+        QCOMPARE(filtered.filter.rowCount(), 10); // as before
+        QCOMPARE(applied, 0);
+        if (atOnce)
+            filtered.filter.finish();
+        QTRY_COMPARE(applied, 1);
+        QCOMPARE(filtered.rows(), QString("d9(999.prj)"));
+        // Another one does not wait for it.
+        filtered.set(false, false, false);
+        filtered.filter.hostFilter = {};
+        filtered.set(false, false, false);
+        QCOMPARE(applied, 2);
+        QCOMPARE(filtered.filter.rowCount(), 10);
+        QTest::qWait(50);
+        QCOMPARE(applied, 2);
     }
 
     void rowsKeepTheirOrder()

@@ -76,6 +76,40 @@ class tst_CatalogStructureModel : public QObject
 private Q_SLOTS:
     void init() { TestNode::invalidated.clear(); }
 
+    void veryManyRowsComeInPortions()
+    {
+        QList<TestNode::Ptr> projects;
+        for (int i = 0; i < 2500; ++i)
+            projects += TestNode::project(QString::number(i));
+        const TestNode::Ptr root = TestNode::root(projects);
+        CatalogStructureModel model(root);
+        QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
+        QCOMPARE(model.rowCount(), 1000);
+        const QAbstractItemModelTester tester(
+            &model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        while (model.canFetchMore({}))
+            model.fetchMore({});
+        QCOMPARE(inserted.size(), 2);
+        QCOMPARE(inserted.last().at(1).toInt(), 2000);
+        QCOMPARE(inserted.last().at(2).toInt(), 2499);
+        QCOMPARE(model.rowCount(), 2500);
+        for (int row = 0; row < 2500; ++row)
+            QCOMPARE(model.index(row, 0).data().toString(), QString::number(row));
+        QCOMPARE(root->asked, 1);
+    }
+
+    void invalidatesRowsThatAreNotThere()
+    {
+        QList<TestNode::Ptr> children;
+        for (int i = 0; i < 1002; ++i)
+            children += TestNode::project(QString::number(i));
+        children += TestNode::directory("d", {TestNode::project("e")});
+        CatalogStructureModel model(TestNode::root(children));
+        model.invalidateNodes();
+        QCOMPARE(TestNode::invalidated.size(), 1002 + 3);
+        QCOMPARE(TestNode::invalidated.mid(1001), QStringList({"1001", "e", "d", "root"}));
+    }
+
     void passesTheTester()
     {
         CatalogStructureModel model(sampleTree());

@@ -1,0 +1,126 @@
+// Directories with very many projects, whose rows come as they are wanted.
+#include "CatalogNodes.h"
+
+#include <mapping/data/ReleaseMappingHandler.h>
+#include <mapping/view/CatalogFilterModel.h>
+#include <mapping/view/CatalogStructureModel.h>
+#include <mapping/view/RowsInSight.h>
+#include <mapping/view/TreePath.h>
+
+#include <QAbstractItemModelTester>
+#include <QTest>
+#include <QTreeView>
+
+namespace {
+
+constexpr int Projects = 5000;
+
+QString nameOf(int project)
+{
+    return QStringLiteral("p%1.prj").arg(project, 4, 10, QLatin1Char('0'));
+}
+
+/// Projects in "cat/large", and one in "cat".
+ReleaseMappingC largeRelease()
+{
+    ReleaseMappingC release;
+    PrjMappingC mapping;
+    mapping.setSourceVersion(QStringLiteral("v260131120000"));
+    for (int project = 0; project < Projects; ++project) {
+        mapping.setSourcePath("cat/large/" + nameOf(project));
+        release.addMapping(mapping);
+    }
+    mapping.setSourcePath(QStringLiteral("cat/other.prj"));
+    release.addMapping(mapping);
+    return release;
+}
+
+/// The tree as the mapping editor puts it together.
+struct Tree
+{
+    Tree()
+        : handler(largeRelease(), QStringLiteral("root"), QString())
+        , model(handler.getRootStructureNode())
+    {
+        filter.setDynamicSortFilter(false);
+        filter.setSourceModel(&model);
+        view.setHeaderHidden(true);
+        view.setUniformRowHeights(true);
+        view.setModel(&filter);
+        new RowsInSight(&view);
+        view.resize(300, 400);
+        view.show();
+        (void)QTest::qWaitForWindowExposed(&view);
+        view.expand(catalog());
+    }
+    [[nodiscard]] QModelIndex catalog() const { return filter.index(0, 0); }
+    [[nodiscard]] QModelIndex large() const { return filter.index(0, 0, catalog()); }
+    void show(const QString &path)
+    {
+        filter.hostFilter = [path](const PrjMappingC &mapping) {
+            return mapping.getSourcePath() == path;
+        };
+        filter.invalidate();
+    }
+
+    ReleaseMappingHandler handler;
+    CatalogStructureModel model;
+    CatalogFilterModel filter;
+    QTreeView view;
+};
+
+} // namespace
+
+class tst_RowsInSight : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void modelsStaySound();
+    void areFoundBeforeTheyAreThere();
+    void areFilteredBeforeTheyAreThere();
+};
+
+/// The tester fetches all that it can.
+void tst_RowsInSight::modelsStaySound()
+{
+    Tree tree;
+    tree.view.expand(tree.large());
+    const auto mode = QAbstractItemModelTester::FailureReportingMode::QtTest;
+    const QAbstractItemModelTester source(&tree.model, mode);
+    const QAbstractItemModelTester filtered(&tree.filter, mode);
+    QTRY_COMPARE(tree.filter.rowCount(tree.large()), Projects);
+    tree.show("cat/large/" + nameOf(Projects - 2));
+    tree.filter.finish();
+    QCOMPARE(tree.filter.rowCount(tree.large()), 1);
+}
+
+void tst_RowsInSight::areFoundBeforeTheyAreThere()
+{
+    Tree tree;
+    QVERIFY(tree.filter.rowCount(tree.large()) < Projects / 2);
+    const QModelIndex found =
+        TreePath::find(&tree.filter, "cat/large/" + nameOf(Projects - 2), QString());
+    QCOMPARE(found.data().toString(), nameOf(Projects - 2));
+    QCOMPARE(found.row(), Projects - 2);
+    QVERIFY(!TreePath::find(&tree.filter, "cat/large/gone.prj", QString()).isValid());
+}
+
+/// Alone in the filter, and nothing of the first rows is in it.
+void tst_RowsInSight::areFilteredBeforeTheyAreThere()
+{
+    Tree tree;
+    tree.view.expand(tree.large());
+    QTest::qWait(0);
+    tree.show("cat/large/" + nameOf(Projects - 2));
+    tree.filter.finish();
+    QCOMPARE(tree.filter.rowCount(tree.catalog()), 1);
+    QVERIFY(tree.filter.hasChildren(tree.large()));
+    QTRY_COMPARE(tree.filter.rowCount(tree.large()), 1); // it was open, and is so still
+    const QModelIndex only = tree.filter.index(0, 0, tree.large());
+    QCOMPARE(only.data().toString(), nameOf(Projects - 2));
+    QTRY_VERIFY(tree.view.visualRect(only).isValid());
+}
+
+QTEST_MAIN(tst_RowsInSight)
+#include "tst_RowsInSight.moc"
