@@ -62,6 +62,7 @@ private Q_SLOTS:
     void namesakes_data();
     void namesakes();
     void dissolvedTable();
+    void reworkedTable_data();
     void reworkedTable();
     void recordsVersionsAndDates();
     void givenDatesWin();
@@ -185,20 +186,29 @@ void tst_ReleaseMappingBuilder::dissolvedTable()
              QStringList({"old/a/pitch.prj: new/b/threads.prj", "old/a/tap.prj: new/a/tap.prj"}));
 }
 
+void tst_ReleaseMappingBuilder::reworkedTable_data()
+{
+    QTest::addColumn<QByteArray>("more"); // lines of the table that has some like it
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("no room") << QByteArray() << "old/a/pitch.prj: new/a/threads.prj new/b/tap.prj";
+    QTest::newRow("room for half of its lines")
+        << QByteArray(";M8,20;M9,22") << "old/a/pitch.prj: new/b/tap.prj";
+}
+
 /// A table whose one variable was reworded, and whose other one has another name: it is told by the
 /// values of that, before the table that only has some lines like it and had them before.
 void tst_ReleaseMappingBuilder::reworkedTable()
 {
+    QFETCH(QByteArray, more);
+    QFETCH(QString, expected);
     Releases releases;
     releases.source.add("a/pitch", "size,p;M1,3;M2,4;M3,5;M4,7");
     releases.source.add("b/tap", "size,p;M1,3;M2,4;M3,8;M4,9");
     releases.target.add("a/threads", "size,coarse;X1,3;X2,4;X3,5;X4,7;X5,8");
-    releases.target.add("b/tap", "size,p;M1,3;M2,4;M3,8;M4,9");
+    releases.target.add("b/tap", "size,p;M1,3;M2,4;M3,8;M4,9" + more);
     ReleaseMappingBuilder builder(releases.input());
     QCOMPARE(builder.build(), Outcome::Complete);
-    QCOMPARE(told(builder.release()),
-             QStringList({"old/a/pitch.prj: new/a/threads.prj new/b/tap.prj",
-                          "old/b/tap.prj: new/b/tap.prj"}));
+    QCOMPARE(told(builder.release()), QStringList({expected, "old/b/tap.prj: new/b/tap.prj"}));
 }
 
 void tst_ReleaseMappingBuilder::recordsVersionsAndDates()

@@ -99,6 +99,7 @@ private Q_SLOTS:
     void cleanup();
     void refused_data();
     void refused();
+    void nothingIsAskedOfARefusedFile();
     void escapeCancels();
     void menu();
     void carries();
@@ -415,6 +416,29 @@ void tst_CarryCommands::refused()
     QCOMPARE(text, "Aus " + file + " kann nichts übernommen werden.");
     QVERIFY2(more.contains(details), qPrintable(more));
     QVERIFY(sameMapping(project(), before) && !document()->isModified() && !document()->canUndo());
+}
+
+/// Where its new release lies would be the next question.
+void tst_CarryCommands::nothingIsAskedOfARefusedFile()
+{
+    const QString former = writeFormer("1999-01-01");
+    ModalScript script;
+    script.then([&](QWidget *dialog) {
+        script.note(dialog);
+        auto *const files = qobject_cast<QFileDialog *>(dialog);
+        QVERIFY(files);
+        files->selectFile(former);
+        static_cast<QDialog *>(files)->accept();
+    });
+    const auto escape = [&](QWidget *dialog) {
+        script.note(dialog);
+        QTest::keyClick(dialog, Qt::Key_Escape);
+    };
+    script.then(escape);
+    script.then(escape);
+    m_fixture->action("carryDecisions")->trigger();
+    QCOMPARE(script.seen.size(), 2);
+    QCOMPARE(script.texts.last(), "Aus " + former + " kann nichts übernommen werden.");
 }
 
 /// At any moment until the result is there.

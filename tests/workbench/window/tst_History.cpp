@@ -154,6 +154,15 @@ void tst_History::showsDecisions()
     giveReason(fixture, "it must be");
     confirm(fixture, din933, 7);
     QVERIFY(fixture.window->editor()->selectLine(7));
+    // What was decided last is what is selected: it is offered once.
+    int offered = 0;
+    ModalScript script;
+    script.then([&offered](QWidget *dialog) {
+        offered = dialog->findChild<QComboBox *>("lines")->count();
+        QTest::keyClick(dialog, Qt::Key_Escape);
+    });
+    fixture.action("giveReason")->trigger();
+    QCOMPARE(offered, 1);
     HistoryDialog *const dialog = show(fixture);
     auto *scope = dialog->findChild<QComboBox *>("scope");
     QCOMPARE(shown(dialog), QStringList{"7 "});

@@ -1,6 +1,7 @@
 #include "ModalScript.h"
 #include "WindowFixture.h"
 
+#include <core/file/AddressedFiles.h>
 #include <core/message/PMessage.h>
 #include <geomcore/records/MappingFile.h>
 #include <mapping/view/CatalogMappingWidget.h>
@@ -19,23 +20,70 @@
 #include <QCheckBox>
 #include <QDesktopServices>
 #include <QDialog>
+#include <QDir>
+#include <QDirIterator>
 #include <QFileDialog>
 #include <QLabel>
 #include <QMenu>
+#include <QMutex>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QSpinBox>
 #include <QSplitter>
 #include <QStackedWidget>
+#include <QThread>
 #include <QTimer>
 #include <QTreeView>
 #include <QUrl>
 
+#include <memory>
 #include <optional>
 
 namespace {
 
 const QString din933 = QStringLiteral("standardparts/screws/din933.prj");
+
+bool copyFolder(const QString &from, const QString &to)
+{
+    for (QDirIterator at(from, QDir::Files, QDirIterator::Subdirectories); at.hasNext();) {
+        const QString copy = to + at.next().mid(from.size());
+        if (!QDir().mkpath(QFileInfo(copy).path()) || !QFile::copy(at.filePath(), copy))
+            return false;
+    }
+    return true;
+}
+
+/// Knows on which threads tables are opened.
+class TableReaders : public AddressedFiles
+{
+public:
+    QString fileOf(const QString &) override { return {}; }
+    bool provide(const QString &file, QString &) override
+    {
+        if (!file.endsWith(".csv"))
+            return true;
+        const QMutexLocker lock(&m_mutex);
+        const bool inTheLoop = QThread::currentThread() == QCoreApplication::instance()->thread();
+        (inTheLoop ? m_inTheLoop : m_beside) += QDir::cleanPath(file);
+        return true;
+    }
+    [[nodiscard]] QStringList beside() const
+    {
+        const QMutexLocker lock(&m_mutex);
+        return m_beside;
+    }
+    [[nodiscard]] QStringList inTheLoop() const
+    {
+        const QMutexLocker lock(&m_mutex);
+        return m_inTheLoop;
+    }
+
+private:
+    mutable QMutex m_mutex;
+    QStringList m_beside;
+    QStringList m_inTheLoop;
+};
 
 } // namespace
 
@@ -161,6 +209,33 @@ private Q_SLOTS:
         QCOMPARE(paints, (QList<bool>{false, false, false}));
         QVERIFY(lines.size() == 1 && lines.first() != 5);
         QVERIFY(fixture.window->editor()->updatesEnabled());
+    }
+
+    /// Opening it has nothing to read then.
+    void readsTablesOfItsPlaceBesideTheLoop()
+    {
+        WindowFixture fixture;
+        const QString file = fixture.mappingFile();
+        // Copies, which nobody had open before.
+        const CatalogRoots roots{fixture.directory.filePath("r1"),
+                                 fixture.directory.filePath("r2")};
+        QVERIFY(copyFolder(WindowFixture::roots().source, roots.source) &&
+                copyFolder(WindowFixture::roots().target, roots.target));
+        fixture.settings->setPlace(file, {{}, din933, 5});
+        const auto readers = std::make_shared<TableReaders>();
+        AddressedFiles::install(readers);
+        const auto uninstall = qScopeGuard([] { AddressedFiles::install(nullptr); });
+        std::optional<QStringList> before;
+        QObject::connect(fixture.window->editor(), &EditorArea::projectSelected,
+                         [&] { before = before.value_or(readers->beside()); });
+        fixture.window->desk()->open({.file = file, .roots = roots});
+        QApplication::processEvents();
+        QCOMPARE(fixture.window->editor()->currentPath(), din933);
+        QVERIFY(before);
+        for (const QString &table : {roots.source + "/standardparts/screws/din933.csv",
+                                     roots.target + "/standardparts/screws/iso4017.csv"})
+            QVERIFY2(before->contains(table), qPrintable(before->join('\n')));
+        QCOMPARE(readers->inTheLoop(), QStringList());
     }
 
     void remembersTheCatalogs()

@@ -64,10 +64,13 @@ private Q_SLOTS:
         QFETCH(QString, target);
         QFETCH(QString, problem);
         const WindowFixture fixture;
-        const CatalogRootsDialog dialog(releaseOf(fixture.mappingFile()), {source, target},
-                                        nullptr);
-        QCOMPARE(dialog.findChild<QLabel *>("problem")->text(), problem);
-        QCOMPARE(dialog.findChild<QPushButton *>("ok")->isEnabled(), problem.isEmpty());
+        CatalogRootsDialog dialog(releaseOf(fixture.mappingFile()), {source, target}, nullptr);
+        const auto *const told = dialog.findChild<QLabel *>("problem");
+        const auto *const ok = dialog.findChild<QPushButton *>("ok");
+        QCOMPARE(told->text(), problem);
+        QCOMPARE(ok->isEnabled(), problem.isEmpty());
+        dialog.show();
+        QVERIFY(ok->mapTo(&dialog, QPoint()).y() > told->geometry().bottom());
     }
 
     void rootsCanBeChanged()

@@ -271,6 +271,19 @@ private Q_SLOTS:
         QCOMPARE(status.findChild<QLabel *>("statusNote")->toolTip(), QString(500, 'x'));
     }
 
+    void readOnlyIsToldWithItsReason()
+    {
+        StatusArea status(nullptr);
+        status.show();
+        const auto *const label = status.findChild<QLabel *>("statusReadOnly");
+        QVERIFY(!label->isVisible());
+        status.setReadOnly("somebody else has it open");
+        QVERIFY(label->isVisible());
+        QCOMPARE(label->toolTip(), "somebody else has it open");
+        status.setReadOnly(QString());
+        QVERIFY(!label->isVisible());
+    }
+
     void counterHasTheFormsOfTheLanguage_data()
     {
         QTest::addColumn<QString>("language");
