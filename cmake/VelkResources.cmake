@@ -71,3 +71,12 @@ function(velk_resource_list file)
   string(APPEND text "  </qresource>\n</RCC>\n")
   file(CONFIGURE OUTPUT "${file}" CONTENT "${text}" @ONLY)
 endfunction()
+
+# velk_pack(OUTPUT NAME LIST FILE...): packs the files of a resource list into a source. It has no times
+# of files (format 1): two builds give the same bytes.
+function(velk_pack output name list)
+  add_custom_command(OUTPUT "${output}"
+    COMMAND Qt6::rcc --format-version 1 --name "${name}" --output "${output}" "${list}"
+    DEPENDS "${list}" ${ARGN}
+    COMMENT "Packing ${name}" VERBATIM)
+endfunction()
