@@ -87,3 +87,20 @@ void GoalTable::print(QTextStream &out) const
     row(out, "decisions for 1000 open lines, as it is: at most 60",
         QString::number(decisions.value, 'f', 0) + ", " + decisions.name, decisions.value <= 60);
 }
+
+void GoalTable::printNeighbours(QTextStream &out, const QString &sets, const NeighbourScore &score)
+{
+    const auto print = [&](const QString &goal, const QString &result, bool held) {
+        row(out, goal + ", " + sets, result, held);
+    };
+    const auto printFound = [&](const QString &name, const PlantedMistakes::Score &of) {
+        print(QStringLiteral("planted %1 found: at least 99 %").arg(name),
+              shown(percentOf(of.found, of.planted)), 100 * of.found >= 99 * of.planted);
+    };
+    printFound("shifts", score.shifts);
+    printFound("swaps", score.swaps);
+    const PlantedMistakes::Score &right = score.untouched;
+    print("false alarms: at most 1 in 1000 lines",
+          QStringLiteral("%1 in %2").arg(right.falseAlarms).arg(right.lines),
+          1000 * right.falseAlarms <= right.lines);
+}

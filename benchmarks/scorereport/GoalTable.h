@@ -1,5 +1,6 @@
 #pragma once
 
+#include "NeighbourScore.h"
 #include "RuleScore.h"
 
 #include <QTextStream>
@@ -15,6 +16,8 @@ public:
     void add(const QString &name, bool disturbed, bool withKeys, bool removed,
              const RuleScore &score);
     void print(QTextStream &out) const;
+    /// Of the check of neighbours.
+    static void printNeighbours(QTextStream &out, const QString &sets, const NeighbourScore &score);
 
 private:
     struct Measured

@@ -95,11 +95,11 @@ QString textOf(const NeighbourLines &truth, const NeighbourLines &lines,
 {
     static const char *const kinds[] = {"shifted", "swapped", "misplaced", "twice", "skipped"};
     QStringList texts;
-    for (const int place : PlantedMistakes::wrongPlaces(truth, lines)) {
-        texts << QStringLiteral("%1>%2 instead of %3")
-                     .arg(lines.lines[std::size_t(place)].line)
-                     .arg(lines.lines[std::size_t(place)].row + 1)
-                     .arg(truth.lines[std::size_t(place)].row + 1);
+    for (const int place : PlantedMistakes::changedPlaces(truth, lines)) {
+        const NeighbourLines::Line &is = lines.lines[std::size_t(place)];
+        const NeighbourLines::Line &was = truth.lines[std::size_t(place)];
+        texts
+            << QStringLiteral("%1>%2 instead of %3").arg(is.line).arg(is.row + 1).arg(was.row + 1);
     }
     for (const NeighbourFinding &finding : VelkRelease::checkNeighbours(lines, values)) {
         texts << QStringLiteral("found %1 by %2:").arg(kinds[finding.kind]).arg(finding.steps);
@@ -110,6 +110,13 @@ QString textOf(const NeighbourLines &truth, const NeighbourLines &lines,
 }
 
 } // namespace
+
+void NeighbourScore::add(const NeighbourScore &other)
+{
+    shifts.add(other.shifts);
+    swaps.add(other.swaps);
+    untouched.add(other.untouched);
+}
 
 NeighbourScore NeighbourScore::of(const SampleSet &set)
 {

@@ -13,5 +13,7 @@ struct NeighbourScore
     PlantedMistakes::Score untouched; ///< Each table as it is.
     QStringList misses;               ///< Mistakes not found and false alarms.
 
+    /// Without the misses.
+    void add(const NeighbourScore &other);
     [[nodiscard]] static NeighbourScore of(const SampleSet &set);
 };

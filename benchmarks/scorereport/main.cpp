@@ -209,6 +209,7 @@ void reportNeighbours(const std::vector<SampleSet> &sets, const Options &options
         out.flush();
     };
     NeighbourScore all;
+    NeighbourScore asTheyAre;
     for (const SampleSet &original : sets) {
         for (const Disturbance &disturbance : Disturbance::all()) {
             if (!disturbance.name.contains(options.only))
@@ -217,12 +218,15 @@ void reportNeighbours(const std::vector<SampleSet> &sets, const Options &options
             disturbance.run(set);
             const NeighbourScore score = NeighbourScore::of(set);
             print(set.name + ", " + disturbance.name, score);
-            all.shifts.add(score.shifts);
-            all.swaps.add(score.swaps);
-            all.untouched.add(score.untouched);
+            all.add(score);
+            if (disturbance.name == "as it is")
+                asTheyAre.add(score);
         }
     }
     print("all", all);
+    out << "\n| goal | sum | held |\n| --- | --- | --- |\n";
+    GoalTable::printNeighbours(out, "sets as they are", asTheyAre);
+    GoalTable::printNeighbours(out, "all sets", all);
 }
 
 Options optionsFrom(QStringList arguments)

@@ -72,16 +72,17 @@ void PlantedMistakes::Score::add(const Score &other)
     mended += other.mended;
 }
 
-std::set<int> PlantedMistakes::wrongPlaces(const NeighbourLines &truth, const NeighbourLines &lines)
+std::set<int> PlantedMistakes::changedPlaces(const NeighbourLines &truth,
+                                             const NeighbourLines &lines)
 {
-    std::set<int> wrong;
+    std::set<int> changed;
     for (std::size_t i = 0; i < lines.lines.size(); ++i) {
         const NeighbourLines::Line &is = lines.lines[i];
         const NeighbourLines::Line &was = truth.lines[i];
         if (is.target != was.target || is.row != was.row)
-            wrong.insert(int(i));
+            changed.insert(int(i));
     }
-    return wrong;
+    return changed;
 }
 
 PlantedMistakes::Score PlantedMistakes::scoreOf(const NeighbourLines &truth,
@@ -94,25 +95,38 @@ PlantedMistakes::Score PlantedMistakes::scoreOf(const NeighbourLines &truth,
         placeOf.emplace(truth.lines[i].line, int(i));
         score.lines += truth.lines[i].row >= 0 ? 1 : 0;
     }
-    const std::set<int> wrong = wrongPlaces(truth, lines);
+    const auto isAsGood = [&](int place, int target, int row) {
+        const NeighbourLines::Line &was = truth.lines[std::size_t(place)];
+        return target == was.target &&
+               (row == was.row || (row >= 0 && was.row >= 0 &&
+                                   values.ofRow(target, row) == values.ofRow(target, was.row)));
+    };
+    const std::set<int> changed = changedPlaces(truth, lines);
+    std::set<int> wrong;
+    for (const int place : changed) {
+        const NeighbourLines::Line &is = lines.lines[std::size_t(place)];
+        const NeighbourLines::Line &was = truth.lines[std::size_t(place)];
+        const bool isCompared = was.row >= 0 && !values.ofRow(was.target, was.row).isEmpty();
+        if (isCompared && !isAsGood(place, is.target, is.row))
+            wrong.insert(place);
+    }
     std::set<int> mended;
     for (const NeighbourFinding &finding : checkNeighbours(lines, values)) {
         bool touches = false;
         int spoilt = 0;
         for (const NeighbourFinding::Repair &repair : finding.repairs) {
             const int place = placeOf.at(repair.line);
-            const NeighbourLines::Line &was = truth.lines[std::size_t(place)];
-            touches = touches || wrong.contains(place);
+            touches = touches || changed.contains(place);
             ++spoilt;
-            if (repair.targetLine < 0 || was.target != repair.target)
+            if (repair.targetLine < 0)
                 continue;
-            const std::vector<int> &rows = truth.rows[std::size_t(was.target)];
+            const std::vector<int> &rows = truth.rows[std::size_t(repair.target)];
             const int row =
                 int(std::find(rows.begin(), rows.end(), repair.targetLine) - rows.begin());
-            if (row == was.row ||
-                values.ofRow(was.target, row) == values.ofRow(was.target, was.row))
-                mended.insert(place);
-            spoilt -= mended.contains(place) ? 1 : 0;
+            if (!isAsGood(place, repair.target, row))
+                continue;
+            mended.insert(place);
+            --spoilt;
         }
         score.falseAlarms += touches ? 0 : 1;
         score.spoilt += touches ? spoilt : 0;

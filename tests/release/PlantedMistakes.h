@@ -31,11 +31,12 @@ struct Score
 };
 
 /// What the check finds where at most one mistake is planted. Rows of equal values are one as good
-/// as the other.
+/// as the other: a line that got such a row is not wrong, and mended by any of them. Nor is one
+/// wrong of which no variable is compared: nothing can tell.
 Score scoreOf(const VelkRelease::NeighbourLines &truth, const VelkRelease::NeighbourLines &lines,
               const VelkRelease::NeighbourValues &values);
-/// Places of NeighbourLines::lines that are not assigned as in the truth.
-std::set<int> wrongPlaces(const VelkRelease::NeighbourLines &truth,
-                          const VelkRelease::NeighbourLines &lines);
+/// Places of NeighbourLines::lines that are not assigned as in the truth, to equal rows or not.
+std::set<int> changedPlaces(const VelkRelease::NeighbourLines &truth,
+                            const VelkRelease::NeighbourLines &lines);
 
 } // namespace PlantedMistakes

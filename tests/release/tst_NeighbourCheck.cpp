@@ -39,6 +39,13 @@ private Q_SLOTS:
     void takenTwice();
     void severalTargets();
     void mostLinesShifted();
+    void partOfSeriesShifted();
+    void equalRows();
+    void shiftEndsAtEqualRow();
+    void shiftBesideEqualRows();
+    void swappedAmongFew();
+    void freeRowsByPlace();
+    void measured();
     void lineLeftByShift();
     void fewLines();
     void textsGotWords();
@@ -182,6 +189,160 @@ void tst_NeighbourCheck::mostLinesShifted()
     const std::vector<NeighbourFinding> findings = checkNeighbours(numbered(60, changed), values);
     QCOMPARE(findings.size(), 1U);
     QCOMPARE(textOf(findings[0]), "shifted 5-50 by 1: " + repairs.join(' '));
+}
+
+namespace {
+
+/// What is found where line and row of the same number have the values that \a valuesOf says.
+QStringList findingsOf(const NeighbourLines &lines, const std::function<QStringList(int)> &valuesOf)
+{
+    const NeighbourValues values{[&](int index, int) { return valuesOf(index + 1); },
+                                 [&](int, int row) {
+                                     return valuesOf(row + 1);
+                                 }};
+    QStringList texts;
+    for (const NeighbourFinding &finding : checkNeighbours(lines, values))
+        texts << textOf(finding);
+    return texts;
+}
+
+} // namespace
+
+/// Few lines with few values, of which nearly half teach what is wrong.
+void tst_NeighbourCheck::partOfSeriesShifted()
+{
+    std::map<int, int> changed{{21, 0}};
+    QStringList repairs;
+    for (int line = 13; line <= 20; ++line) {
+        changed[line] = line + 1;
+        repairs << QString("%1>%1").arg(line);
+    }
+    const auto valuesOf = [](int line) {
+        return QStringList{QString::number(5 * line), QString::number(5 * line - 0.5),
+                           QString::number(5 * line + 0.5)};
+    };
+    QCOMPARE(
+        findingsOf(numbered(22, changed), valuesOf),
+        QStringList({"shifted 13-20 by 1: " + repairs.join(' '), "skipped 21-21 by 0: 21>21"}));
+}
+
+/// A line beside equal ones has lost its row, which is free at another place among theirs.
+void tst_NeighbourCheck::equalRows()
+{
+    const auto valuesOf = [](int line) {
+        return QStringList{QString::number(line < 20 || line > 24 ? line * line : 400)};
+    };
+    QCOMPARE(findingsOf(numbered(60, {{20, 21}, {21, 22}, {22, 23}, {23, 24}, {24, 0}}), valuesOf),
+             QStringList{"shifted 20-24 by 1: 20>20 21>21 22>22 23>23 24>24"});
+    QCOMPARE(findingsOf(numbered(60, {{24, 23}, {23, 22}, {22, 21}, {21, 20}, {20, 0}}), valuesOf),
+             QStringList{"shifted 20-24 by -1: 20>20 21>21 22>22 23>23 24>24"});
+    // Gone, and another one of the same values is new: who can tell?
+    QCOMPARE(findingsOf(numbered(60, {{21, 22}, {22, 21}}), valuesOf), QStringList());
+}
+
+/// The lines behind are all alike: none of them is said to be shifted too.
+void tst_NeighbourCheck::shiftEndsAtEqualRow()
+{
+    const auto valuesOf = [](int line) {
+        return QStringList{QString::number(std::min(line, 26)),
+                           QString::number(std::min(line, 26))};
+    };
+    std::map<int, int> changed{{30, 0}};
+    QStringList repairs;
+    for (int line = 15; line <= 29; ++line)
+        changed[line] = line + 1;
+    for (int line = 15; line <= 25; ++line)
+        repairs << QString("%1>%1").arg(line);
+    QCOMPARE(findingsOf(numbered(40, changed), valuesOf),
+             QStringList({"shifted 15-25 by 1: " + repairs.join(' '),
+                          "shifted 26-30 by 1: 26>26 27>27 28>28 29>29 30>30"}));
+}
+
+/// A line that two rows suit alike goes along with the others if two have its row otherwise.
+void tst_NeighbourCheck::shiftBesideEqualRows()
+{
+    const auto valuesOf = [](int line) {
+        const int number = line == 11 ? 10 : line;
+        return QStringList{QString::number(number / 3), QString::number(number % 7)};
+    };
+    std::map<int, int> changed;
+    QStringList repairs;
+    for (int line = 10; line <= 15; ++line) {
+        changed[line] = line + 1;
+        repairs << QString("%1>%1").arg(line);
+    }
+    QCOMPARE(findingsOf(numbered(40, changed), valuesOf),
+             QStringList{"shifted 10-15 by 1: " + repairs.join(' ')});
+}
+
+/// Two of few lines have each other's row, and one value tells.
+void tst_NeighbourCheck::swappedAmongFew()
+{
+    const auto valuesOf = [](int line) {
+        return QStringList{QString("1/%1in").arg(line), "5in"};
+    };
+    QCOMPARE(findingsOf(numbered(9, {}), valuesOf), QStringList());
+    QCOMPARE(findingsOf(numbered(9, {{3, 4}, {4, 3}}), valuesOf),
+             QStringList{"swapped 3-4 by 0: 3>3 4>4"});
+}
+
+/// Rows that are new come in blocks, and hardly any line has none: a free row beside such a line is
+/// its own, though the line beside it has the same values.
+void tst_NeighbourCheck::freeRowsByPlace()
+{
+    NeighbourLines lines = numbered(60, {{33, 0}});
+    for (std::size_t i = 40; i < 60; ++i)
+        lines.lines[i].row += 30;
+    for (int row = 61; row <= 90; ++row)
+        lines.rows[0].push_back(row);
+    const auto lineValues = [](int index, int) {
+        return QStringList{QString::number(index / 2)};
+    };
+    const auto rowValues = [&](int, int row) {
+        return row >= 40 && row < 70 ? QStringList{"new"}
+                                     : lineValues(row < 40 ? row : row - 30, 0);
+    };
+    QStringList texts;
+    for (const NeighbourFinding &finding : checkNeighbours(lines, {lineValues, rowValues}))
+        texts << textOf(finding);
+    QCOMPARE(texts, QStringList{"skipped 33-33 by 0: 33>33"});
+    // Where many lines have no row it says less.
+    for (std::size_t i = 4; i < 60; i += 4) {
+        lines.lines[i].target = lines.lines[i].row = -1;
+        lines.lines[i].gone = i != 32;
+    }
+    QVERIFY(checkNeighbours(lines, {lineValues, rowValues}).empty());
+}
+
+/// What PlantedMistakes counts.
+void tst_NeighbourCheck::measured()
+{
+    const auto valuesOf = [](int number) {
+        return number >= 20 && number <= 22 ? numberedValues(20) : numberedValues(number);
+    };
+    const NeighbourValues values{[&](int index, int) { return valuesOf(index + 1); },
+                                 [&](int, int row) {
+                                     return valuesOf(row + 1);
+                                 }};
+    const NeighbourLines truth = numbered(60, {});
+    // Rows of equal values are no mistake.
+    PlantedMistakes::Score score =
+        PlantedMistakes::scoreOf(truth, numbered(60, {{20, 21}, {21, 20}}), values);
+    QCOMPARE(score.planted, 0);
+    QCOMPARE(score.falseAlarms, 0);
+    // One of two lines is wrong, and mended.
+    score = PlantedMistakes::scoreOf(truth, numbered(60, {{21, 22}, {22, 23}}), values);
+    QCOMPARE(score.planted, 1);
+    QCOMPARE(score.wrong, 1);
+    QCOMPARE(score.found, 1);
+    QCOMPARE(score.spoilt, 0);
+    // A line without a row is wrong unless nothing of it is compared.
+    const NeighbourLines without = numbered(60, {{40, 0}});
+    QCOMPARE(PlantedMistakes::scoreOf(truth, without, values).wrong, 1);
+    const auto none = [](int, int) {
+        return QStringList();
+    };
+    QCOMPARE(PlantedMistakes::scoreOf(truth, without, {none, none}).wrong, 0);
 }
 
 /// Where rows are new and lines are gone all over the table, a free row beside a line without one

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <map>
 #include <memory>
-#include <set>
 
 namespace VelkRelease {
 
@@ -41,12 +40,22 @@ public:
     {
         if (m_order.count() < FewestPairs)
             return;
-        const int row = m_search.skippedRow(index, m_order.positionOf(index));
-        if (row < 0 || !m_filled.insert(row).second)
+        const int position = m_order.positionOf(index);
+        const NeighbourSearch::Skipped skipped = m_search.skipped(index, position);
+        if (skipped.row < 0)
             return;
-        const int line = m_lines.lines[std::size_t(index)].line;
-        findings.push_back(
-            {NeighbourFinding::Skipped, line, line, 0, {{line, m_target, lineOfRow(row)}}});
+        const NeighbourFinding::Repair own{m_lines.lines[std::size_t(index)].line, m_target,
+                                           lineOfRow(skipped.row)};
+        if (skipped.moves.empty()) {
+            findings.push_back({NeighbourFinding::Skipped, own.line, own.line, 0, {own}});
+            return;
+        }
+        const bool isLast = skipped.moves.back().first < position;
+        NeighbourFinding finding =
+            findingOf({NeighbourFinding::Shifted, skipped.moves, 0, skipped.steps});
+        finding.repairs.insert(isLast ? finding.repairs.end() : finding.repairs.begin(), own);
+        (isLast ? finding.lastLine : finding.firstLine) = own.line;
+        findings.push_back(std::move(finding));
     }
 
 private:
@@ -77,7 +86,6 @@ private:
     TargetOrder m_order;
     PairLikeness m_likeness;
     NeighbourSearch m_search;
-    std::set<int> m_filled; ///< rows for skipped lines
 };
 
 } // namespace

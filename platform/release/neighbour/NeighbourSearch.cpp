@@ -10,22 +10,15 @@ namespace VelkRelease {
 
 namespace {
 
-/// Natural logarithm of 1000.
-constexpr double LeastGain = 6.9;
-/// Of a line that has no row, if it does not fit one as well as others fit theirs: lines go, and
-/// others that are like them come.
-constexpr double LeastLikeness = 10;
-/// Rows beside a line's own that are looked at, and lines beside it whose rows are.
-constexpr int Reach = 4;
 /// Rows by which lines are sought to be shifted.
 constexpr int MostSteps = 3;
-/// A run of lines ends where it has lost so much of its gain again.
-constexpr double MostLoss = 8;
 /// Of a line that has no row there.
 constexpr double NoRow = -4;
 constexpr int MostPasses = 3;
-/// A line that cannot gain more stays where it is.
-constexpr double LeastRoom = 2;
+/// Lines of a change that are judged by what the others teach, of a table of so many: in a larger
+/// one a few teach hardly anything.
+constexpr std::size_t MostDoubted = 2;
+constexpr int MostTeachers = 500;
 
 } // namespace
 
@@ -59,6 +52,8 @@ double NeighbourSearch::gain(int position, int row)
 {
     if (row < 0 || row >= m_order.rowCount())
         return NoRow;
+    if (m_likeness.areAlike(row, m_order.rowAt(position)))
+        return 0;
     return m_likeness.of(m_order.indexAt(position), row, false) - likenessAt(position);
 }
 
@@ -73,20 +68,58 @@ int NeighbourSearch::stepsOf(const std::vector<TargetOrder::Move> &moves) const
         ->first;
 }
 
+double NeighbourSearch::total(const std::vector<TargetOrder::Move> &moves)
+{
+    const double order = m_order.gain(moves);
+    double sum = 0;
+    std::vector<PairLikeness::Move> others;
+    for (const auto &[position, row] : moves) {
+        sum += row < 0 ? -likenessAt(position) : gain(position, row);
+        others.push_back({m_order.indexAt(position), m_order.rowAt(position), row});
+    }
+    if (sum > 0 && sum + order < LeastGain && moves.size() <= MostDoubted &&
+        moves.back().second >= 0 && m_order.count() <= MostTeachers)
+        sum = std::max(sum, m_likeness.gainByOthers(others));
+    return sum + order;
+}
+
 void NeighbourSearch::add(std::vector<Change> &changes, NeighbourFinding::Kind kind,
                           std::vector<TargetOrder::Move> moves)
 {
-    double sum = m_order.gain(moves);
-    for (const auto &[position, row] : moves) {
-        if (m_moved[std::size_t(position)])
-            return;
-        sum += row < 0 ? -likenessAt(position) : gain(position, row);
-    }
+    if (std::any_of(moves.begin(), moves.end(), [this](const TargetOrder::Move &move) {
+            return bool(m_moved[std::size_t(move.first)]);
+        }))
+        return;
+    const double sum = total(moves);
     if (sum < LeastGain)
         return;
     const int steps =
         moves.back().second < 0 || kind == NeighbourFinding::Swapped ? 0 : stepsOf(moves);
     changes.push_back({kind, std::move(moves), sum, steps});
+}
+
+/// Lines beside a run that suit its rows about as well as their own belong to it if it leaves fewer
+/// rows shared or free then.
+void NeighbourSearch::extend(std::vector<TargetOrder::Move> &moves, const std::vector<int> &rows,
+                             int step)
+{
+    std::vector<TargetOrder::Move> longer = moves;
+    double most = total(moves);
+    if (most < LeastGain / 2)
+        return;
+    for (int i = 0; i < Reach; ++i) {
+        const int position = (step < 0 ? longer.front() : longer.back()).first + step;
+        if (position < 0 || position >= m_order.count() || m_moved[std::size_t(position)] ||
+            rows[std::size_t(position)] < 0 ||
+            rows[std::size_t(position)] == m_order.rowAt(position))
+            return;
+        longer.insert(step < 0 ? longer.begin() : longer.end(),
+                      {position, rows[std::size_t(position)]});
+        if (const double sum = total(longer); sum > most) {
+            most = sum;
+            moves = longer;
+        }
+    }
 }
 
 /// Runs of consecutive lines that are better placed at \a rows, one for each position; -1: nowhere.
@@ -101,6 +134,10 @@ void NeighbourSearch::addRuns(std::vector<Change> &changes, const std::vector<in
         for (int i = first; i <= last; ++i) {
             if (rows[std::size_t(i)] >= 0 && rows[std::size_t(i)] != m_order.rowAt(i))
                 moves.emplace_back(i, rows[std::size_t(i)]);
+        }
+        if (!moves.empty()) {
+            for (const int step : {-1, 1})
+                extend(moves, rows, step);
         }
         if (moves.size() > 1)
             add(changes, NeighbourFinding::Shifted, std::move(moves));
@@ -150,7 +187,7 @@ int NeighbourSearch::bestFree(int index, int after, int before)
     double most = -std::numeric_limits<double>::infinity();
     const int from = std::max({0, after + 1, before - 2 * Reach});
     for (int row = from; row < std::min(before, m_order.rowCount()); ++row) {
-        if (!m_order.isFree(row))
+        if (!m_order.isFree(row) || m_filled.contains(row))
             continue;
         const double likeness = m_likeness.of(index, row, false);
         if (likeness > most) {
@@ -271,10 +308,7 @@ std::vector<NeighbourSearch::Change> NeighbourSearch::run()
             if (over)
                 continue;
             // One before it may have taken its rows.
-            double sum = m_order.gain(change.moves);
-            for (const auto &[position, row] : change.moves)
-                sum += row < 0 ? -likenessAt(position) : gain(position, row);
-            if (sum < LeastGain)
+            if (total(change.moves) < LeastGain)
                 continue;
             for (const auto &[position, row] : change.moves)
                 m_moved[std::size_t(position)] = true;
@@ -329,41 +363,6 @@ void NeighbourSearch::apply(const std::vector<TargetOrder::Move> &moves)
         m_own[std::size_t(position)] = std::numeric_limits<double>::quiet_NaN();
         m_room[std::size_t(position)] = std::numeric_limits<double>::quiet_NaN();
     }
-}
-
-/// A row that a change has left belongs to the same mistake, which is seen already: half as much
-/// shows that the line is part of it.
-int NeighbourSearch::leftRow(int index, int after, int before)
-{
-    int best = -1;
-    double most = LeastGain / 2 - m_order.freeWeight() - m_order.withoutWeight();
-    for (auto row = m_left.upper_bound(after); row != m_left.end() && *row < before; ++row) {
-        if (!m_order.isFree(*row))
-            continue;
-        const double likeness = m_likeness.of(index, *row, false);
-        if (likeness >= most) {
-            most = likeness;
-            best = *row;
-        }
-    }
-    return best;
-}
-
-int NeighbourSearch::skippedRow(int index, int position)
-{
-    const int after = position > 0 ? m_order.rowAt(position - 1) : -1;
-    const int before = position < m_order.count() ? m_order.rowAt(position) : m_order.rowCount();
-    if (const int row = leftRow(index, after, before); row >= 0)
-        return row;
-    if (before - after > 2 * Reach)
-        return -1;
-    const int row = bestFree(index, after, before);
-    if (row < 0)
-        return -1;
-    const double gain =
-        m_likeness.of(index, row, false) + m_order.freeWeight() + m_order.withoutWeight();
-    const bool fits = m_likeness.room(index, row) < LeastRoom;
-    return gain < (fits ? LeastGain : LeastLikeness) ? -1 : row;
 }
 
 } // namespace VelkRelease

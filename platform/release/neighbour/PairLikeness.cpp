@@ -21,6 +21,9 @@ constexpr int ExpectedByChance = 3;
 /// that shifted lines look as if something was added to each.
 constexpr int ExpectedMapped = 4;
 
+/// Equal values by which a run of lines must have more beside its rows, for each of its ends.
+constexpr double StepsChange = 1.5;
+
 constexpr int NoValues = 0; ///< the name of two missing values, which say nothing
 constexpr int EqualValues = 1;
 
@@ -145,6 +148,7 @@ void PairLikeness::learn(const std::vector<std::pair<int, int>> &pairs)
 {
     m_counts.clear();
     m_likeness.clear();
+    m_learnedRow.clear();
     m_partners = 0;
     m_neighbours = 0;
     const std::size_t step = std::max(std::size_t(1), pairs.size() / MostLearned);
@@ -152,14 +156,8 @@ void PairLikeness::learn(const std::vector<std::pair<int, int>> &pairs)
         const auto [index, row] = pairs[i];
         if (lineTexts(index).empty())
             continue;
-        count(index, row, &Count::partners);
-        ++m_partners;
-        for (const int beside : {row - 2, row - 1, row + 1, row + 2}) {
-            if (beside < 0 || beside >= m_rows)
-                continue;
-            count(index, beside, &Count::neighbours);
-            ++m_neighbours;
-        }
+        countPair(index, row, 1);
+        m_learnedRow.insert(index, row);
     }
     // So that a few lines, or a table of which much is wrong, do not say that equality is strange.
     for (std::vector<Count> &counts : m_counts) {
@@ -172,53 +170,79 @@ void PairLikeness::learn(const std::vector<std::pair<int, int>> &pairs)
     takeBestWeights();
 }
 
+/// Only equal values tell: in a series the same number is added to each in any shift.
 int PairLikeness::countEqual(int index, int row)
 {
     const std::vector<int> &before = lineTexts(index);
     const std::vector<int> &after = rowTexts(row);
     int equal = 0;
-    for (std::size_t v = 0; v < before.size() && v < after.size(); ++v)
-        equal += relation(before[v], after[v])[0] == EqualValues ? 1 : 0;
+    for (std::size_t v = 0; v < before.size() && v < after.size(); ++v) {
+        const Text &from = m_texts[std::size_t(before[v])];
+        const Text &to = m_texts[std::size_t(after[v])];
+        const bool same = before[v] == after[v] || (from.number && from.number == to.number);
+        equal += same && !from.text.isEmpty() ? 1 : 0;
+    }
     return equal;
 }
 
-/// Only equal values tell: in a series the same number is added to each in any shift.
-int PairLikeness::gainBeside(const std::vector<std::pair<int, int>> &pairs, int steps)
+/// By how many rows each pair should be further on for most values to be equal.
+std::vector<int> PairLikeness::stepsOfRuns(const std::vector<std::pair<int, int>> &pairs,
+                                           int mostSteps)
 {
-    const std::size_t every = std::max(std::size_t(1), pairs.size() / MostLearned);
-    int gain = 0;
-    for (std::size_t i = 0; i < pairs.size(); i += every) {
-        const auto [index, row] = pairs[i];
-        const int beside = row + steps;
-        const int equal = countEqual(index, row);
-        const int others = beside >= 0 && beside < m_rows ? countEqual(index, beside) : 0;
-        gain += (others > equal ? 1 : 0) - (others < equal ? 1 : 0);
+    const std::size_t count = 2 * std::size_t(mostSteps) + 1;
+    const auto none = std::size_t(mostSteps);
+    std::vector<double> best(count, -StepsChange); // equal values of the pairs so far, by steps
+    best[none] = 0;
+    std::vector<quint8> before(pairs.size() * count); // the steps of the pair before
+    for (std::size_t i = 0; i < pairs.size(); ++i) {
+        const auto most = std::size_t(std::max_element(best.begin(), best.end()) - best.begin());
+        const double changed = best[most] - StepsChange;
+        for (std::size_t steps = 0; steps < count; ++steps) {
+            before[i * count + steps] = quint8(best[steps] >= changed ? steps : most);
+            best[steps] = std::max(best[steps], changed);
+            const int row = pairs[i].second + int(steps) - mostSteps;
+            if (row >= 0 && row < m_rows)
+                best[steps] += countEqual(pairs[i].first, row);
+        }
     }
-    return gain;
+    best[none] += StepsChange;
+    auto steps = std::size_t(std::max_element(best.begin(), best.end()) - best.begin());
+    std::vector<int> result(pairs.size());
+    for (std::size_t i = pairs.size(); i-- > 0;) {
+        result[i] = int(steps) - mostSteps;
+        steps = before[i * count + steps];
+    }
+    return result;
 }
 
 void PairLikeness::learnBeside(const std::vector<std::pair<int, int>> &pairs, int mostSteps)
 {
-    int best = 0;
-    int most = 0;
-    for (int steps = -mostSteps; steps <= mostSteps; ++steps) {
-        const int gain = gainBeside(pairs, steps);
-        if (gain > most) {
-            most = gain;
-            best = steps;
-        }
-    }
-    if (best == 0)
-        return;
+    const std::vector<int> steps = stepsOfRuns(pairs, mostSteps);
     std::vector<std::pair<int, int>> beside;
-    for (const auto &[index, row] : pairs) {
-        if (row + best >= 0 && row + best < m_rows)
-            beside.emplace_back(index, row + best);
+    bool any = false;
+    for (std::size_t i = 0; i < pairs.size(); ++i) {
+        const auto [index, row] = pairs[i];
+        any = any || steps[i] != 0;
+        if (row + steps[i] >= 0 && row + steps[i] < m_rows)
+            beside.emplace_back(index, row + steps[i]);
     }
-    learn(beside);
+    if (any)
+        learn(beside);
 }
 
-void PairLikeness::count(int index, int row, int Count::*counter)
+void PairLikeness::countPair(int index, int row, int times)
+{
+    count(index, row, &Count::partners, times);
+    m_partners += times;
+    for (const int beside : {row - 2, row - 1, row + 1, row + 2}) {
+        if (beside < 0 || beside >= m_rows)
+            continue;
+        count(index, beside, &Count::neighbours, times);
+        m_neighbours += times;
+    }
+}
+
+void PairLikeness::count(int index, int row, int Count::*counter, int times)
 {
     const std::vector<int> &before = lineTexts(index);
     const std::vector<int> &after = rowTexts(row);
@@ -228,7 +252,7 @@ void PairLikeness::count(int index, int row, int Count::*counter)
             if (name < 0)
                 continue;
             m_counts[v].resize(std::max(m_counts[v].size(), std::size_t(name) + 1));
-            ++(m_counts[v][std::size_t(name)].*counter);
+            m_counts[v][std::size_t(name)].*counter += times;
         }
     }
 }
@@ -288,13 +312,42 @@ double PairLikeness::of(int index, int row, bool isPair)
         if (known != m_likeness.cend())
             return *known;
     }
+    const double sum = sumOf(index, row, isPair);
+    if (!isPair)
+        m_likeness.insert(key, sum);
+    return sum;
+}
+
+double PairLikeness::sumOf(int index, int row, bool isPair)
+{
     const std::vector<int> &before = lineTexts(index);
     const std::vector<int> &after = rowTexts(row);
     double sum = 0;
     for (std::size_t v = 0; v < before.size() && v < after.size(); ++v)
         sum += weight(v, relation(before[v], after[v]), isPair);
-    if (!isPair)
-        m_likeness.insert(key, sum);
+    return sum;
+}
+
+bool PairLikeness::areAlike(int row, int other)
+{
+    const std::vector<int> texts = rowTexts(row);
+    return texts == rowTexts(other);
+}
+
+double PairLikeness::gainByOthers(const std::vector<Move> &moves)
+{
+    const auto countThem = [&](int times) {
+        for (const Move &move : moves) {
+            const auto learned = m_learnedRow.constFind(move.index);
+            if (learned != m_learnedRow.cend())
+                countPair(move.index, *learned, times);
+        }
+    };
+    countThem(-1);
+    double sum = 0;
+    for (const Move &move : moves)
+        sum += sumOf(move.index, move.otherRow, false) - sumOf(move.index, move.row, false);
+    countThem(1);
     return sum;
 }
 

@@ -25,12 +25,23 @@ public:
                  const std::vector<std::pair<int, int>> &pairs);
     /// Learns anew, from better pairs.
     void learn(const std::vector<std::pair<int, int>> &pairs);
-    /// Learns from what stands so many rows beside the pairs, at most, if more lines have more
-    /// equal values there than fewer: where most lines are shifted, those are right.
+    /// Learns from what stands so many rows beside the pairs, at most, where runs of lines have
+    /// more equal values there: if they are shifted, those are right.
     void learnBeside(const std::vector<std::pair<int, int>> &pairs, int mostSteps);
 
     /// Natural logarithm. \a isPair: the two are one of the pairs, which does not speak for itself.
     [[nodiscard]] double of(int index, int row, bool isPair);
+    /// Whether two rows have the same values.
+    [[nodiscard]] bool areAlike(int row, int other);
+    struct Move
+    {
+        int index;
+        int row;
+        int otherRow;
+    };
+    /// By how much more the lines look like the other rows than like their own, by what all other
+    /// lines teach.
+    [[nodiscard]] double gainByOthers(const std::vector<Move> &moves);
     /// By how much the line could look more like another row than like this one, its own, at most.
     [[nodiscard]] double room(int index, int row);
 
@@ -60,8 +71,12 @@ private:
     [[nodiscard]] int mapName(const QString &text);
     void takeBestWeights();
     [[nodiscard]] int countEqual(int index, int row);
-    [[nodiscard]] int gainBeside(const std::vector<std::pair<int, int>> &pairs, int steps);
-    void count(int index, int row, int Count::*counter);
+    [[nodiscard]] std::vector<int> stepsOfRuns(const std::vector<std::pair<int, int>> &pairs,
+                                               int mostSteps);
+    void count(int index, int row, int Count::*counter, int times);
+    /// The pair and the rows beside it.
+    void countPair(int index, int row, int times);
+    [[nodiscard]] double sumOf(int index, int row, bool isPair);
     [[nodiscard]] double weight(std::size_t variable, const Relation &relation, bool isPair) const;
     [[nodiscard]] double weightOf(Count count, int own, int name) const;
     [[nodiscard]] Count countOf(std::size_t variable, int name) const;
@@ -77,6 +92,7 @@ private:
     QHash<int, std::vector<int>> m_lineTexts;
     QHash<int, std::vector<int>> m_rowTexts;
     std::vector<std::vector<Count>> m_counts; ///< by variable and name
+    QHash<int, int> m_learnedRow;             ///< by index
     std::vector<double> m_best;               ///< highest weight of each variable
     QHash<quint64, double> m_likeness;        ///< of a line and a row that is not its own
     int m_partners = 0;

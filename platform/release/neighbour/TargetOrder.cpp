@@ -33,31 +33,23 @@ TargetOrder::TargetOrder(const NeighbourLines &lines, int target)
 
 void TargetOrder::learn(const NeighbourLines &lines)
 {
-    int kept = 0;
-    int broken = 0;
     for (std::size_t i = 1; i < m_rows.size(); ++i) {
-        kept += m_rows[i] > m_rows[i - 1] ? 1 : 0;
-        broken += m_rows[i] < m_rows[i - 1] ? 1 : 0;
+        m_kept += m_rows[i] > m_rows[i - 1] ? 1 : 0;
+        m_broken += m_rows[i] < m_rows[i - 1] ? 1 : 0;
     }
-    int single = 0;
-    int shared = 0;
-    int free = 0; // places where rows between those of the lines are
     bool isFilled = false;
     int open = 0;
     for (const std::vector<int> &owners : m_owners) {
-        single += owners.size() == 1 ? 1 : 0;
-        shared += owners.size() > 1 ? 1 : 0;
         if (owners.empty()) {
-            open += isFilled && single + shared > 0 ? 1 : 0;
+            open += isFilled ? 1 : 0;
         } else {
-            free += open;
+            ++m_owned;
+            m_shared += owners.size() > 1 ? 1 : 0;
+            m_gaps += open;
             open = 0;
         }
         isFilled = !owners.empty();
     }
-    m_orderWeight = weightOf(kept, broken);
-    m_sharedWeight = weightOf(single, shared);
-    m_freeWeight = weightOf(single + shared, free);
     const auto without =
         std::count_if(lines.lines.begin(), lines.lines.end(),
                       [](const NeighbourLines::Line &line) { return line.row < 0; });
@@ -89,12 +81,19 @@ double TargetOrder::gain(const std::vector<Move> &moves) const
         if (row >= 0)
             ++known(row);
     }
-    double sum = 0;
+    int lessShared = 0;
+    int lessFree = 0;
+    int mendedShared = 0;
+    int mendedGaps = 0;
     for (const auto &[row, after] : owners) {
         const int before = int(m_owners[std::size_t(row)].size());
-        sum += m_sharedWeight * (std::max(0, before - 1) - std::max(0, after - 1));
-        sum += m_freeWeight * ((before == 0 ? 1 : 0) - (after == 0 ? 1 : 0));
+        lessShared += std::max(0, before - 1) - std::max(0, after - 1);
+        lessFree += (before == 0 ? 1 : 0) - (after == 0 ? 1 : 0);
+        mendedShared += before > 1 && after < 2 ? 1 : 0;
+        mendedGaps += before == 0 && after > 0 ? 1 : 0;
     }
+    int lessBroken = 0;
+    int mendedSteps = 0;
     auto move = moves.begin();
     int last = -1; // the position whose step from the one before was looked at
     const auto rowAfter = [&](int position) {
@@ -112,20 +111,38 @@ double TargetOrder::gain(const std::vector<Move> &moves) const
             const int to = rowAfter(position);
             const bool before = rowAt(position) < rowAt(position - 1);
             const bool after = from >= 0 && to >= 0 && to < from;
-            sum += m_orderWeight * ((before ? 1 : 0) - (after ? 1 : 0));
+            lessBroken += (before ? 1 : 0) - (after ? 1 : 0);
+            mendedSteps += before && !after ? 1 : 0;
         }
     }
-    return sum;
+    return orderWeight(mendedSteps) * lessBroken + sharedWeight(mendedShared) * lessShared +
+           freeWeight(mendedGaps) * lessFree;
+}
+
+double TargetOrder::orderWeight(int mended) const
+{
+    return weightOf(m_kept, std::max(0, m_broken - mended));
+}
+
+double TargetOrder::sharedWeight(int mended) const
+{
+    const int shared = std::max(0, m_shared - mended);
+    return weightOf(m_owned - shared, shared);
+}
+
+double TargetOrder::freeWeight(int mended) const
+{
+    return weightOf(m_owned, std::max(0, m_gaps - mended));
 }
 
 double TargetOrder::room(int position) const
 {
     const int row = rowAt(position);
-    double sum = owners(row).size() > 1 ? m_sharedWeight + m_freeWeight : 0;
+    double sum = owners(row).size() > 1 ? sharedWeight() + freeWeight() : 0;
     if (position > 0 && row < rowAt(position - 1))
-        sum += m_orderWeight;
+        sum += orderWeight();
     if (position + 1 < count() && row > rowAt(position + 1))
-        sum += m_orderWeight;
+        sum += orderWeight();
     return sum;
 }
 

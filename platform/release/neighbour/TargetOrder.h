@@ -35,23 +35,30 @@ public:
 
     /// By how much, as a logarithm, order, shared and free rows are more usual after the moves, of
     /// which each is of another position, in ascending order. A row of -1 takes the line's away.
+    /// What the moves would mend does not count as usual.
     [[nodiscard]] double gain(const std::vector<Move> &moves) const;
-    /// What the line at a position could gain at most.
+    /// What the line at a position could gain at most, as usual as it is now.
     [[nodiscard]] double room(int position) const;
     void apply(const std::vector<Move> &moves);
-    [[nodiscard]] double freeWeight() const { return m_freeWeight; }
+    /// How much more usual it is that no row between those of the lines is free, by what is seen
+    /// but so many places that were mended.
+    [[nodiscard]] double freeWeight(int mended = 0) const;
     /// How much more usual it is that a line has a row than that it has none.
     [[nodiscard]] double withoutWeight() const { return m_withoutWeight; }
 
 private:
     void learn(const NeighbourLines &lines);
+    [[nodiscard]] double orderWeight(int mended = 0) const;
+    [[nodiscard]] double sharedWeight(int mended = 0) const;
 
     std::vector<int> m_indexes;
     std::vector<int> m_rows;
     std::vector<std::vector<int>> m_owners; ///< by row
-    double m_orderWeight = 0;
-    double m_sharedWeight = 0;
-    double m_freeWeight = 0;
+    int m_kept = 0;                         ///< lines behind the row of the line before, and others
+    int m_broken = 0;
+    int m_owned = 0; ///< rows with lines, and those of them with several
+    int m_shared = 0;
+    int m_gaps = 0; ///< places between the rows of lines where rows are free
     double m_withoutWeight = 0;
 };
 
