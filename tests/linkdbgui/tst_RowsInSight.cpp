@@ -76,10 +76,40 @@ class tst_RowsInSight : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void comeAsTheViewScrolls();
     void modelsStaySound();
     void areFoundBeforeTheyAreThere();
     void areFilteredBeforeTheyAreThere();
 };
+
+void tst_RowsInSight::comeAsTheViewScrolls()
+{
+    Tree tree;
+    tree.view.setCurrentIndex(tree.large());
+    QTest::keyClick(&tree.view, Qt::Key_Right);
+    QVERIFY(tree.view.isExpanded(tree.large()));
+    QTest::qWait(0);
+    const int first = tree.filter.rowCount(tree.large());
+    QVERIFY2(first > 0 && first < Projects, qPrintable(QString::number(first)));
+    // What follows is in its place all the same.
+    QCOMPARE(tree.filter.index(1, 0, tree.catalog()).data().toString(), QString("other.prj"));
+    for (int pages = 0; pages < Projects; ++pages) {
+        const QModelIndex before = tree.view.currentIndex();
+        QTest::keyClick(&tree.view, Qt::Key_PageDown);
+        QTest::qWait(0);
+        if (tree.view.currentIndex() == before)
+            break;
+        // No end in sight before the last one.
+        const QModelIndex current = tree.view.currentIndex();
+        if (current.parent() == tree.large())
+            QVERIFY(tree.filter.rowCount(tree.large()) - current.row() > 20 ||
+                    tree.filter.rowCount(tree.large()) == Projects);
+    }
+    QCOMPARE(tree.view.currentIndex().data().toString(), QString("other.prj"));
+    QCOMPARE(tree.filter.rowCount(tree.large()), Projects);
+    for (const int row : {0, 999, 1000, Projects - 1})
+        QCOMPARE(tree.filter.index(row, 0, tree.large()).data().toString(), nameOf(row));
+}
 
 /// The tester fetches all that it can.
 void tst_RowsInSight::modelsStaySound()
