@@ -1,5 +1,6 @@
 #include <core/parallel/WorkerPool.h>
 #include <geomcore/plan/LinePlanner.h>
+#include <geomcore/plan/PairEvidence.h>
 
 #include <QTest>
 
@@ -87,6 +88,7 @@ private Q_SLOTS:
     void nearShareIsThatOfACount_data();
     void nearShareIsThatOfACount();
     void boundsHold();
+    void likelierOfTwoTexts();
     void oneRowFarAhead();
     void keyAloneIsNotFarAhead();
     void partOfManyLinesTeachesAll();
@@ -188,6 +190,25 @@ void tst_LinePlanner::boundsHold()
         }
     }
     QVERIFY(ended > 90 * 90 / 2);
+}
+
+/// Each of two texts has so many tokens of the old one that it would say more than that it is this
+/// one of all: the one that has one more is ahead nevertheless.
+void tst_LinePlanner::likelierOfTwoTexts()
+{
+    Table rows{{"a b c d e f g h i j k other"}, {"a b c d e f g h i j some thing"}};
+    for (int i = 0; i < 20; ++i)
+        rows.push_back({"x" + std::to_string(i)});
+    PlanTables tables;
+    fill(tables, {{"a b c d e f g h i j k l"}}, rows, 0);
+    const std::vector<VariableRates> rates{VariableRates::assumed()};
+    const ChangeMemory changes(1);
+    const PairEvidence evidence(tables, rates, changes);
+    const PlanTarget &target = tables.targets.front();
+    const double more = evidence.cell(target, 0, 0, 0, 0).weight;
+    const double less = evidence.cell(target, 0, 1, 0, 0).weight;
+    QVERIFY(less > 0);
+    QVERIFY(more > less + 0.1);
 }
 
 void tst_LinePlanner::oneRowFarAhead()

@@ -57,6 +57,8 @@ private Q_SLOTS:
     void agreedReplacements();
     void agreedReplacementIsTold();
     void goneLinesHaveNoProposal();
+    void equalLinesOfAllTargets();
+    void likeLinesKeepTheirOrder();
     void renumberedKey();
     void probabilitiesHold_data();
     void probabilitiesHold();
@@ -327,6 +329,44 @@ void tst_PrjMapperCandidates::goneLinesHaveNoProposal()
             line % 5 == 0 ? QStringLiteral("none") : QStringLiteral("0:%1").arg(line - line / 5);
         QCOMPARE(fixture.proposal(line), expected);
     }
+}
+
+/// A table was split between two lines that are alike.
+void tst_PrjMapperCandidates::equalLinesOfAllTargets()
+{
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", "D,k:n\nM1,1\nM5,5\nM5,5\nM7,7\n");
+    catalog.write("new/p.prj", "D,k:n\nM1,1\nM5,5\n");
+    catalog.write("new/q.prj", "D,k:n\nM5,5\nM7,7\n");
+    MapperFixture fixture(catalog, {"new/p.prj", "new/q.prj"});
+    fixture.start();
+    QCOMPARE(fixture.proposal(1), QString("0:1"));
+    QCOMPARE(fixture.proposal(2), QString("0:2"));
+    QCOMPARE(fixture.proposal(3), QString("1:1"));
+    QCOMPARE(fixture.proposal(4), QString("1:2"));
+}
+
+/// Rows came in above and below some lines that are alike.
+void tst_PrjMapperCandidates::likeLinesKeepTheirOrder()
+{
+    QByteArray source = "a:n,b:n\n";
+    QByteArray target = source;
+    const auto line = [](int i) {
+        return QByteArray::number(10 * i) + ',' + QByteArray::number(13 * i) + '\n';
+    };
+    for (int i = 1; i <= 30; ++i) {
+        source += line(i < 15 || i > 22 ? i : 15);
+        if (i == 15 || i == 23)
+            target += line(100 + i);
+        target += line(i < 15 || i > 22 ? i : 15);
+    }
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", source);
+    catalog.write("new/a.prj", target);
+    MapperFixture fixture(catalog, {"new/a.prj"});
+    fixture.start();
+    for (int number = 15; number <= 22; ++number)
+        QCOMPARE(fixture.proposal(number), QStringLiteral("0:%1").arg(number + 1));
 }
 
 /// Each key is that of another line now, and nothing else has changed.

@@ -100,7 +100,7 @@ private:
     void collectOpenTargets(const Mapper::LineInput &line, bool firstOnly);
     [[nodiscard]] Mapper::Proposal propose(const Mapper::LineInput &line);
     [[nodiscard]] Mapper::Proposal findEqual(const Mapper::LineInput &line);
-    /// Of several equal lines the one that the plan gives this line.
+    /// Of several equal lines, also of other targets, the one that the plan gives this line.
     [[nodiscard]] Mapper::Proposal amongEqual(const Mapper::LineInput &line,
                                               const Mapper::Proposal &equal);
     /// Null if making it was cancelled, or there is nothing to plan for.

@@ -71,12 +71,13 @@ Proposal PrjMapperPrivate::amongEqual(const LineInput &line, const Proposal &equ
         return equal;
     for (const Plan::PlanEdge &edge : planned(line)) {
         const BoundTarget *target = openTarget(m_plan->targetOf(edge));
-        if (!target || !TargetSet::haveSameProject(*target, *equal.target))
+        if (!target || targets().rank(*target) != targets().rank(*equal.target))
             continue;
         target->takeValues(line, m_values);
         const int row = m_plan->rowOf(edge);
         if (m_values.search->equals(m_values.texts, row))
-            return {equal.target, row};
+            return {TargetSet::haveSameProject(*target, *equal.target) ? equal.target : target,
+                    row};
     }
     return equal;
 }

@@ -2,6 +2,7 @@
 
 #include "EdgeLists.h"
 
+#include <functional>
 #include <vector>
 
 namespace Plan {
@@ -16,9 +17,13 @@ struct LineChoice
     /// By line.
     std::vector<double> noSuccessor;
 
+    /// Whether two lines differ in nothing, nor do the rows of two edges, in a table that keeps the
+    /// order of lines.
+    using AreAlike = std::function<bool(size_t line, size_t otherLine, const PlanEdge &row,
+                                        const PlanEdge &otherRow)>;
     /// Leaves the candidates of each line, most probable first, but the one that the assignment
     /// gives before the others.
-    [[nodiscard]] static LineChoice of(EdgeLists &edges, int nodeCount);
+    [[nodiscard]] static LineChoice of(EdgeLists &edges, int nodeCount, const AreAlike &areAlike);
 };
 
 } // namespace Plan

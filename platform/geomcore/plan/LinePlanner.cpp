@@ -141,7 +141,11 @@ void LinePlanner::learnInRounds()
         learn(isLast);
     }
     m_standsFor = {};
-    m_choice = LineChoice::of(m_edges, m_nodeCount);
+    m_choice = LineChoice::of(
+        m_edges, m_nodeCount,
+        [this](size_t line, size_t otherLine, const PlanEdge &row, const PlanEdge &otherRow) {
+            return areAlike(line, otherLine, row, otherRow);
+        });
 }
 
 LinePlanner::Line LinePlanner::line(size_t line) const
@@ -150,6 +154,18 @@ LinePlanner::Line LinePlanner::line(size_t line) const
     if (made.m_choice.noSuccessor.empty())
         return {};
     return {std::as_const(made.m_edges)[line], made.m_choice.noSuccessor[line]};
+}
+
+bool LinePlanner::areAlike(size_t line, size_t otherLine, const PlanEdge &row,
+                           const PlanEdge &otherRow) const
+{
+    const PlanTarget &target = m_tables.targets[size_t(row.target)];
+    for (size_t place = 0; place < target.variables.size(); ++place) {
+        if (target.lines.at(line, place) != target.lines.at(otherLine, place) ||
+            target.rows.at(size_t(row.row), place) != target.rows.at(size_t(otherRow.row), place))
+            return false;
+    }
+    return m_keepsOrder[size_t(row.target)] != 0;
 }
 
 void LinePlanner::freeSearch()
@@ -185,6 +201,7 @@ void LinePlanner::takeSample()
 void LinePlanner::findPlaces(bool first)
 {
     m_places.clear();
+    m_keepsOrder.clear();
     for (size_t t = 0; t < m_tables.targets.size(); ++t) {
         const PlanTarget &target = m_tables.targets[t];
         std::vector<int> partners = target.settled;
@@ -197,6 +214,7 @@ void LinePlanner::findPlaces(bool first)
         }
         m_places.emplace_back(std::move(partners), target.rowCount);
         m_places.back().learn();
+        m_keepsOrder.push_back(m_places.back().keepsOrder() ? 1 : 0);
     }
 }
 

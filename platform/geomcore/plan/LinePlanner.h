@@ -67,6 +67,8 @@ private:
     void makeEdges(bool ofAll);
     /// Of very many lines a part is enough to learn from.
     void takeSample();
+    [[nodiscard]] bool areAlike(size_t line, size_t otherLine, const PlanEdge &row,
+                                const PlanEdge &otherRow) const;
     /// Once all edges are made, nothing is looked up any more.
     void freeSearch();
     [[nodiscard]] double prior(size_t target) const;
@@ -104,6 +106,7 @@ private:
     ChangeMemory m_changes;
     std::unique_ptr<PairEvidence> m_evidence; ///< By m_rates and m_changes as they are.
     std::vector<PlaceEvidence> m_places;      ///< By target.
+    std::vector<char> m_keepsOrder;           ///< By target, as they said last.
     double m_gone;
     std::vector<double> m_shares; ///< By target: how many of the lines that have a successor.
     EdgeLists m_edges;

@@ -136,22 +136,31 @@ double PairEvidence::alikeRatio(const CellValues &values, const ColumnChance &ch
     const double added = std::log(rates.adds);
     const double stays = std::log(rates.stays);
     const double goes = std::log(1 - rates.stays);
+    double whole = sum; // what it would be if all of the old text stayed, and nothing else came
     auto i = a.begin();
     auto j = b.begin();
     while (i != a.end() || j != b.end()) {
         const bool onlyOld = j == b.end() || (i != a.end() && *i < *j);
         const bool onlyNew = !onlyOld && (i == a.end() || *j < *i);
         const ColumnChance::TokenChance &token = chance.tokenChance(onlyNew ? *j : *i);
-        sum -= (1 - rates.adds) * token.share;
+        const double usual = (1 - rates.adds) * token.share;
+        const double kept = stays - token.logShare;
+        whole += onlyNew ? 0 : kept - usual;
+        sum -= usual;
         if (onlyOld)
             sum += goes - token.logWithout;
         else
-            sum += onlyNew ? added : stays - token.logShare;
+            sum += onlyNew ? added : kept;
         i += onlyNew ? 0 : 1;
         j += onlyOld ? 0 : 1;
     }
-    // No value says more than that it is this one of all.
-    return std::min(std::exp(sum), 1 / chance.share(newValue));
+    // No value says more than that it is this one of all. Where the tokens of the old text, each
+    // taken by itself, would say more, each says so much less: of two texts that have most of it
+    // the one that has more is still ahead.
+    const double most = -std::log(chance.share(newValue));
+    if (sum > 0 && whole > most)
+        sum *= most / whole;
+    return std::exp(std::min(sum, most));
 }
 
 double PairEvidence::sameWeight(const PlanTarget &target, size_t place, int value) const

@@ -17,6 +17,8 @@ public:
 
     /// Learns from the known pairs, each seen as if it were not known.
     void learn();
+    /// Most known pairs stand near the places that their neighbours suggest, or between them.
+    [[nodiscard]] bool keepsOrder() const { return m_shares[Anywhere] < 0.5; }
     /// The logarithm of how much more probable the row is as the partner of the source row than
     /// any other.
     [[nodiscard]] double weight(int sourceRow, int targetRow) const;
