@@ -481,8 +481,13 @@ void tst_Review::isPaintedInATurnOfItsOwn()
     ReviewFixture fixture;
     fixture.action("goNext")->trigger();
     fixture.window->findChild<QPushButton *>("btnMapLine")->click();
-    QTest::qWait(50);
     PaintCounter pictures(fixture.sourceView()->grid()->viewport());
+    // Nothing of the step before may still be on its way.
+    QTRY_VERIFY_WITH_TIMEOUT(!fixture.review()->work()->isReading(), 20'000);
+    do {
+        pictures.count = 0;
+        QTest::qWait(150);
+    } while (pictures.count > 0);
     act(fixture);
     QCoreApplication::sendPostedEvents();
     QCOMPARE(pictures.count, 0);
