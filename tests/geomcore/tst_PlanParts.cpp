@@ -1,9 +1,11 @@
 #include <core/parallel/WorkerPool.h>
 #include <geomcore/mapper/CellNumbering.h>
 #include <geomcore/plan/CandidateLists.h>
+#include <geomcore/plan/LineChoice.h>
 #include <geomcore/plan/SoftAssignment.h>
 #include <geomcore/plan/SparseAssignment.h>
 
+#include <QList>
 #include <QTest>
 
 #include <cmath>
@@ -91,6 +93,8 @@ private Q_SLOTS:
     void probabilitiesAreSpread();
     void onlyWhatCountsIsAssigned();
     void lonePairsStandForThemselves();
+    void whatIsAlikeDoesNotCross_data();
+    void whatIsAlikeDoesNotCross();
 };
 
 void tst_PlanParts::packedCellsAreTheSame_data()
@@ -279,6 +283,46 @@ void tst_PlanParts::onlyWhatCountsIsAssigned()
         QCOMPARE(edges[line][size_t(found[line])].node, rest[line][size_t(expected[line])].node);
     }
     QVERIFY(assigned > 30);
+}
+
+void tst_PlanParts::whatIsAlikeDoesNotCross_data()
+{
+    QTest::addColumn<double>("gain"); // of crossing
+    QTest::addColumn<bool>("alike");
+    QTest::addColumn<int>("otherTarget");
+    QTest::addColumn<QList<int>>("rows");
+    QTest::newRow("hardly worth it") << 0.5 << true << 0 << QList<int>{1, 2, 3};
+    QTest::newRow("less than two to one") << 0.69 << true << 0 << QList<int>{1, 2, 3};
+    QTest::newRow("more") << 0.7 << true << 0 << QList<int>{3, 2, 1};
+    QTest::newRow("they differ") << 0.5 << false << 0 << QList<int>{3, 2, 1};
+    QTest::newRow("rows of another target") << 0.5 << true << 1 << QList<int>{3, 2, 1};
+}
+
+/// Three lines whose rows stand the other way round; those of the second one have no other.
+void tst_PlanParts::whatIsAlikeDoesNotCross()
+{
+    QFETCH(double, gain);
+    QFETCH(bool, alike);
+    QFETCH(int, otherTarget);
+    EdgeLists edges(3);
+    edges.refill(0, [&](size_t line, EdgeLists::Block &out) {
+        const int first = line == 1 ? 2 : 1;
+        const int last = line == 1 ? 2 : 3;
+        for (int row = first; row <= last; row += 2) {
+            const bool isCrossing = line == 1 || (line == 0) == (row == 3);
+            out.add({row == 1 ? otherTarget : 0, row, row, isCrossing ? 4 + gain / 2 : 4, 0.4});
+        }
+    });
+    const auto areAlike = [&](size_t line, size_t otherLine, const PlanEdge &row,
+                              const PlanEdge &otherRow) {
+        return alike && line == 0 && otherLine == 2 && row.row == 3 && otherRow.row == 1;
+    };
+    const LineChoice choice = LineChoice::of(edges, 4, areAlike);
+    QList<int> rows;
+    for (size_t line = 0; line < edges.size(); ++line)
+        rows += edges[line].front().row;
+    QTEST(rows, "rows");
+    QCOMPARE(choice.noSuccessor.size(), edges.size());
 }
 
 /// Beside lines that compete, those with a single pair whose row no other line wants get what they

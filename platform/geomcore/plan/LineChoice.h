@@ -2,13 +2,15 @@
 
 #include "EdgeLists.h"
 
+#include <geomcore/VelkGeomCoreGlobal.h>
+
 #include <functional>
 #include <vector>
 
 namespace Plan {
 
 /// What a line may have become at last.
-struct LineChoice
+struct VELKGEOMCORE_EXPORT LineChoice
 {
     static constexpr size_t MaxCandidates = 5;
 
