@@ -124,16 +124,29 @@ function(velk_library name)
   endif()
   add_library(${name} ${ARG_TYPE} ${files})
   target_compile_definitions(${name} PRIVATE ${ARG_MACRO})
-  # Makes the moc step notice headers that were added since it last ran.
-  set(headers ${files})
-  list(FILTER headers INCLUDE REGEX "\\.h$")
-  set_property(TARGET ${name} PROPERTY AUTOGEN_TARGET_DEPENDS ${headers})
+  velk_moc_headers(${name} ${files})
   target_include_directories(${name} PUBLIC "$<BUILD_INTERFACE:${ARG_INCLUDE}>")
   target_link_libraries(${name} PUBLIC ${ARG_DEPENDS})
   if(NOT ARG_APART)
     velk_unity(${name} ${files})
   endif()
   velk_defaults(${name})
+endfunction()
+
+# velk_moc_headers(TARGET FILE...): the moc step knows the headers of its last run only. If others came
+# or went since, it runs again.
+function(velk_moc_headers target)
+  set(headers ${ARGN})
+  list(FILTER headers INCLUDE REGEX "\\.h$")
+  set(noted "${CMAKE_CURRENT_BINARY_DIR}/${target}_headers.txt")
+  set(before "")
+  if(EXISTS "${noted}")
+    file(READ "${noted}" before)
+  endif()
+  if(NOT "${before}" STREQUAL "${headers}")
+    file(REMOVE "${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/timestamp")
+    file(WRITE "${noted}" "${headers}")
+  endif()
 endfunction()
 
 # velk_program(NAME [SOURCES FILE...] DEPENDS TARGET...): a program of those files, or of all sources

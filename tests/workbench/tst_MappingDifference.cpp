@@ -1,6 +1,7 @@
 #include "SessionFixture.h"
 
 #include <release/history/JournalRow.h>
+#include <workbench/session/ChangeOnTop.h>
 #include <workbench/session/JournalText.h>
 #include <workbench/session/MappingDifference.h>
 #include <workbench/session/ReleaseChanges.h>
@@ -137,6 +138,7 @@ private Q_SLOTS:
     void refusesAnotherState_data();
     void refusesAnotherState();
     void keepsWhatMakesATargetValid();
+    void anotherOrderWantsTheSameTargets();
     void tellsMarks();
     void smallChangesHaveSmallTexts();
     void framesAreChecked_data();
@@ -269,6 +271,38 @@ void tst_MappingDifference::keepsWhatMakesATargetValid()
     QCOMPARE(applied.targetAt(0).getTabVersion(), QStringLiteral("t9"));
     const MappingDifference back = MappingDifference::between(after, before);
     QVERIFY(back.applied(after).value().targetAt(0).isValid());
+}
+
+/// Taken back on a mapping that has one more target since: where that one would have to stand is
+/// not known. A change of a head is no matter of the order.
+void tst_MappingDifference::anotherOrderWantsTheSameTargets()
+{
+    const auto target = [](const QString &path) {
+        PrjMappingTargetC made;
+        made.setTargetPath(path);
+        made.setValid(true);
+        return made;
+    };
+    PrjMappingC before = SessionFixture::plainMapping(QStringLiteral("a.prj"), 2);
+    before.insertTarget(1, target(QStringLiteral("new/b.prj")));
+    PrjMappingC moved = before;
+    const PrjMappingTargetC first = moved.findTarget(0);
+    moved.removeTarget(0);
+    moved.insertTarget(1, first);
+    PrjMappingC renewed = before;
+    PrjMappingTargetC head = renewed.findTarget(1);
+    head.setTabVersion(QStringLiteral("t9"));
+    renewed.updateTarget(1, head);
+    for (const PrjMappingC &after : {moved, renewed}) {
+        const MappingDifference back = MappingDifference::between(after, before);
+        const ChangeOnTop done = ChangeOnTop::apply(after, back);
+        QVERIFY(done.fits());
+        QCOMPARE(done.result.targetAt(0).getTargetPath(), before.targetAt(0).getTargetPath());
+        PrjMappingC since = after;
+        since.insertTarget(2, target(QStringLiteral("new/c.prj")));
+        const bool isMoved = after.targetAt(0).getTargetPath() == QStringLiteral("new/b.prj");
+        QCOMPARE(ChangeOnTop::apply(since, back).targetsBlock, isMoved);
+    }
 }
 
 void tst_MappingDifference::tellsMarks()

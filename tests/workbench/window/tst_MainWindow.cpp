@@ -22,6 +22,7 @@
 #include <QDialog>
 #include <QDir>
 #include <QDirIterator>
+#include <QDockWidget>
 #include <QFileDialog>
 #include <QLabel>
 #include <QMenu>
@@ -516,6 +517,19 @@ private Q_SLOTS:
         values.keys.clear();
         fixture.settings->setValues(values);
         QCOMPARE(fixture.action("reviewPatterns")->shortcut(), QKeySequence("F7"));
+    }
+
+    /// What belongs to a task of its own waits until it is called.
+    void beginsWithoutItsPanels()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        QStringList shown;
+        for (const QDockWidget *const dock : fixture.window->findChildren<QDockWidget *>()) {
+            if (!dock->isHidden())
+                shown += dock->objectName();
+        }
+        QCOMPARE(shown, QStringList());
     }
 
     void bringsErrorsToTheFront()

@@ -20,6 +20,7 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileDialog>
 #include <QLabel>
@@ -78,6 +79,7 @@ private Q_SLOTS:
     void everyTextIsThere();
     void menu();
     void report();
+    void tellsOfEveryTable();
     void paper();
     void reportByMenu();
     void printsTheTable();
@@ -201,6 +203,27 @@ void tst_ReleaseCommands::report()
                           "</td><td>&lt;Schritt &amp; Tat&gt;</td>"));
     QVERIFY(html.contains("<td>anna</td><td class=\"n\" align=\"right\">345</td>"));
     QVERIFY(html.contains("5.0 %"));
+}
+
+void tst_ReleaseCommands::tellsOfEveryTable()
+{
+    WindowFixture fixture;
+    fixture.open(fixture.mappingFile());
+    // A catalog with two tables that cannot be read as they are described.
+    const QString root = fixture.directory.filePath("old");
+    QDirIterator files(WindowFixture::roots().source, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString path = files.next();
+        write(root + path.mid(WindowFixture::roots().source.size()), contentOf(path));
+    }
+    for (const char *const table : {"pins/iso8734", "screws/din933"})
+        write(root + "/standardparts/" + table + ".csv", "a,b\n1,2\n");
+    fixture.window->desk()->document()->setCatalogRoots({root, WindowFixture::roots().target});
+    const qsizetype before = fixture.window->log()->text().size();
+    QVERIFY(fixture.window->releases()->writeReport(fixture.directory.filePath("report.html")));
+    const QString told = fixture.window->log()->text().mid(before);
+    QVERIFY2(told.contains("iso8734.csv"), qPrintable(told));
+    QVERIFY2(told.contains("din933.csv"), qPrintable(told));
 }
 
 void tst_ReleaseCommands::paper()
