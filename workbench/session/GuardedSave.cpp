@@ -295,12 +295,13 @@ bool GuardedSave::holdsExpected(ReadBack &copy) const
 {
     PJsonValue document = expected();
     if (const std::optional<ReleaseDigest::Text> text = m_digest->text())
-        document[date()] = PJsonValue::fromWriter(PJsonValue::Object, [&](JsonWriter &writer) {
-            writer.leaveTo([&] {
-                copy.expect(text->size, text->hash);
-                return qsizetype(text->size);
+        document[date()] =
+            PJsonValue::fromWriter(PJsonValue::Object, [&copy, text = *text](JsonWriter &writer) {
+                writer.leaveTo([&] {
+                    copy.expect(text.size, text.hash);
+                    return qsizetype(text.size);
+                });
             });
-        });
     return document.writeTo(copy, false) && copy.isSame();
 }
 
