@@ -26,12 +26,20 @@ QString tableName(const QString &projectPath)
     return projectPath.mid(begin, projectPath.lastIndexOf('.') - begin);
 }
 
+QString textOf(const QList<VelkRelease::ValueChange> &changes)
+{
+    QStringList texts;
+    for (const VelkRelease::ValueChange &change : changes)
+        texts << change.text({"near", "other number", "wording", "added", "missing", "notation",
+                              "project", "another name", "changed", "one or more of these"});
+    return texts.join("; ");
+}
+
 QString textOf(const VelkRelease::DifferencePatterns &patterns, int pattern)
 {
     QStringList texts;
-    for (const VelkRelease::ValueChange &change : patterns.changes(pattern))
-        texts << change.text({"near", "other number", "wording", "added", "missing", "notation",
-                              "project", "another name", "changed", "and further usual ones"});
+    if (!patterns.changes(pattern).isEmpty())
+        texts << textOf(patterns.changes(pattern));
     if (!patterns.isComparable(pattern))
         texts << "not comparable";
     if (patterns.isDoubtful(pattern))
@@ -55,6 +63,7 @@ public:
     void add(int position, const PrjMappingC &mapping, const ReleaseMappingC &head)
     {
         m_position = position;
+        m_names[position] = tableName(mapping.getSourcePath());
         const QString source = tableName(mapping.getSourcePath());
         const auto table = m_set.olds.find(source);
         VKTab::ContentRef content;
@@ -91,7 +100,10 @@ public:
     void addDecisions(const VelkRelease::DifferencePatterns &patterns)
     {
         const std::set<int> goneProjects = projectsOfGoneLines();
-        for (int pattern = 0; pattern < patterns.count(); ++pattern) {
+        std::vector<int> all = patterns.ranked();
+        const std::vector<int> withoutSuccessor = patterns.rankedGone();
+        all.insert(all.end(), withoutSuccessor.begin(), withoutSuccessor.end());
+        for (const int pattern : all) {
             // One decision on the project takes its other groups too.
             if (patterns.gone(pattern) && isWithin(patterns.places(pattern), goneProjects))
                 continue;
@@ -109,24 +121,27 @@ public:
             if (projects.empty())
                 continue;
             int decisions = 0;
-            int all = 0;
+            int lines = 0;
             int wrong = 0;
             bool allRight = true;
+            const QStringList examples = examplesOf(patterns, pattern);
             for (const auto &[project, counts] : projects) {
                 const bool isRight = counts.first == counts.second;
                 decisions += isRight ? 1 : counts.first;
                 allRight = allRight && isRight;
-                all += counts.first;
+                lines += counts.first;
                 wrong += counts.first - counts.second;
             }
             decisions = allRight ? std::min(1, decisions) : decisions;
             m_score.decisions += decisions;
             m_score.decided << QStringLiteral("%1 for %2 lines, %3 wrong, in %4 projects: %5")
                                    .arg(decisions)
-                                   .arg(all)
+                                   .arg(lines)
                                    .arg(wrong)
                                    .arg(projects.size())
                                    .arg(textOf(patterns, pattern));
+            for (const QString &example : examples)
+                m_score.decided << "    " + example;
         }
         std::map<int, std::pair<int, int>> expired; // lines without a proposal, and gone ones
         for (const auto &[place, state] : m_open) {
@@ -147,6 +162,21 @@ public:
                                    .arg(counts.first)
                                    .arg(counts.second);
         }
+    }
+    /// Some lines of a pattern, with their changes if these are others.
+    [[nodiscard]] QStringList examplesOf(const VelkRelease::DifferencePatterns &patterns,
+                                         int pattern) const
+    {
+        QStringList examples;
+        for (const auto &place : patterns.places(pattern, 12)) {
+            const auto own = patterns.changesAt(place);
+            examples << QStringLiteral("%1:%2, %3 %4")
+                            .arg(m_names.value(place.project))
+                            .arg(place.line)
+                            .arg(patterns.probability(place).value_or(0), 0, 'f', 3)
+                            .arg(own == patterns.changes(pattern) ? QString() : textOf(own));
+        }
+        return examples;
     }
     /// Projects in which all lines without a proposal are gone.
     [[nodiscard]] std::set<int> projectsOfGoneLines() const
@@ -261,6 +291,7 @@ private:
     const QString m_sourceRoot;
     QHash<TruthFile::Place, bool> m_seen;
     int m_position = 0;
+    QHash<int, QString> m_names;                ///< Source tables by mapping.
     std::map<std::pair<int, int>, Open> m_open; ///< By mapping and line.
     RuleScore m_score;
 };

@@ -18,7 +18,7 @@ using Place = DifferencePatterns::Place;
 namespace {
 
 const ValueChange::Words words{"near",     "other",   "wording",     "added",   "missing",
-                               "spelling", "project", "another one", "changed", "and usual ones"};
+                               "spelling", "project", "another one", "changed", "one or more"};
 
 QString textOf(const DifferencePatterns &patterns, int pattern)
 {
@@ -89,6 +89,7 @@ private Q_SLOTS:
     void namesOfProjectsAreADifference();
     void longListIsShortened_data();
     void longListIsShortened();
+    void lineOfUsualChangesIsAnException();
     void decisionsTakeLinesOut();
     void otherProposalIsPending();
     void leastSureFirst();
@@ -335,14 +336,24 @@ void tst_DifferencePatterns::longListIsShortened_data()
         << Kinds{many, {"3", "A=p>q"}} << QStringList{"A: wording|63 lines"};
     QTest::newRow("family of five keeps its name")
         << Kinds{many, {"5", "A=p>q"}} << QStringList{most, "A: p \u2192 q|5 lines"};
-    QTest::newRow("usual changes are shown by the one that most lines have")
+    QTest::newRow("lines of usual changes are one pattern, by all of these")
         << Kinds{many,
                  {"10", "B=1%1>900%2"},
                  {"2", "A=x%1>y%1%2", "B=1%1>900%2"},
                  {"10", "C=>v%1"},
                  {"1", "C=>v%1", "A=x%1>y%1%2"}}
         << QStringList{most, "B: other|10 lines", "C: added|10 lines",
-                       "A: wording; and usual ones|3 lines"};
+                       "A: wording; B: other; C: added; one or more|3 lines"};
+    QTest::newRow("blanks and capitals are usual in any line")
+        << Kinds{many,
+                 {"1", "B=M %1>m%1"},
+                 {"1", "B=M %1>m%1", "A=x%1>y%1%2"},
+                 {"1", "D=4>", "B=M %1>m%1"}}
+        << QStringList{most, "B: spelling; A: wording; one or more|2 lines",
+                       "D: missing; B: spelling|1 lines"};
+    QTest::newRow("family without its name where few lines have nothing else")
+        << Kinds{many, {"4", "A=p>q"}, {"3", "A=p>q", "D=%1>"}}
+        << QStringList{"A: wording|64 lines", "A: p \u2192 q; D: missing|3 lines"};
     QTest::newRow("nobody else is shown so")
         << Kinds{many, {"10", "B=1%1>900%2"}, {"2", "A=x%1>y%1%2", "B=1%1>900%2"}}
         << QStringList{most, "B: other|10 lines", "A: wording; B: other|2 lines"};
@@ -394,6 +405,44 @@ void tst_DifferencePatterns::longListIsShortened()
     for (const QString &text : textsOf(found))
         texts << text.left(text.indexOf(','));
     QCOMPARE(texts, patterns);
+}
+
+/// Of the patterns all of whose changes it has, not of others that it is listed with.
+void tst_DifferencePatterns::lineOfUsualChangesIsAnException()
+{
+    DifferencePatterns::Read read;
+    const auto add = [&](int count, const QStringList &values) {
+        for (int i = 0; i < count; ++i) {
+            const int line = int(read.pairs.size()) + 1;
+            QStringList own = values;
+            for (QString &value : own)
+                value.replace("%1", QString::number(line));
+            read.pairs.push_back(pairOf(line, own, 0.95));
+        }
+    };
+    add(60, {"A=x%1>y9%1"});
+    add(10, {"B=1>900%1"});
+    add(10, {"C=>v%1"});
+    add(2, {"A=x%1>y9%1", "B=1>900%1"}); // 81 and 82
+    add(1, {"B=1>900%1", "C=>v%1"});
+    PrjMappingC mapping = proposed("a.prj", 83);
+    DifferencePatterns found(releaseOf({mapping}), {read});
+    QCOMPARE(textsOf(found),
+             (QStringList{"A: wording|60 lines, 1 projects, 2 exceptions",
+                          "B: other|10 lines, 1 projects, 3 exceptions",
+                          "C: added|10 lines, 1 projects, 1 exceptions",
+                          "B: other; A: wording; C: added; one or more|3 lines, 1 projects, 0 "
+                          "exceptions"}));
+    const std::vector<int> ranked = found.ranked();
+    QCOMPARE(found.exceptions(ranked[0]), (std::vector<Place>{{0, 81}, {0, 82}}));
+    QCOMPARE(found.places(ranked[3]), (std::vector<Place>{{0, 81}, {0, 82}, {0, 83}}));
+    QCOMPARE(found.patternOf({0, 82}), ranked[3]);
+    QCOMPARE(found.leastSure().size(), 83U);
+    QCOMPARE(found.openLines(), 83);
+    enter(mapping, 0, 82, 82, Verified);
+    found.setMapping(0, mapping);
+    QCOMPARE(found.numbers(ranked[3]).lines, 2);
+    QCOMPARE(found.numbers(ranked[0]).exceptions, 1);
 }
 
 void tst_DifferencePatterns::decisionsTakeLinesOut()

@@ -112,6 +112,32 @@ private Q_SLOTS:
         QCOMPARE(table.numbers(both).exceptions, 0);
     }
 
+    void linesOfAPartAreThoseOfItsPattern()
+    {
+        PatternTable table;
+        const QList<ValueChange> shown = changesOf("A B C");
+        const int single = table.patternFor(changesOf("A"), true, false);
+        const int part = table.partFor(shown, changesOf("A B"));
+        const int other = table.partFor(shown, changesOf("C B"));
+        QCOMPARE(table.partFor(shown, changesOf("B A")), part);
+        const int whole = table.wholeOf(part);
+        QCOMPARE(table.wholeOf(other), whole);
+        QCOMPARE(table.wholeOf(whole), whole);
+        QCOMPARE(table.wholeOf(single), single);
+        QVERIFY(whole != part && part != other);
+        QCOMPARE(table.changes(whole).size(), 3);
+        table.add(part, {0, 1}, 0.5);
+        table.add(other, {0, 2}, 0.75);
+        table.add(single, {0, 3}, 1);
+        QCOMPARE(table.numbers(whole), (PatternTable::Numbers{2, 1, 0.625, 0}));
+        QCOMPARE(table.ranked(false), (std::vector<int>{whole, single}));
+        QCOMPARE(textOf(table.leastSure()), QString("0:1 0:2 0:3"));
+        QCOMPARE(textOf(table.exceptions(single, -1)), QString("0:1"));
+        table.remove(part, {0, 1});
+        QCOMPARE(textOf(table.places(whole, -1)), QString("0:2"));
+        QCOMPARE(table.numbers(single).exceptions, 0);
+    }
+
     void thoseWithoutASuccessorStandApart()
     {
         PatternTable table;

@@ -44,10 +44,10 @@ const char *nameOf(ValueChange::Kind kind)
         return "project";
     case ValueChange::Changed:
         return "changed";
-    case ValueChange::Further:
+    case ValueChange::AnyOf:
         break;
     }
-    return "further";
+    return "anyOf";
 }
 
 const char *nameOf(NeighbourFinding::Kind kind)

@@ -156,7 +156,7 @@ const ValueChange::Words &changeWords()
                                           "other wording",  "value added",
                                           "value missing",  "other spelling",
                                           "project's name", "another one",
-                                          "another value",  "and others that many lines have"};
+                                          "another value",  "one or more of these in each line"};
     return words;
 }
 

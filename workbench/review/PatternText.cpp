@@ -18,7 +18,7 @@ VelkRelease::ValueChange::Words words()
             QCoreApplication::translate("PatternText", "Projektname"),
             QCoreApplication::translate("PatternText", "ein anderer"),
             QCoreApplication::translate("PatternText", "anderer Wert"),
-            QCoreApplication::translate("PatternText", "und weitere, die viele Zeilen haben")};
+            QCoreApplication::translate("PatternText", "je Zeile eine oder mehrere davon")};
 }
 
 VelkRelease::GoneGroup::Words goneWords()

@@ -2714,8 +2714,8 @@ Otevřete „%1“ a zvolte „%2“, aby byly zase vidět všechny projekty.</t
         <translation>jiná hodnota</translation>
     </message>
     <message>
-        <source>und weitere, die viele Zeilen haben</source>
-        <translation>a další, které má mnoho řádků</translation>
+        <source>je Zeile eine oder mehrere davon</source>
+        <translation>v každém řádku jedna nebo několik z nich</translation>
     </message>
 </context>
 <context>

@@ -2660,8 +2660,8 @@ Vælg en anden fil.</translation>
         <translation>anden værdi</translation>
     </message>
     <message>
-        <source>und weitere, die viele Zeilen haben</source>
-        <translation>og andre, som mange linjer har</translation>
+        <source>je Zeile eine oder mehrere davon</source>
+        <translation>en eller flere af dem i hver linje</translation>
     </message>
 </context>
 <context>

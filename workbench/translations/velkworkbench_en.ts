@@ -2660,8 +2660,8 @@ Open “%1” and choose “%2” to see all projects again.</translation>
         <translation>another value</translation>
     </message>
     <message>
-        <source>und weitere, die viele Zeilen haben</source>
-        <translation>and others that many lines have</translation>
+        <source>je Zeile eine oder mehrere davon</source>
+        <translation>one or more of these in each line</translation>
     </message>
 </context>
 <context>

@@ -2660,8 +2660,8 @@ Abra «%1» y elija «%2» para volver a ver todos los proyectos.</translation>
         <translation>otro valor</translation>
     </message>
     <message>
-        <source>und weitere, die viele Zeilen haben</source>
-        <translation>y otras que tienen muchas líneas</translation>
+        <source>je Zeile eine oder mehrere davon</source>
+        <translation>una o varias de ellas en cada línea</translation>
     </message>
 </context>
 <context>

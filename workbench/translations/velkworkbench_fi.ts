@@ -2660,8 +2660,8 @@ Avaa ”%1” ja valitse ”%2”, niin kaikki projektit näkyvät taas.</transl
         <translation>toinen arvo</translation>
     </message>
     <message>
-        <source>und weitere, die viele Zeilen haben</source>
-        <translation>ja muita, joita on monilla riveillä</translation>
+        <source>je Zeile eine oder mehrere davon</source>
+        <translation>yksi tai useampi näistä joka rivillä</translation>
     </message>
 </context>
 <context>

@@ -2660,8 +2660,8 @@ Ouvrez « %1 » et choisissez « %2 » pour revoir tous les projets.</translatio
         <translation>autre valeur</translation>
     </message>
     <message>
-        <source>und weitere, die viele Zeilen haben</source>
-        <translation>et d’autres que beaucoup de lignes ont</translation>
+        <source>je Zeile eine oder mehrere davon</source>
+        <translation>une ou plusieurs d’entre elles par ligne</translation>
     </message>
 </context>
 <context>

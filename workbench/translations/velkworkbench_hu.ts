@@ -2606,8 +2606,8 @@ Nyissa meg ezt: „%1”, és válassza ezt: „%2”, hogy újra minden projekt
         <translation>más érték</translation>
     </message>
     <message>
-        <source>und weitere, die viele Zeilen haben</source>
-        <translation>és továbbiak, amelyek sok sorban vannak</translation>
+        <source>je Zeile eine oder mehrere davon</source>
+        <translation>soronként ezek közül egy vagy több</translation>
     </message>
 </context>
 <context>

@@ -2606,8 +2606,8 @@ Buka “%1” dan pilih “%2” untuk melihat semua proyek lagi.</translation>
         <translation>nilai lain</translation>
     </message>
     <message>
-        <source>und weitere, die viele Zeilen haben</source>
-        <translation>dan lainnya yang dimiliki banyak baris</translation>
+        <source>je Zeile eine oder mehrere davon</source>
+        <translation>satu atau beberapa di antaranya pada tiap baris</translation>
     </message>
 </context>
 <context>

@@ -2660,8 +2660,8 @@ Aprire «%1» e scegliere «%2» per rivedere tutti i progetti.</translation>
         <translation>altro valore</translation>
     </message>
     <message>
-        <source>und weitere, die viele Zeilen haben</source>
-        <translation>e altre che hanno molte righe</translation>
+        <source>je Zeile eine oder mehrere davon</source>
+        <translation>una o più di queste in ogni riga</translation>
     </message>
 </context>
 <context>

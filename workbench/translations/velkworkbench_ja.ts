@@ -2606,8 +2606,8 @@ Bitte eine andere Datei wählen.</source>
         <translation>別の値</translation>
     </message>
     <message>
-        <source>und weitere, die viele Zeilen haben</source>
-        <translation>ほか、多くの行に共通するもの</translation>
+        <source>je Zeile eine oder mehrere davon</source>
+        <translation>各行にこれらのうち一つ以上</translation>
     </message>
 </context>
 <context>

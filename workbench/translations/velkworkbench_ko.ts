@@ -2606,8 +2606,8 @@ Bitte eine andere Datei wählen.</source>
         <translation>다른 값</translation>
     </message>
     <message>
-        <source>und weitere, die viele Zeilen haben</source>
-        <translation>그 밖에 많은 행에 있는 것</translation>
+        <source>je Zeile eine oder mehrere davon</source>
+        <translation>행마다 이 가운데 하나 이상</translation>
     </message>
 </context>
 <context>

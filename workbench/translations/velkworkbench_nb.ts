@@ -2660,8 +2660,8 @@ Velg en annen fil.</translation>
         <translation>annen verdi</translation>
     </message>
     <message>
-        <source>und weitere, die viele Zeilen haben</source>
-        <translation>og andre som mange linjer har</translation>
+        <source>je Zeile eine oder mehrere davon</source>
+        <translation>én eller flere av dem i hver linje</translation>
     </message>
 </context>
 <context>

@@ -2714,8 +2714,8 @@ Aby znów zobaczyć wszystkie projekty, otwórz „%1” i wybierz „%2”.</tr
         <translation>inna wartość</translation>
     </message>
     <message>
-        <source>und weitere, die viele Zeilen haben</source>
-        <translation>i inne, które ma wiele wierszy</translation>
+        <source>je Zeile eine oder mehrere davon</source>
+        <translation>w każdym wierszu jedna lub kilka z nich</translation>
     </message>
 </context>
 <context>

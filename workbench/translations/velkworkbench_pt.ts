@@ -2660,8 +2660,8 @@ Abra «%1» e escolha «%2» para voltar a ver todos os projetos.</translation>
         <translation>outro valor</translation>
     </message>
     <message>
-        <source>und weitere, die viele Zeilen haben</source>
-        <translation>e outras que muitas linhas têm</translation>
+        <source>je Zeile eine oder mehrere davon</source>
+        <translation>uma ou várias delas em cada linha</translation>
     </message>
 </context>
 <context>

@@ -2714,8 +2714,8 @@ Bitte eine andere Datei wählen.</source>
         <translation>другое значение</translation>
     </message>
     <message>
-        <source>und weitere, die viele Zeilen haben</source>
-        <translation>и другие, которые есть у многих строк</translation>
+        <source>je Zeile eine oder mehrere davon</source>
+        <translation>в каждой строке одно или несколько из них</translation>
     </message>
 </context>
 <context>

@@ -2768,8 +2768,8 @@ Odprite »%1« in izberite »%2«, da bodo spet vidni vsi projekti.</translation
         <translation>druga vrednost</translation>
     </message>
     <message>
-        <source>und weitere, die viele Zeilen haben</source>
-        <translation>in druge, ki jih ima veliko vrstic</translation>
+        <source>je Zeile eine oder mehrere davon</source>
+        <translation>v vsaki vrstici ena ali več od teh</translation>
     </message>
 </context>
 <context>

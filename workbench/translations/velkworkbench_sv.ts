@@ -2660,8 +2660,8 @@ Välj en annan fil.</translation>
         <translation>annat värde</translation>
     </message>
     <message>
-        <source>und weitere, die viele Zeilen haben</source>
-        <translation>och andra som många rader har</translation>
+        <source>je Zeile eine oder mehrere davon</source>
+        <translation>en eller flera av dem på varje rad</translation>
     </message>
 </context>
 <context>

@@ -2606,8 +2606,8 @@ Tüm projeleri yeniden görmek için “%1” komutunu açın ve “%2” seçen
         <translation>başka değer</translation>
     </message>
     <message>
-        <source>und weitere, die viele Zeilen haben</source>
-        <translation>ve birçok satırda olan diğerleri</translation>
+        <source>je Zeile eine oder mehrere davon</source>
+        <translation>her satırda bunlardan biri veya birkaçı</translation>
     </message>
 </context>
 <context>

@@ -2606,8 +2606,8 @@ Bitte eine andere Datei wählen.</source>
         <translation>其他值</translation>
     </message>
     <message>
-        <source>und weitere, die viele Zeilen haben</source>
-        <translation>以及许多行都有的其他差异</translation>
+        <source>je Zeile eine oder mehrere davon</source>
+        <translation>每行有其中一项或多项</translation>
     </message>
 </context>
 <context>

@@ -2606,8 +2606,8 @@ Bitte eine andere Datei wählen.</source>
         <translation>其他值</translation>
     </message>
     <message>
-        <source>und weitere, die viele Zeilen haben</source>
-        <translation>以及許多列都有的其他差異</translation>
+        <source>je Zeile eine oder mehrere davon</source>
+        <translation>每列有其中一項或多項</translation>
     </message>
 </context>
 <context>

@@ -7,6 +7,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <limits>
 
 namespace VelkRelease {
 
@@ -95,7 +96,16 @@ void ChangeGroups::countTogether(const QList<ValueChange> &own, const OpenPair &
 
 void ChangeGroups::countShown(const QList<ValueChange> &own, const OpenPair &pair)
 {
-    ++m_groups[setName(groupFor(own, pair))];
+    const Shown shown = groupFor(own, pair);
+    if (!shown.isUsual) {
+        ++m_groups[setName(shown.changes)];
+        return;
+    }
+    ++m_usualLines;
+    for (const ValueChange &change : shown.changes) {
+        if (m_usual[change.lookUpName()]++ == 0)
+            m_mixture.append(change);
+    }
 }
 
 QList<ValueChange> ChangeGroups::ownOf(const OpenPair &pair, const PrjMappingC &mapping) const
@@ -125,42 +135,74 @@ int ChangeGroups::linesWith(const ValueChange &change) const
     return m_changes.value(change.lookUpName());
 }
 
+/// Blanks and capitals are nothing that a line has to be looked at for.
 bool ChangeGroups::isUsual(const ValueChange &change) const
 {
-    return change.agreed || linesWith(change) >= UsualLines;
+    return change.agreed || change.kind == ValueChange::Notation || linesWith(change) >= UsualLines;
 }
 
-QList<ValueChange> ChangeGroups::shownFor(const QList<ValueChange> &own, const OpenPair &pair) const
+bool ChangeGroups::areUsual(const QList<ValueChange> &changes) const
 {
-    QList<ValueChange> group = groupFor(own, pair);
-    return m_groups.value(setName(group)) <= linesWith(own) ? own : group;
+    return std::all_of(changes.cbegin(), changes.cend(),
+                       [this](const ValueChange &change) { return isUsual(change); });
 }
 
-QList<ValueChange> ChangeGroups::groupFor(const QList<ValueChange> &own, const OpenPair &pair) const
+ChangeGroups::Shown ChangeGroups::shownFor(const QList<ValueChange> &own,
+                                           const OpenPair &pair) const
+{
+    const Shown group = groupFor(own, pair);
+    if (!group.isUsual)
+        return m_groups.value(setName(group.changes)) <= linesWith(own) ? Shown{own} : group;
+    const bool isInMixture = std::all_of(
+        group.changes.cbegin(), group.changes.cend(),
+        [this](const ValueChange &change) { return m_usual.contains(change.lookUpName()); });
+    return m_usualLines <= linesWith(own) || !isInMixture ? Shown{own} : group;
+}
+
+QList<ValueChange> ChangeGroups::mixture() const
+{
+    QList<ValueChange> changes = m_mixture;
+    std::stable_sort(changes.begin(), changes.end(),
+                     [this](const ValueChange &a, const ValueChange &b) {
+                         return m_usual.value(a.lookUpName()) > m_usual.value(b.lookUpName());
+                     });
+    changes.append(changeOf({}, ValueChange::AnyOf));
+    return changes;
+}
+
+/// Without the names of families that fewer lines have.
+QList<ValueChange> ChangeGroups::named(const QList<ValueChange> &own, const OpenPair &pair,
+                                       int least) const
+{
+    QList<ValueChange> changes;
+    for (const ValueChange &change : own)
+        addOnce(changes, change.agreed || linesWith(change) >= least
+                             ? change
+                             : m_families.plain(change, pair));
+    return changes;
+}
+
+ChangeGroups::Shown ChangeGroups::groupFor(const QList<ValueChange> &own,
+                                           const OpenPair &pair) const
 {
     const int least = leastLines();
     if (own.isEmpty() || own.front().kind == ValueChange::Project || linesWith(own) >= least ||
         least == 1)
-        return own;
-    QList<ValueChange> plain;
-    for (const ValueChange &change : own)
-        addOnce(plain, change.agreed || linesWith(change) >= least
-                           ? change
-                           : m_families.plain(change, pair));
-    if (linesWith(plain) >= least)
-        return plain;
-    if (std::all_of(plain.cbegin(), plain.cend(),
-                    [this](const ValueChange &change) { return isUsual(change); })) {
-        const auto cause = std::max_element(plain.cbegin(), plain.cend(),
-                                            [this](const ValueChange &a, const ValueChange &b) {
-                                                return linesWith(a) < linesWith(b);
-                                            });
-        return {*cause, changeOf({}, ValueChange::Further)};
+        return {own};
+    const QList<ValueChange> some = named(own, pair, least);
+    if (linesWith(some) >= least)
+        return {some};
+    const QList<ValueChange> none = named(own, pair, std::numeric_limits<int>::max());
+    if (linesWith(none) >= least)
+        return {none};
+    for (const QList<ValueChange> &changes : {some, none}) {
+        if (areUsual(changes))
+            return {changes, true};
     }
     QList<ValueChange> columns;
     for (const ValueChange &change : own)
         addOnce(columns, changeOf(change.variable, ValueChange::Changed));
-    return columns;
+    return {columns};
 }
 
 } // namespace VelkRelease

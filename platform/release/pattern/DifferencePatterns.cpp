@@ -78,6 +78,7 @@ DifferencePatterns::DifferencePatterns(const ReleaseMappingC &release,
                 m_groups.countShown(own[i][j], pairs[i].pairs[j]);
         }
     }
+    m_mixture = m_groups.mixture();
     for (std::size_t i = 0; i < pairs.size(); ++i) {
         for (std::size_t j = 0; j < own[i].size(); ++j)
             enter(m_projects[i], int(i), pairs[i].pairs[j], own[i][j]);
@@ -115,13 +116,15 @@ void DifferencePatterns::enter(Project &project, int position, const OpenPair &p
     Known &known = project.lines[pair.line];
     known.target = pair.target;
     known.targetLine = pair.targetLine;
-    const QList<ValueChange> shown = isSure(pair) ? m_groups.shownFor(own, pair) : own;
+    const ChangeGroups::Shown shown =
+        isSure(pair) ? m_groups.shownFor(own, pair) : ChangeGroups::Shown{own};
     known.probability = probabilityOf(pair);
     const bool doubtful = known.probability < SureFrom;
     known.pattern = pair.gone
                         ? m_table.goneFor(m_goneFamilies.groupOf(pair, project.mapping), doubtful)
-                        : m_table.patternFor(shown, pair.comparable, doubtful);
-    if (shown == own)
+                    : shown.isUsual ? m_table.partFor(m_mixture, shown.changes)
+                                    : m_table.patternFor(shown.changes, pair.comparable, doubtful);
+    if (shown.changes == own && !shown.isUsual)
         m_own.erase({position, pair.line});
     else
         m_own[{position, pair.line}] = own;
@@ -220,7 +223,9 @@ int DifferencePatterns::patternOf(const Place &place) const
         return -1;
     const auto &lines = m_projects[size_t(place.project)].lines;
     const auto found = lines.find(place.line);
-    return found == lines.end() || !found->second.open ? -1 : found->second.pattern;
+    return found == lines.end() || !found->second.open || found->second.pattern < 0
+               ? -1
+               : m_table.wholeOf(found->second.pattern);
 }
 
 QList<ValueChange> DifferencePatterns::changesAt(const Place &place) const

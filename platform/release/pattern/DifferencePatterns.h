@@ -133,6 +133,7 @@ private:
     void setOpen(Project &project, int position, int line, Known &known, bool open);
 
     ChangeGroups m_groups;
+    QList<ValueChange> m_mixture; ///< what lines of usual changes are shown by
     GoneFamilies m_goneFamilies;
     std::vector<Project> m_projects;
     PatternTable m_table;

@@ -53,12 +53,40 @@ int PatternTable::patternFor(const QList<ValueChange> &changes, bool comparable,
     const int pattern = numberFor(m_patternOf, name, next);
     if (pattern < next)
         return pattern;
-    m_patterns.push_back({changes, comparable, comparable && doubtful, {}, {}, 0, 0, {}});
-    m_changesOf.push_back(ids);
-    noteLarger(next);
-    for (const int id : ids)
-        m_having[size_t(id)].push_back(next);
+    append(changes, ids);
+    m_patterns.back().comparable = comparable;
+    m_patterns.back().doubtful = comparable && doubtful;
     return next;
+}
+
+int PatternTable::append(const QList<ValueChange> &changes, const std::vector<int> &ids)
+{
+    const int pattern = count();
+    m_patterns.push_back({changes, true, false, {}, {}, 0, 0, {}, -1});
+    m_changesOf.push_back(ids);
+    noteLarger(pattern);
+    for (const int id : ids)
+        m_having[size_t(id)].push_back(pattern);
+    return pattern;
+}
+
+int PatternTable::partFor(const QList<ValueChange> &shown, const QList<ValueChange> &changes)
+{
+    const int shownAt = count();
+    const int whole = numberFor(m_patternOf, QStringLiteral("any"), shownAt);
+    if (whole == shownAt)
+        append(shown, {}); // none of its lines has all of them
+    const std::vector<int> ids = changeIds(changes);
+    QString name = QStringLiteral("part ");
+    for (const int id : ids)
+        name += QString::number(id) + u' ';
+    const int next = count();
+    const int part = numberFor(m_patternOf, name, next);
+    if (part == next) {
+        append(changes, ids);
+        m_patterns.back().whole = whole;
+    }
+    return part;
 }
 
 int PatternTable::goneFor(const GoneGroup &group, bool doubtful)
@@ -73,7 +101,7 @@ int PatternTable::goneFor(const GoneGroup &group, bool doubtful)
     const int next = count();
     const int pattern = numberFor(m_patternOf, name, next);
     if (pattern == next) {
-        m_patterns.push_back({{}, true, doubtful, group, {}, 0, 0, {}});
+        m_patterns.push_back({{}, true, doubtful, group, {}, 0, 0, {}, -1});
         m_changesOf.emplace_back();
     }
     return pattern;
@@ -101,15 +129,27 @@ void PatternTable::noteLarger(int pattern)
 
 void PatternTable::add(int index, const Place &place, double probability)
 {
-    Pattern &pattern = m_patterns[size_t(index)];
+    addTo(m_patterns[size_t(index)], place, probability);
+    if (const int whole = wholeOf(index); whole != index)
+        addTo(m_patterns[size_t(whole)], place, probability);
+}
+
+void PatternTable::remove(int index, const Place &place)
+{
+    removeFrom(m_patterns[size_t(index)], place);
+    if (const int whole = wholeOf(index); whole != index)
+        removeFrom(m_patterns[size_t(whole)], place);
+}
+
+void PatternTable::addTo(Pattern &pattern, const Place &place, double probability)
+{
     ++pattern.lines;
     pattern.sum += stepsOf(probability);
     pattern.open[place.project][place.line] = probability;
 }
 
-void PatternTable::remove(int index, const Place &place)
+void PatternTable::removeFrom(Pattern &pattern, const Place &place)
 {
-    Pattern &pattern = m_patterns[size_t(index)];
     const auto lines = pattern.open.find(place.project);
     const auto line = lines->second.find(place.line);
     --pattern.lines;
@@ -134,7 +174,8 @@ std::vector<int> PatternTable::ranked(bool gone) const
 {
     std::vector<int> ranked;
     for (int i = 0; i < count(); ++i) {
-        if (m_patterns[size_t(i)].lines > 0 && m_patterns[size_t(i)].gone.has_value() == gone)
+        const Pattern &pattern = m_patterns[size_t(i)];
+        if (pattern.lines > 0 && pattern.whole < 0 && pattern.gone.has_value() == gone)
             ranked.push_back(i);
     }
     std::stable_sort(ranked.begin(), ranked.end(), [this](int a, int b) {
@@ -186,7 +227,7 @@ std::vector<PatternTable::Place> PatternTable::leastSure() const
 {
     std::vector<std::pair<double, Place>> sorted;
     for (const Pattern &pattern : m_patterns) {
-        if (pattern.gone)
+        if (pattern.gone || pattern.whole >= 0)
             continue;
         for (const auto &[project, lines] : pattern.open) {
             for (const auto &[line, probability] : lines)

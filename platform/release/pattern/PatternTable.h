@@ -44,9 +44,18 @@ public:
     /// The pattern of these changes, which is made if it is not there. What cannot be compared is
     /// never in doubt.
     [[nodiscard]] int patternFor(const QList<ValueChange> &changes, bool comparable, bool doubtful);
+    /// The part of a pattern whose lines have just these changes, while the pattern is shown by
+    /// others. It has a number, its lines are those of the pattern, and it is no pattern itself.
+    [[nodiscard]] int partFor(const QList<ValueChange> &shown, const QList<ValueChange> &changes);
+    /// The pattern of a part; any other is its own.
+    [[nodiscard]] int wholeOf(int pattern) const
+    {
+        const int whole = m_patterns[size_t(pattern)].whole;
+        return whole < 0 ? pattern : whole;
+    }
     /// The same of lines without a successor.
     [[nodiscard]] int goneFor(const GoneGroup &group, bool doubtful);
-    /// A line that is not in it.
+    /// A line that is not in it. One of a part is in its pattern.
     void add(int pattern, const Place &place, double probability);
     /// A line that is in it.
     void remove(int pattern, const Place &place);
@@ -93,10 +102,14 @@ private:
         /// lines came and went.
         qint64 sum = 0;
         std::vector<int> larger; ///< patterns with all these changes and others
+        int whole = -1;          ///< of a part
     };
 
     [[nodiscard]] std::vector<int> changeIds(const QList<ValueChange> &changes);
+    int append(const QList<ValueChange> &changes, const std::vector<int> &ids);
     void noteLarger(int pattern);
+    static void addTo(Pattern &pattern, const Place &place, double probability);
+    static void removeFrom(Pattern &pattern, const Place &place);
 
     std::vector<Pattern> m_patterns;
     QHash<QString, int> m_patternOf;           ///< by a name of all changes

@@ -58,8 +58,8 @@ QString ValueChange::text(const Words &words) const
                                 : shown(before) + QStringLiteral(" \u2192 ") + shown(after));
     case Changed:
         return head + words.changed;
-    case Further:
-        return words.further;
+    case AnyOf:
+        return words.anyOf;
     case Missing:
         break;
     }

@@ -21,7 +21,7 @@ struct VELKRELEASE_EXPORT ValueChange
         Project,  ///< nothing differs but the projects' names: `before` became `after`, if that
                   ///< is a family; no variable
         Changed,  ///< any of these, in lines that have not enough in common for more
-        Further,  ///< beside another one: further changes that many lines have; no variable
+        AnyOf,    ///< behind several: each line has one or more of them; no variable
     };
     /// Words for what has no notation of its own.
     struct Words
@@ -35,7 +35,7 @@ struct VELKRELEASE_EXPORT ValueChange
         QString project = {};   ///< "Project"
         QString otherName = {}; ///< of the project
         QString changed = {};
-        QString further = {};
+        QString anyOf = {};
     };
 
     QString variable; ///< by its name in the new table

@@ -34,7 +34,7 @@ QString changeKey(ValueChange::Kind kind)
         return QStringLiteral("missing");
     case ValueChange::Project:
     case ValueChange::Changed:
-    case ValueChange::Further:
+    case ValueChange::AnyOf:
         break;
     }
     return {};
