@@ -92,6 +92,7 @@ private Q_SLOTS:
     void oneRowFarAhead();
     void keyAloneIsNotFarAhead();
     void partOfManyLinesTeachesAll();
+    void ofTheUnlikelyOnlyTheBestIsKept();
 };
 
 void tst_LinePlanner::valuesKeepTheirNumbers()
@@ -151,6 +152,11 @@ void tst_LinePlanner::nearShareIsThatOfACount()
         const double part = std::min(1.0, distance / std::max(std::abs(a), std::abs(b)));
         QCOMPARE(chance.nearShare(a, b), (seen + 8 * part) / (3000 + 8));
         QVERIFY(chance.nearShare(a, b) >= chance.leastNearShare());
+        const double least = chance.nearShareAtLeast(a, b);
+        QVERIFY(least <= chance.nearShare(a, b));
+        QVERIFY(least >= chance.leastNearShare());
+        if (power == 1) // few numbers share a part
+            QVERIFY(least > chance.nearShare(a, b) - 0.06);
     }
 }
 
@@ -298,6 +304,33 @@ void tst_LinePlanner::partOfManyLinesTeachesAll()
         changedSo += lines[line][1] == "St 37-2" && rows[line - 500][1] == "S235 JR" ? 1 : 0;
     QVERIFY(changedSo > 400);
     QVERIFY(std::abs(supports - (changedSo - 1)) < 0.01 * changedSo);
+}
+
+/// Of a line that is gone some rows have one value, and nothing else: having no successor is so
+/// much likelier that these are not told apart.
+void tst_LinePlanner::ofTheUnlikelyOnlyTheBestIsKept()
+{
+    Table rows;
+    for (int row = 0; row < 100; ++row) {
+        std::vector<std::string> values{"series " + std::to_string(row / 5)};
+        for (int variable = 1; variable < 20; ++variable)
+            values.push_back("r" + std::to_string(100 * variable + row));
+        rows.push_back(std::move(values));
+    }
+    Table lines = rows;
+    for (int variable = 1; variable < 20; ++variable)
+        lines[50][size_t(variable)] = "gone" + std::to_string(variable);
+    rows.erase(rows.begin() + 50);
+    PlanTables tables;
+    fill(tables, lines, rows, 0);
+    LinePlanner planner(tables);
+    planner.run();
+    QCOMPARE(planner.line(49).candidates.front().row, 49);
+    QCOMPARE(planner.line(51).candidates.front().row, 50);
+    const LinePlanner::Line gone = planner.line(50);
+    QCOMPARE(gone.candidates.size(), size_t(1));
+    QVERIFY(gone.candidates.front().probability < 1e-9);
+    QVERIFY(gone.noSuccessor > 0.999);
 }
 
 QTEST_APPLESS_MAIN(tst_LinePlanner)

@@ -117,6 +117,19 @@ double ColumnChance::nearShare(double number, double other) const
     return (seen + FewNumbers * std::min(1.0, part)) / (double(numberCount()) + FewNumbers);
 }
 
+double ColumnChance::nearShareAtLeast(double number, double other) const
+{
+    const double distance = std::abs(other - number);
+    int near = 0;
+    if (!m_numbers.empty()) {
+        const auto first = size_t(m_partBegins[partOf(number - distance) + 1]);
+        const auto last = size_t(m_partBegins[partOf(number + distance)]);
+        near = last > first ? m_below[last] - m_below[first] : 0;
+    }
+    const double seen = std::max(0.0, double(near) - 1) + 0.5;
+    return seen / (double(numberCount()) + FewNumbers);
+}
+
 double ColumnChance::leastNearShare() const
 {
     return 0.5 / (double(numberCount()) + FewNumbers);

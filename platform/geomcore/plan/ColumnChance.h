@@ -64,6 +64,9 @@ public:
     /// Share of the numbers that are at least as near to \a number as \a other is. As long as there
     /// are few numbers, it is the part of the larger one by which the two differ.
     [[nodiscard]] double nearShare(double number, double other) const;
+    /// At most nearShare(), and seldom much less; numbers are counted by parts, without looking one
+    /// up.
+    [[nodiscard]] double nearShareAtLeast(double number, double other) const;
     /// The least that nearShare() gives for any two numbers.
     [[nodiscard]] double leastNearShare() const;
     [[nodiscard]] int numberCount() const { return m_below.back(); }

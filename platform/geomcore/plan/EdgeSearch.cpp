@@ -9,8 +9,8 @@ namespace {
 
 /// Candidates of a line, of all targets together.
 constexpr size_t KeptEdges = 12;
-/// Candidates that are so far behind the best one of their line are not looked at further: what is
-/// learned later hardly moves a weight so far.
+/// Candidates that are so far behind the best one of their line, or behind having none, are not
+/// looked at further: what is learned later hardly moves a weight so far.
 constexpr double FarBehind = 25;
 /// Rows around the places that neighbours suggest are candidates.
 constexpr int AroundPlace = 2;
@@ -109,7 +109,7 @@ void EdgeSearch::find(size_t line, bool isFound, EdgeLists::Block &out) const
               [](const Candidate &a, const Candidate &b) { return isBefore(a.edge, b.edge); });
     thread_local std::vector<PlanEdge> edges;
     edges.clear();
-    double least = -std::numeric_limits<double>::infinity();
+    double least = m_known.keepsBest ? -std::numeric_limits<double>::infinity() : -FarBehind;
     for (const Candidate &candidate : candidates) {
         PlanEdge edge = candidate.edge;
         if (edge.weight < least)
@@ -122,7 +122,8 @@ void EdgeSearch::find(size_t line, bool isFound, EdgeLists::Block &out) const
         if (edge.weight < least)
             continue;
         edges.insert(std::upper_bound(edges.begin(), edges.end(), edge, isBefore), edge);
-        least = std::max(least, edge.weight - FarBehind);
+        // Having no successor weighs 0.
+        least = std::max({least, edge.weight - FarBehind, std::min(edge.weight, -FarBehind)});
         if (edges.size() > KeptEdges)
             edges.pop_back();
         if (edges.size() == KeptEdges)

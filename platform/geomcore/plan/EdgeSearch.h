@@ -45,6 +45,7 @@ public:
         const LineLists<Learned> &learned;
         std::vector<double> priors; ///< By target: what any pair weighs.
         bool withKeys = true;
+        bool keepsBest = true; ///< Of each line, however unlikely it is.
     };
     explicit EdgeSearch(Known known)
         : m_known(std::move(known))

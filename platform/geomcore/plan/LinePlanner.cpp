@@ -232,7 +232,7 @@ void LinePlanner::makeEdges(bool ofAll)
     for (size_t t = 0; t < m_tables.targets.size(); ++t)
         priors.push_back(prior(t));
     const EdgeSearch search({m_tables, m_nodeOffsets, m_rows, m_places, *m_evidence, m_learned,
-                             std::move(priors), m_withKeys});
+                             std::move(priors), m_withKeys, ofAll || !m_rows.lists.empty()});
     WorkerPool::instance().run(int(m_edges.blockCount()), [&](int block) {
         if (isCanceled())
             return;

@@ -75,7 +75,7 @@ PairEvidence::PlaceWeights PairEvidence::weightsOf(const PlanTarget &target, siz
 }
 
 PairEvidence::Part PairEvidence::atMost(const PlanTarget &target, size_t place, int oldValue,
-                                        int newValue) const
+                                        int newValue, Bound bound) const
 {
     const PlaceWeights &at = weights(target, place);
     if (oldValue == CellValues::NoValue)
@@ -93,8 +93,12 @@ PairEvidence::Part PairEvidence::atMost(const PlanTarget &target, size_t place, 
     const CellValues &values = m_tables.values[size_t(variable)];
     double ratio = other + at.change / share;
     if (values.isNumber(oldValue) && values.isNumber(newValue))
-        ratio += at.near;
-    else
+        ratio += bound == Bound::Rough
+                     ? at.near
+                     : rates.way(Way::Near) *
+                           nearRatioAtMost(values, target.chances[place], oldValue, newValue);
+    else if (bound == Bound::Rough ||
+             haveCommon(values.value(oldValue).distinct, values.value(newValue).distinct))
         ratio += rates.way(Way::Alike) / share;
     return {logAtMost(ratio) + at.bothThere, Part::Differs, false};
 }
@@ -104,7 +108,8 @@ double PairEvidence::atMost(const PlanTarget &target, size_t line, size_t row, b
     double sum = 0;
     for (size_t place = 0; place < target.variables.size(); ++place) {
         if (withKeys || !target.keys[place])
-            sum += atMost(target, place, target.lines.at(line, place), target.rows.at(row, place))
+            sum += atMost(target, place, target.lines.at(line, place), target.rows.at(row, place),
+                          Bound::Rough)
                        .weight;
     }
     return sum;
@@ -121,6 +126,15 @@ double PairEvidence::nearRatio(const CellValues &values, const ColumnChance &cha
         return 0;
     // The share of numbers as near by chance is even in 0 to 1; between partners its logarithm is.
     return 1 / (chance.nearShare(a, b) * chance.nearSpan());
+}
+
+/// Of two numbers.
+double PairEvidence::nearRatioAtMost(const CellValues &values, const ColumnChance &chance,
+                                     int oldValue, int newValue) const
+{
+    const double a = values.numberOf(oldValue);
+    const double b = values.numberOf(newValue);
+    return a * b > 0 ? 1 / (chance.nearShareAtLeast(a, b) * chance.nearSpan()) : 0;
 }
 
 double PairEvidence::alikeRatio(const CellValues &values, const ColumnChance &chance,
@@ -235,8 +249,8 @@ double PairEvidence::weight(const PlanTarget &target, size_t line, size_t row, d
     for (size_t place = 0; place < parts.size(); ++place) {
         if (!withKeys && target.keys[place])
             continue;
-        parts[place] =
-            atMost(target, place, target.lines.at(line, place), target.rows.at(row, place));
+        parts[place] = atMost(target, place, target.lines.at(line, place),
+                              target.rows.at(row, place), Bound::Close);
         if (parts[place].kind == Part::Same)
             parts[place].weight = sameWeight(target, place, target.rows.at(row, place));
         most += parts[place].weight;

@@ -7,6 +7,7 @@
 
 #include <geomcore/VelkGeomCoreGlobal.h>
 
+#include <cstdint>
 #include <vector>
 
 namespace Plan {
@@ -78,15 +79,19 @@ private:
         Kind kind = Known;
         bool isCommon = false; ///< It is the same, and that hardly happens by chance.
     };
+    /// How close to what cell() gives.
+    enum class Bound : std::uint8_t { Rough, Close };
     /// What cell() gives, or gives at most, without comparing.
-    [[nodiscard]] Part atMost(const PlanTarget &target, size_t place, int oldValue,
-                              int newValue) const;
+    [[nodiscard]] Part atMost(const PlanTarget &target, size_t place, int oldValue, int newValue,
+                              Bound bound) const;
     [[nodiscard]] double alikeRatio(const CellValues &values, const ColumnChance &chance,
                                     const VariableRates &rates, int oldValue, int newValue) const;
     void countTokens(const CellValues &values, const ColumnChance &chance, int oldValue,
                      int newValue, double weight, RateCounts &seen) const;
     [[nodiscard]] double nearRatio(const CellValues &values, const ColumnChance &chance,
                                    int oldValue, int newValue) const;
+    [[nodiscard]] double nearRatioAtMost(const CellValues &values, const ColumnChance &chance,
+                                         int oldValue, int newValue) const;
 
     const PlanTables &m_tables;
     const std::vector<VariableRates> &m_rates;
