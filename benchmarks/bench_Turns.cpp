@@ -248,7 +248,7 @@ void filterProjects(benchmark::State &state, const Release &release)
         });
 }
 
-/// A release is replaced by one in which a project is gone.
+/// By one that has another date.
 void replaceRelease(benchmark::State &state)
 {
     measureAnew(
@@ -258,6 +258,44 @@ void replaceRelease(benchmark::State &state)
             ReleaseMappingC changed = document->release();
             changed.setTargetDate(QStringLiteral("2031-01-01"));
             document->replaceRelease(changed, QStringLiteral("..."));
+        });
+}
+
+/// Each of its projects has one line more confirmed.
+ReleaseMappingC confirmedEverywhere(const ReleaseMappingC &release)
+{
+    ReleaseMappingC changed = release.head();
+    for (int i = 0; i < release.countMappings(); ++i) {
+        PrjMappingC mapping = release.mappingAt(i);
+        PrjMappingTargetC target = mapping.findTarget(0);
+        target.addLineId(1, 1, PRJMAPPING::Verified, QString());
+        mapping.updateTarget(0, target);
+        changed.appendMapping(mapping);
+    }
+    return changed;
+}
+
+void replaceEveryProject(benchmark::State &state, bool undone)
+{
+    ReleaseMappingC changed;
+    const auto replace = [&changed](Workbench &workbench) {
+        workbench.window->desk()->document()->replaceRelease(changed, QStringLiteral("..."));
+    };
+    measureAnew(
+        state,
+        [&] {
+            auto workbench = Workbench::opened(manyProjects());
+            changed = confirmedEverywhere(workbench->window->desk()->document()->release());
+            LoopTurns unmeasured;
+            if (undone)
+                unmeasured.run([&] { replace(*workbench); });
+            return workbench;
+        },
+        [&](Workbench &workbench) {
+            if (undone)
+                workbench.action("editUndo")->trigger();
+            else
+                replace(workbench);
         });
 }
 
@@ -459,6 +497,12 @@ int main(int argc, char **argv)
         [](benchmark::State &state) { velkbench::filterProjects(state, velkbench::flatFolder()); },
         2);
     velkbench::addTurns("replaceRelease", velkbench::replaceRelease, 2);
+    velkbench::addTurns(
+        "replaceEveryProject",
+        [](benchmark::State &state) { velkbench::replaceEveryProject(state, false); }, 2);
+    velkbench::addTurns(
+        "undoEveryProject",
+        [](benchmark::State &state) { velkbench::replaceEveryProject(state, true); }, 2);
     velkbench::addTurns("closeManyProjects", velkbench::closeManyProjects, 2);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

@@ -309,9 +309,20 @@ void tst_MappingDocumentSteps::loopRunsWhileAReleaseIsReplaced()
     }
     QSignalSpy replaced(m_document.get(), &MappingDocument::releaseReplaced);
     QSignalSpy problems(m_document.get(), &MappingDocument::problemOccurred);
+    const QString journal = m_document->journalFile();
+    const qint64 size = QFileInfo(journal).size();
     bool isServed = false;
+    qint64 sizeWhenServed = 0;
+    const auto changesIn = [](const QString &file) {
+        return SessionFixture::content(file).count("\"kind\":\"change\"");
+    };
+    const auto written = changesIn(journal);
+    qsizetype writtenWhenShown = 0;
+    connect(m_document.get(), &MappingDocument::releaseReplaced, this,
+            [&] { writtenWhenShown = changesIn(journal) - written; });
     QTimer::singleShot(0, this, [&] {
         isServed = replaced.isEmpty();
+        sizeWhenServed = QFileInfo(journal).size();
         m_document->updateMapping(
             SessionFixture::withState(m_document->mapping(projectId(Path)), {1}, 2));
     });
@@ -320,6 +331,8 @@ void tst_MappingDocumentSteps::loopRunsWhileAReleaseIsReplaced()
     else
         m_document->replaceRelease(large, QStringLiteral("..."));
     QVERIFY(isServed);
+    QCOMPARE(sizeWhenServed, size); // not even compared yet
+    QCOMPARE(writtenWhenShown, 50000);
     QCOMPARE(replaced.size(), 1);
     QCOMPARE(SessionFixture::bytes(m_document->mapping(projectId(Path))),
              SessionFixture::bytes(large.findMapping(Path, projectId(Path).version, QString())));

@@ -72,6 +72,8 @@ private Q_SLOTS:
     void marksAreNoStep();
     void marksBesideAChangeAreAStep();
     void aReleaseIsReplaced();
+    void aComparisonIsCarriedAlong_data();
+    void aComparisonIsCarriedAlong();
     void singleChangesGoIntoTheReplacement();
     void aNewProjectGoesOutOfTheReplacement();
     void numbersOfSteps();
@@ -92,6 +94,19 @@ private:
     /// "change 1, step 1": kinds and steps of its records.
     [[nodiscard]] QString records() const;
     void openJournal() { QVERIFY(m_steps->openJournal(m_path, opening)); }
+    /// As a document does: into the journal first.
+    void noteRelease(const ReleaseMappingC &before, const ReleaseMappingC &after)
+    {
+        m_steps->noteRelease(before, journalRelease(before, after, m_steps->nextNumber()));
+    }
+    ReleaseComparison journalRelease(const ReleaseMappingC &before, const ReleaseMappingC &after,
+                                     int step)
+    {
+        const auto compared = ReleaseComparison::of(before, after, step);
+        for (const QByteArray &rows : compared.rows)
+            m_steps->journalRows(rows);
+        return compared;
+    }
 
     std::unique_ptr<SessionFixture> m_files;
     std::unique_ptr<StepRecorder> m_steps;
@@ -269,7 +284,7 @@ void tst_StepRecorder::aReleaseIsReplaced()
     const ReleaseMappingC before = releaseOf({project("a.prj"), project("b.prj")});
     const ReleaseMappingC after = releaseOf({project("a.prj", {1}), project("b.prj")});
     m_steps->begin(QStringLiteral("all"));
-    m_steps->noteRelease(before, after);
+    noteRelease(before, after);
     QVERIFY(m_steps->end());
     const StepRecorder::Finished done = m_steps->finish(after);
     QCOMPARE(done.kind, Kind::Step);
@@ -279,6 +294,30 @@ void tst_StepRecorder::aReleaseIsReplaced()
     QCOMPARE(SessionFixture::bytes(*done.step.releaseAfter), SessionFixture::bytes(after));
 }
 
+/// The comparison is worked out once, before; only if the step goes on it does not tell all.
+void tst_StepRecorder::aComparisonIsCarriedAlong_data()
+{
+    QTest::addColumn<bool>("goesOn");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("lines");
+    QTest::newRow("alone") << false << QStringLiteral("compared") << 77;
+    QTest::newRow("goes on") << true << QStringLiteral("2 Zeilen bestätigt in a.prj") << 2;
+}
+
+void tst_StepRecorder::aComparisonIsCarriedAlong()
+{
+    QFETCH(bool, goesOn);
+    const ReleaseMappingC before = releaseOf({project("a.prj")});
+    const PrjMappingC middle = project("a.prj", {1});
+    const PrjMappingC last = project("a.prj", {1, 2});
+    m_steps->noteRelease(before, {{}, 77, QStringLiteral("compared")});
+    if (goesOn)
+        m_steps->note(middle, last, true);
+    const UndoStep step = m_steps->finish(releaseOf({goesOn ? last : middle})).step;
+    QTEST(step.text, "text");
+    QTEST(step.lines.value_or(0), "lines");
+}
+
 void tst_StepRecorder::singleChangesGoIntoTheReplacement()
 {
     const PrjMappingC first = project("a.prj", {1});
@@ -286,8 +325,8 @@ void tst_StepRecorder::singleChangesGoIntoTheReplacement()
     m_steps->note(project("a.prj"), first, true);
     const ReleaseMappingC middle = releaseOf({first});
     const ReleaseMappingC last = releaseOf({project("a.prj", {1, 2})});
-    m_steps->noteRelease(middle, last);
-    m_steps->noteRelease(last, releaseOf({project("a.prj", {1, 2, 3})}));
+    noteRelease(middle, last);
+    noteRelease(last, releaseOf({project("a.prj", {1, 2, 3})}));
     QVERIFY(m_steps->end());
     const StepRecorder::Finished done = m_steps->finish(releaseOf({project("a.prj", {1, 2, 3})}));
     QCOMPARE(SessionFixture::bytes(*done.step.releaseBefore),
@@ -301,7 +340,7 @@ void tst_StepRecorder::aNewProjectGoesOutOfTheReplacement()
     m_steps->begin(QString());
     m_steps->note(PrjMappingC(), added, false);
     const ReleaseMappingC with = releaseOf({project("a.prj"), added});
-    m_steps->noteRelease(with, releaseOf({project("a.prj", {1}), added}));
+    noteRelease(with, releaseOf({project("a.prj", {1}), added}));
     QVERIFY(m_steps->end());
     const StepRecorder::Finished done = m_steps->finish(with);
     QCOMPARE(SessionFixture::bytes(*done.step.releaseBefore),
@@ -414,12 +453,12 @@ void tst_StepRecorder::journalOfAReplacedRelease()
     openJournal();
     const ReleaseMappingC before = releaseOf({project("a.prj"), project("b.prj")});
     ReleaseMappingC after = releaseOf({project("a.prj", {1}), project("b.prj", {2})});
-    m_steps->noteRelease(before, after);
+    noteRelease(before, after);
     (void)m_steps->finish(after);
     QCOMPARE(records(), QStringLiteral("change 1, change 1, step 1"));
     const ReleaseMappingC former = after;
     after.setTargetDate(QStringLiteral("2027-01-01"));
-    m_steps->journalRelease(former, after);
+    (void)journalRelease(former, after, m_steps->number());
     m_steps->noteSaved("c");
     QCOMPARE(records(), QStringLiteral("change 1, change 1, step 1, targetDate 0, saved 1"));
     const PJsonValue date = JournalReader::parse(session().records[3]);

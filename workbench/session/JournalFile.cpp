@@ -70,19 +70,19 @@ void JournalFile::close()
 
 void JournalFile::append(const PJsonValue &record)
 {
-    appendRow(VelkRelease::JournalRow::frame(record.toByteArray(true)));
+    appendRows(VelkRelease::JournalRow::frame(record.toByteArray(true)));
 }
 
 void JournalFile::append(const MappingDifference &difference, int step)
 {
-    appendRow(VelkRelease::JournalRow::frame(JournalText::writeChange(difference, step)));
+    appendRows(VelkRelease::JournalRow::frame(JournalText::writeChange(difference, step)));
 }
 
-void JournalFile::appendRow(const QByteArray &row)
+void JournalFile::appendRows(const QByteArray &rows)
 {
     if (!isOpen())
         return;
-    m_pending += row;
+    m_pending += rows;
     if (m_pending.size() >= MaxPending || m_sinceFlush.elapsed() >= MaxWait)
         flush();
     if (!m_syncTimer.isActive())

@@ -34,6 +34,8 @@ public:
 
     void append(const PJsonValue &record);
     void append(const MappingDifference &difference, int step);
+    /// Whole rows, with checksum and end.
+    void appendRows(const QByteArray &rows);
     /// Hands everything to the system. False if it did not take it: it stays here and is tried
     /// again with the next record.
     bool flush();
@@ -46,7 +48,6 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] bool endsWithLineFeed();
-    void appendRow(const QByteArray &row);
     bool write();
     void tellFailure(const QString &errorText);
 

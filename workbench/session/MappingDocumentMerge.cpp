@@ -52,11 +52,12 @@ MergeOutcome MappingDocumentPrivate::mergeFile(const VelkRelease::MergeResult *k
     const bool isOurs = !sameRelease(*reading.release, result.release);
     if (isOurs) {
         steps.begin(MappingDocument::tr("Eigene Änderungen auf dem Stand der Datei"));
-        steps.noteRelease(*reading.release, result.release);
+        noteAndApply(*reading.release, result.release);
+        if (steps.end())
+            finishStep();
+    } else {
+        show(prepare(result.release));
     }
-    applyRelease(result.release);
-    if (isOurs && steps.end())
-        finishStep();
     tellModified();
     Q_EMIT q->undoChanged();
     Q_EMIT q->countsChanged();

@@ -9,11 +9,13 @@
 #include <core/message/PMessage.h>
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QFileInfo>
 #include <QScopedValueRollback>
 #include <QScopeGuard>
 #include <QThreadPool>
 
+#include <chrono>
 #include <utility>
 
 using OpenResult = MappingDocument::OpenResult;
@@ -168,7 +170,7 @@ void MappingDocumentPrivate::pushRecovery(const SessionRecovery &recovery)
     step.releaseAfter = release();
     steps.sign(step);
     if (recovery.offer().saved.available) {
-        steps.journalRelease(recovery.savedRelease(), release());
+        writeJournal(compare(recovery.savedRelease(), release(), steps.number()));
         steps.history().push(step);
     } else {
         steps.history().markDirty();
@@ -236,15 +238,43 @@ StepRecorder::Opening MappingDocumentPrivate::opening() const
 }
 
 /// On another thread, while the loop of this one runs.
+void MappingDocumentPrivate::runBeside(const std::function<void()> &work)
+{
+    const QScopedValueRollback refusing(m_saving, true); // events come meanwhile
+    BackgroundWork::run(QCoreApplication::translate("DocumentFile", "%1 wird gelesen")
+                            .arg(QFileInfo(file.path()).fileName()),
+                        work);
+}
+
 PreparedRelease MappingDocumentPrivate::prepare(const ReleaseMappingC &release)
 {
     PreparedRelease prepared;
-    const QScopedValueRollback refusing(m_saving, true); // events come meanwhile
-    BackgroundWork::run(
-        QCoreApplication::translate("DocumentFile", "%1 wird gelesen")
-            .arg(QFileInfo(file.path()).fileName()),
-        [&, path = file.path()] { prepared = PreparedRelease::of(release, rootName, path); });
+    runBeside([&, path = file.path()] { prepared = PreparedRelease::of(release, rootName, path); });
     return prepared;
+}
+
+ReleaseComparison MappingDocumentPrivate::compare(const ReleaseMappingC &before,
+                                                  const ReleaseMappingC &after, int step)
+{
+    ReleaseComparison compared;
+    runBeside([&] { compared = ReleaseComparison::of(before, after, step); });
+    return compared;
+}
+
+/// In turns of the event loop.
+void MappingDocumentPrivate::writeJournal(const ReleaseComparison &compared)
+{
+    constexpr std::chrono::milliseconds Turn{8};
+    const QScopedValueRollback refusing(m_saving, true);
+    QDeadlineTimer turn(Turn);
+    for (const QByteArray &rows : compared.rows) {
+        if (turn.hasExpired()) {
+            BackgroundWork::letShow();
+            turn.setRemainingTime(Turn);
+        }
+        steps.journalRows(rows);
+    }
+    steps.flushJournal();
 }
 
 void MappingDocumentPrivate::adoptRelease(PreparedRelease &&prepared)

@@ -3,6 +3,7 @@
 #include "DocumentFile.h"
 #include "MappingDocument.h"
 #include "PreparedRelease.h"
+#include "ReleaseComparison.h"
 #include "StepMove.h"
 #include "StepRecorder.h"
 
@@ -10,6 +11,8 @@
 #include <mapping/data/CatalogMappingHandlerI.h>
 
 #include <QTimer>
+
+#include <functional>
 
 /// State of a MappingDocument: joins its file, its steps and the handler of its release, and tells
 /// what happens.
@@ -79,13 +82,18 @@ private:
                                       bool isNew = false);
     void beginJournal();
     void tellJournal();
+    void runBeside(const std::function<void()> &work);
     [[nodiscard]] PreparedRelease prepare(const ReleaseMappingC &release);
+    [[nodiscard]] ReleaseComparison compare(const ReleaseMappingC &before,
+                                            const ReleaseMappingC &after, int step);
+    void writeJournal(const ReleaseComparison &compared);
     void adoptRelease(PreparedRelease &&prepared);
     [[nodiscard]] StepRecorder::Opening opening() const;
 
     [[nodiscard]] PrjMappingC find(const PrjMappingC &like) const;
     void store(const PrjMappingC &mapping, const PrjMappingC &before);
-    void applyRelease(const ReleaseMappingC &release);
+    void noteAndApply(const ReleaseMappingC &before, const ReleaseMappingC &after);
+    void show(PreparedRelease &&prepared);
     void applyMove(const StepMove &move);
     [[nodiscard]] bool planStep(int index, ReleaseMappingC &standing, StepPlan &plan) const;
     void passOvertaken();

@@ -81,13 +81,24 @@ void MappingDocumentPrivate::replaceRelease(const ReleaseMappingC &given)
     const ReleaseMappingC before = release();
     ReleaseMappingC after = given;
     after.setSourceDate(before.getSourceDate());
-    steps.noteRelease(before, after);
-    applyRelease(after);
+    noteAndApply(before, after);
 }
 
-void MappingDocumentPrivate::applyRelease(const ReleaseMappingC &given)
+/// All that takes time comes before anybody sees the new release: the comparison, on another
+/// thread, and the journal, in turns. Nothing else changes meanwhile.
+void MappingDocumentPrivate::noteAndApply(const ReleaseMappingC &before,
+                                          const ReleaseMappingC &after)
 {
-    adoptRelease(prepare(given));
+    const ReleaseComparison compared = compare(before, after, steps.nextNumber());
+    PreparedRelease prepared = prepare(after);
+    writeJournal(compared);
+    steps.noteRelease(before, compared);
+    show(std::move(prepared));
+}
+
+void MappingDocumentPrivate::show(PreparedRelease &&prepared)
+{
+    adoptRelease(std::move(prepared));
     Q_EMIT q->releaseReplaced();
 }
 
@@ -182,8 +193,10 @@ bool MappingDocumentPrivate::moveStep(int index)
 void MappingDocumentPrivate::applyMove(const StepMove &move)
 {
     if (move.changesRelease()) {
-        steps.journalRelease(release(), move.result());
-        applyRelease(move.result());
+        const ReleaseComparison compared = compare(release(), move.result(), steps.number());
+        PreparedRelease prepared = prepare(move.result());
+        writeJournal(compared);
+        show(std::move(prepared));
         return;
     }
     for (const MappingChangePair &change : move.changes()) {

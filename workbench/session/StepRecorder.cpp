@@ -1,6 +1,5 @@
 #include "StepRecorder.h"
 
-#include "JournalText.h"
 #include "ReleaseChanges.h"
 #include "StepNotices.h"
 #include "StepSummary.h"
@@ -112,6 +111,7 @@ void StepRecorder::noteFirst()
 void StepRecorder::note(const PrjMappingC &before, const PrjMappingC &after, bool byEditor)
 {
     noteFirst();
+    m_pending.onlyRelease.reset();
     MappingDifference difference = MappingDifference::between(before, after);
     journal(difference);
     m_pending.only.reset();
@@ -140,8 +140,11 @@ void StepRecorder::gather(const PrjMappingC &before, const PrjMappingC &after)
     m_pending.changes.append({before, after});
 }
 
-void StepRecorder::noteRelease(const ReleaseMappingC &before, const ReleaseMappingC &after)
+void StepRecorder::noteRelease(const ReleaseMappingC &before, const ReleaseComparison &compared)
 {
+    m_pending.onlyRelease.reset();
+    if (!m_pending.changed)
+        m_pending.onlyRelease = {{}, compared.lines, compared.text};
     noteFirst();
     if (!m_pending.releaseBefore) {
         // Single changes of the same step go into the replacement.
@@ -155,7 +158,6 @@ void StepRecorder::noteRelease(const ReleaseMappingC &before, const ReleaseMappi
         }
         m_pending.releaseBefore = first;
     }
-    journalRelease(before, after);
 }
 
 StepRecorder::Finished StepRecorder::finish(const ReleaseMappingC &now)
@@ -186,22 +188,24 @@ StepRecorder::Finished StepRecorder::finish(const ReleaseMappingC &now)
 bool StepRecorder::summarise(Pending &done, const ReleaseMappingC &now, Finished &result) const
 {
     UndoStep &step = result.step;
+    if (done.releaseBefore) {
+        const ReleaseComparison compared =
+            done.onlyRelease ? *std::move(done.onlyRelease)
+                             : ReleaseComparison::of(*done.releaseBefore, now, m_step);
+        step.releaseBefore = done.releaseBefore;
+        step.releaseAfter = now;
+        step.lines = compared.lines;
+        step.text = done.text.isEmpty() ? compared.text : done.text;
+        return false;
+    }
     StepSummary summary;
-    bool onlyMarks = !done.releaseBefore && !done.changes.isEmpty();
+    bool onlyMarks = !done.changes.isEmpty();
     const auto add = [&](const MappingDifference &difference) {
         onlyMarks = onlyMarks && difference.onlyMarksConflicts();
         if (!difference.isEmpty())
             summary.add(difference);
     };
-    if (done.releaseBefore) {
-        step.releaseBefore = done.releaseBefore;
-        step.releaseAfter = now;
-        for (const MappingDifference &difference : releaseDifferences(*done.releaseBefore, now))
-            add(difference);
-    }
     for (const MappingChangePair &change : done.changes) {
-        if (done.releaseBefore)
-            break;
         const MappingDifference difference =
             done.only ? std::move(*done.only)
                       : MappingDifference::between(change.before, change.after);
@@ -224,24 +228,6 @@ void StepRecorder::journal(const MappingDifference &difference)
 {
     if (!difference.isEmpty())
         m_journal.append(difference, m_step);
-}
-
-void StepRecorder::journalRelease(const ReleaseMappingC &before, const ReleaseMappingC &after)
-{
-    for (const MappingDifference &difference : releaseDifferences(before, after))
-        m_journal.append(difference, m_step);
-    if (before.getReplacements() != after.getReplacements()) {
-        PJsonValue json = JournalRecord::of("replacements");
-        json[QStringLiteral("before")] = JournalText::writeReplacements(before.getReplacements());
-        json[QStringLiteral("after")] = JournalText::writeReplacements(after.getReplacements());
-        m_journal.append(json);
-    }
-    if (before.getTargetDate() == after.getTargetDate())
-        return;
-    PJsonValue json = JournalRecord::of("targetDate");
-    json[QStringLiteral("before")] = PJsonValue(before.getTargetDate());
-    json[QStringLiteral("after")] = PJsonValue(after.getTargetDate());
-    m_journal.append(json);
 }
 
 void StepRecorder::journalStep(const QString &text, Origin origin, const QString &of)

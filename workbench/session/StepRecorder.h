@@ -2,6 +2,7 @@
 
 #include "JournalFile.h"
 #include "MappingDifference.h"
+#include "ReleaseComparison.h"
 #include "SessionTypes.h"
 #include "UndoHistory.h"
 
@@ -70,17 +71,21 @@ public:
 
     /// One mapping changes.
     void note(const PrjMappingC &before, const PrjMappingC &after, bool byEditor);
-    /// The whole release does.
-    void noteRelease(const ReleaseMappingC &before, const ReleaseMappingC &after);
+    /// The whole release does, by what is in the journal already.
+    void noteRelease(const ReleaseMappingC &before, const ReleaseComparison &compared);
     /// Puts the gathered changes into the history; those that only mark conflicts are no step.
     [[nodiscard]] Finished finish(const ReleaseMappingC &now);
 
     /// The number of the step in the making or made last.
     [[nodiscard]] int number() const { return m_step; }
+    /// Of the step that what is noted next belongs to.
+    [[nodiscard]] int nextNumber() const { return m_pending.changed ? m_step : m_step + 1; }
     /// Begins undo, redo or recovery: what follows has a number of its own.
     void beginMove() { ++m_step; }
     void journalDifference(const PrjMappingC &before, const PrjMappingC &after);
-    void journalRelease(const ReleaseMappingC &before, const ReleaseMappingC &after);
+    /// A portion of a comparison.
+    void journalRows(const QByteArray &rows) { m_journal.appendRows(rows); }
+    void flushJournal() { (void)m_journal.flush(); }
     /// \a of: the key of the step that undo or redo is about.
     void journalStep(const QString &text, Origin origin, const QString &of = QString());
     /// The release was made anew: steps of former ones under this name do not count.
@@ -106,6 +111,7 @@ private:
         QHash<QPair<QString, QString>, qsizetype> index;
         std::optional<MappingDifference> only;        ///< of the one change, until there is another
         std::optional<ReleaseMappingC> releaseBefore; ///< the whole release was replaced
+        std::optional<ReleaseComparison> onlyRelease; ///< of that, as long as there is no more
         QSet<ProjectId> behindEditor;                 ///< changed by the host
         QString text;
         int depth = 0;        ///< of begin()
