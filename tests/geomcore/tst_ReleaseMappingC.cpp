@@ -100,6 +100,26 @@ private Q_SLOTS:
         QVERIFY(!digest->text());
     }
 
+    /// 600 of them, of which one is replaced.
+    void sharedMappings()
+    {
+        ReleaseMappingC release;
+        PrjMappingC mapping;
+        for (int i = 0; i < 600; ++i) {
+            mapping.setSourcePath(QString::number(i));
+            release.appendMapping(mapping);
+        }
+        ReleaseMappingC copy = release;
+        mapping.setSourcePath("300");
+        copy.addMapping(mapping);
+        QVERIFY(release.sharesMapping(copy, 0));
+        QVERIFY(!release.sharesMapping(copy, 300));
+        QVERIFY(release.sharesMapping(copy, 599));
+        copy.clearMappings();
+        copy.appendMapping(release.mappingAt(0));
+        QVERIFY(!release.sharesMapping(copy, 0));
+    }
+
     void findMapping_data()
     {
         QTest::addColumn<QString>("path");

@@ -11,7 +11,7 @@ bool sameRelease(const ReleaseMappingC &a, const ReleaseMappingC &b)
     if (a.countMappings() != b.countMappings() || a.getTargetDate() != b.getTargetDate())
         return false;
     for (int i = 0; i < a.countMappings(); ++i) {
-        if (!sameMapping(a.mappingAt(i), b.mappingAt(i)))
+        if (!a.sharesMapping(b, i) && !sameMapping(a.mappingAt(i), b.mappingAt(i)))
             return false;
     }
     return true;

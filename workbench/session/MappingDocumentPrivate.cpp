@@ -21,6 +21,12 @@
 using OpenResult = MappingDocument::OpenResult;
 using ReadOnlyReason = MappingDocument::ReadOnlyReason;
 
+namespace {
+
+constexpr std::chrono::milliseconds JournalTurn{8}; // the rest of a picture's time is for others
+
+} // namespace
+
 MappingDocumentPrivate::MappingDocumentPrivate(MappingDocument *document, QSettings *given)
     : PPrivateData(document)
     , settings(given)
@@ -264,17 +270,20 @@ ReleaseComparison MappingDocumentPrivate::compare(const ReleaseMappingC &before,
 /// In turns of the event loop.
 void MappingDocumentPrivate::writeJournal(const ReleaseComparison &compared)
 {
-    constexpr std::chrono::milliseconds Turn{8};
     const QScopedValueRollback refusing(m_saving, true);
-    QDeadlineTimer turn(Turn);
+    QDeadlineTimer turn(JournalTurn);
+    const auto nextTurn = [&turn] {
+        BackgroundWork::letShow();
+        turn.setRemainingTime(JournalTurn);
+    };
     for (const QByteArray &rows : compared.rows) {
-        if (turn.hasExpired()) {
-            BackgroundWork::letShow();
-            turn.setRemainingTime(Turn);
-        }
+        if (turn.hasExpired())
+            nextTurn();
         steps.journalRows(rows);
     }
     steps.flushJournal();
+    if (compared.rows.size() > 1)
+        nextTurn();
 }
 
 void MappingDocumentPrivate::adoptRelease(PreparedRelease &&prepared)

@@ -5,6 +5,9 @@
 
 #include <mapping/data/CatalogNodeType.h>
 
+#include <QScopeGuard>
+#include <QThreadPool>
+
 #include <algorithm>
 #include <utility>
 
@@ -96,8 +99,13 @@ void MappingDocumentPrivate::noteAndApply(const ReleaseMappingC &before,
     show(std::move(prepared));
 }
 
+/// In a turn of its own, after what was worked out for it.
 void MappingDocumentPrivate::show(PreparedRelease &&prepared)
 {
+    // Behind all others that hold it: the end of a large tree takes long.
+    const auto end = qScopeGuard([former = handler]() mutable {
+        QThreadPool::globalInstance()->start([ended = std::move(former)] {});
+    });
     adoptRelease(std::move(prepared));
     Q_EMIT q->releaseReplaced();
 }

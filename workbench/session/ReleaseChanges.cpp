@@ -46,11 +46,19 @@ std::vector<MappingDifference> releaseDifferences(const ReleaseMappingC &before,
             mapping.getSourcePath(), mapping.getSourceVersion(), mapping.getTabVersion());
         return found.getTabVersion() == mapping.getTabVersion() ? found : PrjMappingC();
     };
+    const auto isShared = [&](int i) {
+        return i < before.countMappings() && i < after.countMappings() &&
+               before.sharesMapping(after, i);
+    };
     for (int i = 0; i < after.countMappings(); ++i) {
+        if (isShared(i))
+            continue;
         const PrjMappingC mapping = after.mappingAt(i);
         add(counterpart(before, mapping), mapping);
     }
     for (int i = 0; i < before.countMappings(); ++i) {
+        if (isShared(i))
+            continue;
         const PrjMappingC mapping = before.mappingAt(i);
         if (!counterpart(after, mapping).isValid())
             add(mapping, PrjMappingC());

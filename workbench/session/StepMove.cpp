@@ -16,7 +16,7 @@ bool sameRecords(const ReleaseMappingC &a, const ReleaseMappingC &b)
         a.getReplacements() != b.getReplacements())
         return false;
     for (int i = 0; i < a.countMappings(); ++i) {
-        if (!sameMapping(a.mappingAt(i), b.mappingAt(i)))
+        if (!a.sharesMapping(b, i) && !sameMapping(a.mappingAt(i), b.mappingAt(i)))
             return false;
     }
     return true;

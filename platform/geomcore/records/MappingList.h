@@ -23,6 +23,13 @@ public:
         return m_pages[std::size_t(position / PageSize)]
             ->mappings[std::size_t(position % PageSize)];
     }
+    /// Whether the mapping at a position that both have is one and the same record; false may be
+    /// said of equal ones too.
+    [[nodiscard]] bool shares(const MappingList &other, int position) const
+    {
+        const auto page = std::size_t(position / PageSize);
+        return m_pages[page] == other.m_pages[page];
+    }
     /// The first in stored order, -1 if there is none. An empty table version matches any.
     [[nodiscard]] int find(const QString &path, const QString &version,
                            const QString &tableVersion) const;

@@ -145,6 +145,11 @@ PrjMappingC ReleaseMappingC::mappingAt(int position) const
     return position >= 0 && position < countMappings() ? d->mappings.at(position) : PrjMappingC();
 }
 
+bool ReleaseMappingC::sharesMapping(const ReleaseMappingC &other, int position) const
+{
+    return d->mappings.shares(other.d->mappings, position);
+}
+
 PrjMappingC ReleaseMappingC::findMapping(const QString &sourcePath, const QString &sourceVersion,
                                          const QString &tableVersion) const
 {

@@ -51,6 +51,9 @@ public:
     [[nodiscard]] int countMappings() const;
     /// \a position counts from 0 in stored order; not valid out of range.
     [[nodiscard]] PrjMappingC mappingAt(int position) const;
+    /// Whether the mapping at a position, which both have, is one that they share. False says
+    /// nothing; costs next to nothing.
+    [[nodiscard]] bool sharesMapping(const ReleaseMappingC &other, int position) const;
     /// The first in stored order that has path, version and table version; an empty table version
     /// matches any. Not valid if there is none. One look-up in an index, so fit for painting.
     [[nodiscard]] PrjMappingC findMapping(const QString &sourcePath, const QString &sourceVersion,
