@@ -5,8 +5,9 @@
 //
 // A folder has old, new and truth.csv, or release-2021, release-2022, release-2026 and
 // truth-YEAR-to-2026.csv. Every set is measured with and without its first columns, which are
-// mostly keys. --only takes the disturbances whose name contains NAME. --neighbours plants mistakes
-// in the true assignments instead, and tells what the check of neighbours finds. Exit status 2 if
+// mostly keys. --decisions lists what the modeller decides, with the first lines of each pattern.
+// --only takes the disturbances whose name contains NAME. --neighbours plants mistakes in the
+// true assignments instead, and tells what the check of neighbours finds. Exit status 2 if
 // anything cannot be read or a line is assigned wrongly.
 
 #include "Disturbance.h"

@@ -170,6 +170,13 @@ void tst_DifferencePatterns::families_data()
                             << QStringList{"L: × 0.5|3 lines"};
     QTest::newRow("factor within designations")
         << QStringList{"N=M8 x 10>M8 x 5", "N=M8 x 20>M8 x 10"} << QStringList{"N: × 0.5|2 lines"};
+    QTest::newRow("another unit, rounded")
+        << QStringList{"L=1>0.03937008", "L=5>0.1968504", "L=7>0.2755906", "L=12.7>0.5"}
+        << QStringList{"L: × 0.0393701|4 lines"};
+    QTest::newRow("millimetres of inches")
+        << QStringList{"L=1.5>38.1", "L=0.0313>0.79502"} << QStringList{"L: × 25.4|2 lines"};
+    QTest::newRow("too few digits for a unit")
+        << QStringList{"L=26>1", "L=50>2"} << QStringList{"L: other|2 lines"};
     QTest::newRow("added number") << QStringList{"L=10>12.5", "L=20>22.5", "L=7>9.5"}
                                   << QStringList{"L: + 2.5|3 lines"};
     QTest::newRow("subtracted number")

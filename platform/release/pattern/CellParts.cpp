@@ -1,6 +1,7 @@
 #include "CellParts.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace VelkRelease {
@@ -161,6 +162,33 @@ std::optional<double> factorOf(double before, double after)
         return std::nullopt;
     const double factor = rounded(after / before);
     return areSame(before * factor, after) ? std::optional(factor) : std::nullopt;
+}
+
+std::optional<double> unitFactorOf(double before, double after, QStringView written)
+{
+    // Millimetres of inches and feet, kilograms of pounds; powers of ten need no rounding.
+    static constexpr std::array Units{25.4, 304.8, 0.45359237};
+    // Two numbers may well have a ratio near one of these by chance, but not to four digits.
+    const double rounding = roundingOf(written);
+    if (before == 0 || rounding > 1e-4 * std::abs(after))
+        return std::nullopt;
+    for (const double unit : Units) {
+        for (const double factor : {unit, 1 / unit}) {
+            if (std::abs(before * factor - after) <= rounding)
+                return factor;
+        }
+    }
+    return std::nullopt;
+}
+
+double roundingOf(QStringView written)
+{
+    const auto isPoint = [](QChar c) {
+        return c == u'.' || c == u',';
+    };
+    const auto point = std::find_if(written.begin(), written.end(), isPoint);
+    const auto places = point == written.end() ? 0 : written.end() - point - 1;
+    return 0.5 * std::pow(10.0, -double(places)) * (1 + 1e-6);
 }
 
 std::optional<double> offsetOf(double before, double after)

@@ -38,5 +38,11 @@ struct CellPart
 /// Factor and offset that make the one number the other, where a short decimal number does it.
 [[nodiscard]] VELKRELEASE_EXPORT std::optional<double> factorOf(double before, double after);
 [[nodiscard]] VELKRELEASE_EXPORT std::optional<double> offsetOf(double before, double after);
+/// The factor of a usual change of units, if the new number as it is \a written is the old one in
+/// the other unit, and has enough digits to tell.
+[[nodiscard]] VELKRELEASE_EXPORT std::optional<double> unitFactorOf(double before, double after,
+                                                                    QStringView written);
+/// Half of what the last decimal place of a number says: so much may it have been rounded.
+[[nodiscard]] VELKRELEASE_EXPORT double roundingOf(QStringView written);
 
 } // namespace VelkRelease

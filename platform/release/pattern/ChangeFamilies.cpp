@@ -2,7 +2,6 @@
 
 #include "CellParts.h"
 
-#include <QRegularExpression>
 #include <QSet>
 
 #include <algorithm>
@@ -53,10 +52,7 @@ bool isNotation(const QString &before, const QString &after)
 /// The number is what the map makes of the other one, as far as it has decimal places.
 bool isMapped(const ValueChange &map, double before, double after, const QString &written)
 {
-    const qsizetype point = written.lastIndexOf(QRegularExpression(QStringLiteral("[.,]")));
-    const auto places = point < 0 ? 0 : written.size() - point - 1;
-    const double half = 0.5 * std::pow(10.0, -double(places)) * (1 + 1e-6);
-    return std::abs(before * map.factor + map.offset - after) <= half;
+    return std::abs(before * map.factor + map.offset - after) <= roundingOf(written);
 }
 
 ValueChange plainChange(const QString &variable, ValueChange::Kind kind)
@@ -114,7 +110,11 @@ std::vector<ChangeFamilies::Part> ChangeFamilies::partsOf(const OpenPair::Value 
         part.isNumber = before && after;
         if (part.isNumber) {
             ValueChange change = plainChange(value.variable, ValueChange::NumberMap);
-            if (const auto factor = factorOf(*before, *after); factor && *factor != 1) {
+            // A unit's factor first: that of one pair of rounded numbers is not that of the next.
+            auto factor = unitFactorOf(*before, *after, cell.after);
+            if (!factor)
+                factor = factorOf(*before, *after);
+            if (factor && *factor != 1) {
                 change.factor = *factor;
                 part.options.append(change);
                 change.factor = 1;

@@ -102,7 +102,7 @@ void ChangeGroups::countShown(const QList<ValueChange> &own, const OpenPair &pai
         return;
     }
     ++m_usualLines;
-    for (const ValueChange &change : shown.changes) {
+    for (const ValueChange &change : kinds(shown.changes, pair)) {
         if (m_usual[change.lookUpName()]++ == 0)
             m_mixture.append(change);
     }
@@ -153,9 +153,11 @@ ChangeGroups::Shown ChangeGroups::shownFor(const QList<ValueChange> &own,
     const Shown group = groupFor(own, pair);
     if (!group.isUsual)
         return m_groups.value(setName(group.changes)) <= linesWith(own) ? Shown{own} : group;
-    const bool isInMixture = std::all_of(
-        group.changes.cbegin(), group.changes.cend(),
-        [this](const ValueChange &change) { return m_usual.contains(change.lookUpName()); });
+    const QList<ValueChange> all = kinds(group.changes, pair);
+    const bool isInMixture =
+        std::all_of(all.cbegin(), all.cend(), [this](const ValueChange &change) {
+            return m_usual.contains(change.lookUpName());
+        });
     return m_usualLines <= linesWith(own) || !isInMixture ? Shown{own} : group;
 }
 
@@ -182,6 +184,13 @@ QList<ValueChange> ChangeGroups::named(const QList<ValueChange> &own, const Open
     return changes;
 }
 
+/// Without the names of all families but agreed ones.
+QList<ValueChange> ChangeGroups::kinds(const QList<ValueChange> &changes,
+                                       const OpenPair &pair) const
+{
+    return named(changes, pair, std::numeric_limits<int>::max());
+}
+
 ChangeGroups::Shown ChangeGroups::groupFor(const QList<ValueChange> &own,
                                            const OpenPair &pair) const
 {
@@ -192,7 +201,7 @@ ChangeGroups::Shown ChangeGroups::groupFor(const QList<ValueChange> &own,
     const QList<ValueChange> some = named(own, pair, least);
     if (linesWith(some) >= least)
         return {some};
-    const QList<ValueChange> none = named(own, pair, std::numeric_limits<int>::max());
+    const QList<ValueChange> none = kinds(own, pair);
     if (linesWith(none) >= least)
         return {none};
     for (const QList<ValueChange> &changes : {some, none}) {

@@ -43,14 +43,16 @@ public:
     void countShown(const QList<ValueChange> &own, const OpenPair &pair);
     /// What such a pair is shown by; its own changes if no others are shown so.
     [[nodiscard]] Shown shownFor(const QList<ValueChange> &own, const OpenPair &pair) const;
-    /// The usual changes of all lines that are shown by them, those of most lines first, and that
-    /// each line has one or more of these.
+    /// The kinds of usual changes of all lines that are shown by them, those of most lines first,
+    /// and that each line has one or more of these.
     [[nodiscard]] QList<ValueChange> mixture() const;
 
 private:
     [[nodiscard]] Shown groupFor(const QList<ValueChange> &own, const OpenPair &pair) const;
     [[nodiscard]] QList<ValueChange> named(const QList<ValueChange> &own, const OpenPair &pair,
                                            int least) const;
+    [[nodiscard]] QList<ValueChange> kinds(const QList<ValueChange> &changes,
+                                           const OpenPair &pair) const;
     [[nodiscard]] bool areUsual(const QList<ValueChange> &changes) const;
     [[nodiscard]] int leastLines() const;
     [[nodiscard]] int linesWith(const QList<ValueChange> &all) const;
