@@ -132,6 +132,11 @@ private Q_SLOTS:
                 << QString::fromUtf8(expected);
         };
         const char *const lines = "%Ln Zeile(n)";
+        const char *const rarer = "und %Ln seltenere(r) Wert(e)";
+        row("", "VelkGeomCoreGui", lines, 1, "1 Zeile");
+        row("", "VelkGeomCoreGui", lines, 0, "0 Zeilen");
+        row("", "VelkGeomCoreGui", rarer, 1, "und 1 seltenerer Wert");
+        row("", "VelkGeomCoreGui", rarer, 2, "und 2 seltenere Werte");
         row("de", "VelkGeomCoreGui", lines, 1, "1 Zeile");
         row("de", "VelkGeomCoreGui", lines, 1234, "1.234 Zeilen");
         row("en", "VelkGeomCoreGui", lines, 1, "1 line");

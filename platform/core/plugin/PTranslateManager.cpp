@@ -1,35 +1,11 @@
 #include "PTranslateManager.h"
 
+#include "TranslationCatalog.h"
+
 #include <QCoreApplication>
-#include <QFile>
 #include <QMutex>
-#include <QTranslator>
 
 #include <map>
-
-namespace {
-
-/// A catalog with its bytes, which are copied: the library that brought them may go.
-struct Catalog
-{
-    QByteArray bytes;
-    QTranslator translator;
-};
-
-std::unique_ptr<Catalog> loadCatalog(const QString &module, const QString &language)
-{
-    QFile file(QStringLiteral(":/translations/%1_%2.qm").arg(module, language));
-    if (language.isEmpty() || !file.open(QIODevice::ReadOnly))
-        return nullptr;
-    auto catalog = std::make_unique<Catalog>();
-    catalog->bytes = file.readAll();
-    const auto *data = reinterpret_cast<const uchar *>(catalog->bytes.constData());
-    if (!catalog->translator.load(data, int(catalog->bytes.size())))
-        return nullptr;
-    return catalog;
-}
-
-} // namespace
 
 class PTranslateManagerPrivate
 {
@@ -41,7 +17,7 @@ public:
     mutable QRecursiveMutex mutex;
     QString language = qEnvironmentVariable("TORMEVA_LANGUAGE");
     QStringList modules;
-    std::map<QString, std::unique_ptr<Catalog>> catalogs;
+    std::map<QString, std::unique_ptr<TranslationCatalog>> catalogs;
 };
 
 void PTranslateManagerPrivate::loadModule(const QString &module)
@@ -49,7 +25,7 @@ void PTranslateManagerPrivate::loadModule(const QString &module)
     unloadModule(module);
     if (!QCoreApplication::instance())
         return;
-    if (auto catalog = loadCatalog(module, language)) {
+    if (auto catalog = TranslationCatalog::load(module, language)) {
         QCoreApplication::installTranslator(&catalog->translator);
         catalogs[module] = std::move(catalog);
     }

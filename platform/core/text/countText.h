@@ -12,6 +12,7 @@
 
 /// Translation of a German source text with a count, "%Ln Zeile(n)", as PString::translate() gives
 /// it: in the plural form of the language for \a count, whose digits stand as countText() has them.
-/// Any thread.
+/// Without a translation the form is that of the German catalog of the library, whether or not that
+/// is in use. Any thread.
 [[nodiscard]] VELKCORE_EXPORT QString translateCount(const char *text, const char *context,
                                                      int count);
