@@ -136,8 +136,20 @@
         <translation>neznámá úniková sekvence %1 platí, jak stojí</translation>
     </message>
     <message>
+        <source>ist nur zum Lesen da</source>
+        <translation>je jen pro čtení</translation>
+    </message>
+    <message>
         <source>kein UTF-8</source>
         <translation>není UTF-8</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>nelze přečíst: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht schreiben: %1</source>
+        <translation>nelze zapsat: %1</translation>
     </message>
     <message>
         <source>weder Abschnitt noch Schlüssel noch Kommentar</source>

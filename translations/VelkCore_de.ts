@@ -136,8 +136,20 @@
         <translation>die unbekannte Escape-Folge %1 gilt, wie sie dasteht</translation>
     </message>
     <message>
+        <source>ist nur zum Lesen da</source>
+        <translation>ist nur zum Lesen da</translation>
+    </message>
+    <message>
         <source>kein UTF-8</source>
         <translation>kein UTF-8</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>lässt sich nicht lesen: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht schreiben: %1</source>
+        <translation>lässt sich nicht schreiben: %1</translation>
     </message>
     <message>
         <source>weder Abschnitt noch Schlüssel noch Kommentar</source>

@@ -136,8 +136,20 @@
         <translation>unknown escape %1 is taken as it stands</translation>
     </message>
     <message>
+        <source>ist nur zum Lesen da</source>
+        <translation>is read only</translation>
+    </message>
+    <message>
         <source>kein UTF-8</source>
         <translation>not UTF-8</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>cannot be read: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht schreiben: %1</source>
+        <translation>cannot be written: %1</translation>
     </message>
     <message>
         <source>weder Abschnitt noch Schlüssel noch Kommentar</source>

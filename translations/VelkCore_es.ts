@@ -136,8 +136,20 @@
         <translation>la secuencia de escape desconocida %1 vale tal como está</translation>
     </message>
     <message>
+        <source>ist nur zum Lesen da</source>
+        <translation>es de solo lectura</translation>
+    </message>
+    <message>
         <source>kein UTF-8</source>
         <translation>no es UTF-8</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>no se puede leer: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht schreiben: %1</source>
+        <translation>no se puede escribir: %1</translation>
     </message>
     <message>
         <source>weder Abschnitt noch Schlüssel noch Kommentar</source>

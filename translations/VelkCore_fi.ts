@@ -136,8 +136,20 @@
         <translation>tuntematon ohjaussarja %1 otetaan sellaisenaan</translation>
     </message>
     <message>
+        <source>ist nur zum Lesen da</source>
+        <translation>on vain luettavissa</translation>
+    </message>
+    <message>
         <source>kein UTF-8</source>
         <translation>ei UTF-8</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>ei voi lukea: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht schreiben: %1</source>
+        <translation>ei voi kirjoittaa: %1</translation>
     </message>
     <message>
         <source>weder Abschnitt noch Schlüssel noch Kommentar</source>

@@ -136,8 +136,20 @@
         <translation>la séquence d'échappement inconnue %1 vaut telle quelle</translation>
     </message>
     <message>
+        <source>ist nur zum Lesen da</source>
+        <translation>est en lecture seule</translation>
+    </message>
+    <message>
         <source>kein UTF-8</source>
         <translation>pas en UTF-8</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>ne peut pas être lu : %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht schreiben: %1</source>
+        <translation>ne peut pas être écrit : %1</translation>
     </message>
     <message>
         <source>weder Abschnitt noch Schlüssel noch Kommentar</source>

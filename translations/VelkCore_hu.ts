@@ -136,8 +136,20 @@
         <translation>az ismeretlen %1 escape-sorozat úgy érvényes, ahogy áll</translation>
     </message>
     <message>
+        <source>ist nur zum Lesen da</source>
+        <translation>csak olvasható</translation>
+    </message>
+    <message>
         <source>kein UTF-8</source>
         <translation>nem UTF-8</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>nem olvasható: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht schreiben: %1</source>
+        <translation>nem írható: %1</translation>
     </message>
     <message>
         <source>weder Abschnitt noch Schlüssel noch Kommentar</source>

@@ -136,8 +136,20 @@
         <translation>urutan escape %1 yang tidak dikenal berlaku apa adanya</translation>
     </message>
     <message>
+        <source>ist nur zum Lesen da</source>
+        <translation>hanya dapat dibaca</translation>
+    </message>
+    <message>
         <source>kein UTF-8</source>
         <translation>bukan UTF-8</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>tidak dapat dibaca: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht schreiben: %1</source>
+        <translation>tidak dapat ditulis: %1</translation>
     </message>
     <message>
         <source>weder Abschnitt noch Schlüssel noch Kommentar</source>

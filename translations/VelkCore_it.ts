@@ -136,8 +136,20 @@
         <translation>la sequenza di escape sconosciuta %1 vale così com'è</translation>
     </message>
     <message>
+        <source>ist nur zum Lesen da</source>
+        <translation>è di sola lettura</translation>
+    </message>
+    <message>
         <source>kein UTF-8</source>
         <translation>non UTF-8</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>non si può leggere: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht schreiben: %1</source>
+        <translation>non si può scrivere: %1</translation>
     </message>
     <message>
         <source>weder Abschnitt noch Schlüssel noch Kommentar</source>

@@ -136,8 +136,20 @@
         <translation>不明なエスケープ %1 はそのまま使われます</translation>
     </message>
     <message>
+        <source>ist nur zum Lesen da</source>
+        <translation>読み取り専用です</translation>
+    </message>
+    <message>
         <source>kein UTF-8</source>
         <translation>UTF-8 ではありません</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>読み取れません: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht schreiben: %1</source>
+        <translation>書き込めません: %1</translation>
     </message>
     <message>
         <source>weder Abschnitt noch Schlüssel noch Kommentar</source>

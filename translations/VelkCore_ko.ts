@@ -136,8 +136,20 @@
         <translation>알 수 없는 이스케이프 %1을(를) 그대로 사용합니다</translation>
     </message>
     <message>
+        <source>ist nur zum Lesen da</source>
+        <translation>읽기 전용입니다</translation>
+    </message>
+    <message>
         <source>kein UTF-8</source>
         <translation>UTF-8이 아님</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>읽을 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht schreiben: %1</source>
+        <translation>쓸 수 없습니다: %1</translation>
     </message>
     <message>
         <source>weder Abschnitt noch Schlüssel noch Kommentar</source>

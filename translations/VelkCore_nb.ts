@@ -136,8 +136,20 @@
         <translation>den ukjente escape-sekvensen %1 gjelder som den står</translation>
     </message>
     <message>
+        <source>ist nur zum Lesen da</source>
+        <translation>er skrivebeskyttet</translation>
+    </message>
+    <message>
         <source>kein UTF-8</source>
         <translation>ikke UTF-8</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>kan ikke leses: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht schreiben: %1</source>
+        <translation>kan ikke skrives: %1</translation>
     </message>
     <message>
         <source>weder Abschnitt noch Schlüssel noch Kommentar</source>

@@ -136,8 +136,20 @@
         <translation>nieznana sekwencja ucieczki %1 obowiązuje tak, jak stoi</translation>
     </message>
     <message>
+        <source>ist nur zum Lesen da</source>
+        <translation>jest tylko do odczytu</translation>
+    </message>
+    <message>
         <source>kein UTF-8</source>
         <translation>nie UTF-8</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>nie można odczytać: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht schreiben: %1</source>
+        <translation>nie można zapisać: %1</translation>
     </message>
     <message>
         <source>weder Abschnitt noch Schlüssel noch Kommentar</source>

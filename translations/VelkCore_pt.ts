@@ -136,8 +136,20 @@
         <translation>a sequência de escape desconhecida %1 vale tal como está</translation>
     </message>
     <message>
+        <source>ist nur zum Lesen da</source>
+        <translation>é só de leitura</translation>
+    </message>
+    <message>
         <source>kein UTF-8</source>
         <translation>não é UTF-8</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>não se pode ler: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht schreiben: %1</source>
+        <translation>não se pode escrever: %1</translation>
     </message>
     <message>
         <source>weder Abschnitt noch Schlüssel noch Kommentar</source>

@@ -136,8 +136,20 @@
         <translation>неизвестная escape-последовательность %1 берётся как есть</translation>
     </message>
     <message>
+        <source>ist nur zum Lesen da</source>
+        <translation>только для чтения</translation>
+    </message>
+    <message>
         <source>kein UTF-8</source>
         <translation>не UTF-8</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>не читается: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht schreiben: %1</source>
+        <translation>не записывается: %1</translation>
     </message>
     <message>
         <source>weder Abschnitt noch Schlüssel noch Kommentar</source>

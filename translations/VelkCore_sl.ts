@@ -136,8 +136,20 @@
         <translation>neznano ubežno zaporedje %1 velja, kot stoji</translation>
     </message>
     <message>
+        <source>ist nur zum Lesen da</source>
+        <translation>je samo za branje</translation>
+    </message>
+    <message>
         <source>kein UTF-8</source>
         <translation>ni UTF-8</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>ni mogoče prebrati: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht schreiben: %1</source>
+        <translation>ni mogoče zapisati: %1</translation>
     </message>
     <message>
         <source>weder Abschnitt noch Schlüssel noch Kommentar</source>

@@ -136,8 +136,20 @@
         <translation>den okända escape-sekvensen %1 gäller som den står</translation>
     </message>
     <message>
+        <source>ist nur zum Lesen da</source>
+        <translation>är skrivskyddad</translation>
+    </message>
+    <message>
         <source>kein UTF-8</source>
         <translation>inte UTF-8</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>kan inte läsas: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht schreiben: %1</source>
+        <translation>kan inte skrivas: %1</translation>
     </message>
     <message>
         <source>weder Abschnitt noch Schlüssel noch Kommentar</source>

@@ -136,8 +136,20 @@
         <translation>bilinmeyen kaçış dizisi %1 olduğu gibi geçerli</translation>
     </message>
     <message>
+        <source>ist nur zum Lesen da</source>
+        <translation>salt okunur</translation>
+    </message>
+    <message>
         <source>kein UTF-8</source>
         <translation>UTF-8 değil</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>okunamıyor: %1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht schreiben: %1</source>
+        <translation>yazılamıyor: %1</translation>
     </message>
     <message>
         <source>weder Abschnitt noch Schlüssel noch Kommentar</source>

@@ -136,8 +136,20 @@
         <translation>未知的跳脫序列 %1 按原樣使用</translation>
     </message>
     <message>
+        <source>ist nur zum Lesen da</source>
+        <translation>為唯讀</translation>
+    </message>
+    <message>
         <source>kein UTF-8</source>
         <translation>不是 UTF-8</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht lesen: %1</source>
+        <translation>無法讀取：%1</translation>
+    </message>
+    <message>
+        <source>lässt sich nicht schreiben: %1</source>
+        <translation>無法寫入：%1</translation>
     </message>
     <message>
         <source>weder Abschnitt noch Schlüssel noch Kommentar</source>

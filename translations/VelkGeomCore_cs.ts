@@ -898,8 +898,16 @@
         <translation>„%1“ není rozsah hodnot pro %2: %3</translation>
     </message>
     <message>
+        <source>„%1“ ist kein lesbares Verzeichnis</source>
+        <translation>„%1“ není čitelný adresář</translation>
+    </message>
+    <message>
         <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
         <translation>„%1“ není číslo řádku, tedy celé číslo od 0 do 2147483647</translation>
+    </message>
+    <message>
+        <source>„%1“ ist nicht beschreibbar</source>
+        <translation>do „%1“ nelze zapisovat</translation>
     </message>
     <message>
         <source>„%1“ liegt außerhalb der Kataloge; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>

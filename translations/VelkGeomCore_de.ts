@@ -892,8 +892,16 @@
         <translation>„%1“ ist kein Wertebereich von %2: %3</translation>
     </message>
     <message>
+        <source>„%1“ ist kein lesbares Verzeichnis</source>
+        <translation>„%1“ ist kein lesbares Verzeichnis</translation>
+    </message>
+    <message>
         <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
         <translation>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</translation>
+    </message>
+    <message>
+        <source>„%1“ ist nicht beschreibbar</source>
+        <translation>„%1“ ist nicht beschreibbar</translation>
     </message>
     <message>
         <source>„%1“ liegt außerhalb der Kataloge; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>

@@ -892,8 +892,16 @@
         <translation>"%1" ei ole muuttujan %2 arvoalue: %3</translation>
     </message>
     <message>
+        <source>„%1“ ist kein lesbares Verzeichnis</source>
+        <translation>"%1" ei ole luettavissa oleva hakemisto</translation>
+    </message>
+    <message>
         <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
         <translation>"%1" ei ole rivinumero eli kokonaisluku väliltä 0–2147483647</translation>
+    </message>
+    <message>
+        <source>„%1“ ist nicht beschreibbar</source>
+        <translation>hakemistoon "%1" ei voi kirjoittaa</translation>
     </message>
     <message>
         <source>„%1“ liegt außerhalb der Kataloge; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>

@@ -892,8 +892,16 @@
         <translation>« %1 » n'est pas une plage de valeurs de %2 : %3</translation>
     </message>
     <message>
+        <source>„%1“ ist kein lesbares Verzeichnis</source>
+        <translation>« %1 » n'est pas un répertoire lisible</translation>
+    </message>
+    <message>
         <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
         <translation>« %1 » n'est pas un numéro de ligne, c'est-à-dire un entier de 0 à 2147483647</translation>
+    </message>
+    <message>
+        <source>„%1“ ist nicht beschreibbar</source>
+        <translation>« %1 » n'est pas accessible en écriture</translation>
     </message>
     <message>
         <source>„%1“ liegt außerhalb der Kataloge; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>

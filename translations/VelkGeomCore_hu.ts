@@ -886,8 +886,16 @@
         <translation>„%1” nem értéktartománya ennek: %2: %3</translation>
     </message>
     <message>
+        <source>„%1“ ist kein lesbares Verzeichnis</source>
+        <translation>a(z) „%1” nem olvasható könyvtár</translation>
+    </message>
+    <message>
         <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
         <translation>„%1” nem sorszám, vagyis nem 0 és 2147483647 közötti egész</translation>
+    </message>
+    <message>
+        <source>„%1“ ist nicht beschreibbar</source>
+        <translation>a(z) „%1” nem írható</translation>
     </message>
     <message>
         <source>„%1“ liegt außerhalb der Kataloge; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>

@@ -886,8 +886,16 @@
         <translation>"%1"은(는) %2의 값 범위가 아닙니다: %3</translation>
     </message>
     <message>
+        <source>„%1“ ist kein lesbares Verzeichnis</source>
+        <translation>"%1"은(는) 읽을 수 있는 디렉터리가 아닙니다</translation>
+    </message>
+    <message>
         <source>„%1“ ist keine Zeilennummer, also keine ganze Zahl von 0 bis 2147483647</source>
         <translation>"%1"은(는) 행 번호(0에서 2147483647까지의 정수)가 아닙니다</translation>
+    </message>
+    <message>
+        <source>„%1“ ist nicht beschreibbar</source>
+        <translation>"%1"에 쓸 수 없습니다</translation>
     </message>
     <message>
         <source>„%1“ liegt außerhalb der Kataloge; verschieben Sie es dorthin, oder erlauben Sie sein Verzeichnis</source>

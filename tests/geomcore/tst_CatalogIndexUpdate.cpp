@@ -281,7 +281,7 @@ private Q_SLOTS:
         QVERIFY(QDir().rename(catalog.root(), elsewhere));
         const Outcome outcome = catalog.update();
         QCOMPARE(outcome.state, Outcome::RootUnreadable);
-        QVERIFY(outcome.errorText.contains(catalog.root()));
+        QCOMPARE(outcome.errorText, "„" + catalog.root() + "“ ist kein lesbares Verzeichnis");
         QVERIFY(QDir().rename(elsewhere, catalog.root()));
         QCOMPARE(catalog.found("x"), QString("a.prj"));
     }

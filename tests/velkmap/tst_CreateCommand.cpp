@@ -1,3 +1,4 @@
+#include "../support/EnglishTexts.h"
 #include "../support/TestCatalog.h"
 
 #include <geomcore/records/MappingFile.h>

@@ -1,3 +1,5 @@
+#include "../support/EnglishTexts.h"
+
 #include <release/history/DecisionHistory.h>
 #include <release/history/JournalRow.h>
 #include <tools/velkmap/Commands.h>
@@ -257,7 +259,7 @@ void tst_HistoryCommand::damage()
     QCOMPARE(told("o.json"), told());
     QVERIFY(QFile::remove(path("m.json.journal")));
     QCOMPARE(::mkfifo(qPrintable(path("m.json.journal")), 0600), 0);
-    QVERIFY(told().first().contains("not a regular file"));
+    QVERIFY(told().first().contains("it is no regular file"));
     QCOMPARE(run({"history", "--mapping", path("m.json")}).status, ExitStatus::InputUnreadable);
 }
 

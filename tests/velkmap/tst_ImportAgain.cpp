@@ -225,7 +225,7 @@ void tst_ImportAgain::brokenFormerTable()
     QCOMPARE(m_err,
              into("t.json") + ": row 1, column 13: expected a list of fields\n" + into("t.json") +
                  ": the table as it was imported before cannot be read, so its line ids cannot "
-                 "be kept; correct it, or remove it to start anew\n");
+                 "be kept; correct it, or remove it to begin again\n");
     QCOMPARE(readFile(into("t.json")), QByteArray("{ \"fields\": 7 }"));
     QVERIFY(QFile::remove(into("t.json")));
     QCOMPARE(import(), ExitStatus::Done);

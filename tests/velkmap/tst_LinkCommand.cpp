@@ -1,3 +1,4 @@
+#include "../support/EnglishTexts.h"
 #include "../support/PostgresServer.h"
 #include "../support/TestCatalog.h"
 

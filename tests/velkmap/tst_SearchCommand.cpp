@@ -1,3 +1,5 @@
+#include "../support/EnglishTexts.h"
+
 #include <geomcore/search/CatalogIndexUpdate.h>
 #include <tools/velkmap/Commands.h>
 #include <tools/velkmap/TerminalProgress.h>

@@ -1,3 +1,4 @@
+#include "../support/EnglishTexts.h"
 #include "../support/SizeLimit.h"
 #include "../workbench/AsNobody.h"
 

@@ -173,22 +173,23 @@ void tst_DocumentFile::datesOfAFile_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QStringList>("dates");
-    QTest::addColumn<bool>("wrong");
+    QTest::addColumn<QString>("fault");
     QTest::newRow("in the order of the file")
-        << QByteArray(R"({"2024":{},"2022":{}})") << QStringList{"2024", "2022"} << false;
-    QTest::newRow("none") << QByteArray("{}") << QStringList() << false;
-    QTest::newRow("no object") << QByteArray("[]") << QStringList() << true;
-    QTest::newRow("no JSON") << QByteArray("{\"2024\":") << QStringList() << true;
+        << QByteArray(R"({"2024":{},"2022":{}})") << QStringList{"2024", "2022"} << QString();
+    QTest::newRow("none") << QByteArray("{}") << QStringList() << QString();
+    QTest::newRow("no object") << QByteArray("[]") << QStringList()
+                               << "Eine Mapping-Datei muss ein Objekt enthalten.";
+    QTest::newRow("no JSON") << QByteArray("{\"2024\":") << QStringList() << "Zeile 1, Spalte 9: ";
 }
 
 void tst_DocumentFile::datesOfAFile()
 {
     QFETCH(QByteArray, content);
-    QFETCH(bool, wrong);
+    QFETCH(QString, fault);
     SessionFixture::setContent(m_file, content);
     QString error;
     QTEST(DocumentFile::datesIn(FileContent::of(m_file), &error), "dates");
-    QCOMPARE(!error.isEmpty(), wrong);
+    QVERIFY2(error.contains(fault) && error.isEmpty() == fault.isEmpty(), qPrintable(error));
     QTEST(DocumentFile::datesIn(FileContent::of(m_file), nullptr), "dates");
     QVERIFY(DocumentFile::datesIn(FileContent::of(m_files->path("gone.json")), &error).isEmpty());
     QVERIFY(!error.isEmpty());

@@ -5,6 +5,7 @@
 
 #include <core/json/PJsonValue.h>
 #include <geomcore/records/MappingFile.h>
+#include <geomcore/records/noObjectText.h>
 #include <mapping/data/ReleaseMappingHandler.h>
 
 #include <QFileInfo>
@@ -16,7 +17,7 @@ using ReadOnlyReason = MappingDocument::ReadOnlyReason;
 
 namespace {
 
-/// Reads all that is wanted, on whatever thread. Gives the cause of a failure, English.
+/// Reads all that is wanted, on whatever thread. Gives the cause of a failure.
 QString readRelease(DocumentFile::Reading &reading, QStringList &dates)
 {
     if (!reading.content.error.isEmpty())
@@ -90,7 +91,7 @@ QStringList DocumentFile::datesIn(const FileContent &content, QString *error)
     if (cause.isEmpty() && !content.state.exists)
         cause = OwnFile::causeOf(ENOENT);
     if (cause.isEmpty() && document.parse(content.bytes, &cause) && !document.isObject())
-        cause = QStringLiteral("A mapping file must hold an object.");
+        cause = noObjectText();
     if (error)
         *error = cause;
     return cause.isEmpty() ? document.keys() : QStringList();

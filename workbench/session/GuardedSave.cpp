@@ -5,6 +5,7 @@
 
 #include <core/json/JsonWriter.h>
 #include <geomcore/records/MappingFile.h>
+#include <geomcore/records/noObjectText.h>
 #include <geomcore/records/ReleaseDigest.h>
 
 #include <QFile>
@@ -22,7 +23,7 @@ PJsonValue membersOf(const QByteArray &content, QString *error)
         return PJsonValue();
     if (document.isObject())
         return document;
-    *error = QStringLiteral("A mapping file must hold an object.");
+    *error = noObjectText();
     return PJsonValue();
 }
 

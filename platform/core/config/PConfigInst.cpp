@@ -72,7 +72,8 @@ bool PConfigInst::SetValue(const QString &key, const QString &section, const PCo
 {
     const QMutexLocker lock(&d->mutex);
     if (d->readOnly) {
-        d->error = QStringLiteral("%1: is read only").arg(d->path.native());
+        d->error = d->path.native() + QStringLiteral(": ") +
+                   PString::translate("ist nur zum Lesen da", "VelkCore");
         return false;
     }
     if (!d->readFile())

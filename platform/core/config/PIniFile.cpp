@@ -22,6 +22,12 @@ QByteArrayView withoutLineEnd(QByteArrayView line)
     return line;
 }
 
+QString cannotBeRead(const QString &file, const QString &cause)
+{
+    return file + QStringLiteral(": ") +
+           PString::translate("lässt sich nicht lesen: %1", "VelkCore").arg(cause);
+}
+
 bool isComment(QStringView text)
 {
     return text.startsWith(u';') || text.startsWith(u'#');
@@ -38,12 +44,12 @@ bool PIniFile::load(const QString &nativePath)
     QFile file(nativePath);
     QString problem;
     if (!openRegularFile(file, problem)) {
-        m_errorText = QStringLiteral("%1: cannot be read: %2").arg(nativePath, problem);
+        m_errorText = cannotBeRead(nativePath, problem);
         return false;
     }
     const QByteArray content = file.readAll();
     if (file.error() != QFileDevice::NoError) {
-        m_errorText = QStringLiteral("%1: cannot be read: %2").arg(nativePath, file.errorString());
+        m_errorText = cannotBeRead(nativePath, file.errorString());
         return false;
     }
     parse(content, nativePath);

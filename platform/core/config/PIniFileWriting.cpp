@@ -3,6 +3,7 @@
 #include "PIniText.h"
 
 #include <core/files/DurableFile.h>
+#include <core/text/PString.h>
 
 using namespace Internal;
 
@@ -125,6 +126,8 @@ bool PIniFile::save(const QString &nativePath)
     QString cause;
     const bool written = DurableFile::write(nativePath, toByteArray(), &cause);
     m_errorText =
-        written ? QString() : QStringLiteral("%1: cannot be written: %2").arg(nativePath, cause);
+        written ? QString()
+                : nativePath + QStringLiteral(": ") +
+                      PString::translate("lässt sich nicht schreiben: %1", "VelkCore").arg(cause);
     return written;
 }

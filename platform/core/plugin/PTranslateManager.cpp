@@ -74,7 +74,8 @@ void PTranslateManager::registerModule(const char *module)
 
 void PTranslateManager::registerLibraries()
 {
-    for (const char *library : {"VelkCore", "VelkGeomCore", "VelkGui", "VelkGeomCoreGui"})
+    for (const char *library :
+         {"VelkCore", "VelkGeomCore", "VelkGui", "VelkGeomCoreGui", "VelkRelease"})
         registerModule(library);
 }
 

@@ -89,7 +89,8 @@ bool LinkDbConnection::connectNow()
     } else {
         const QFileInfo info(PString::ResolveEnvirons(m_settings.file));
         if ((info.exists() || info.isSymLink()) && !info.isFile())
-            return fail(cannotBeOpened(QStringLiteral("not a regular file")));
+            return fail(
+                cannotBeOpened(PString::translate("das ist keine gewöhnliche Datei", "VelkCore")));
         if (m_settings.readOnly && !info.exists())
             return fail(PString::translate("Die Linkdatenbank %1 gibt es nicht", "VelkGeomCore")
                             .arg(info.filePath()));

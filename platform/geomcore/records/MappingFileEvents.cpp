@@ -1,5 +1,6 @@
 #include "MappingFileEvents.h"
 
+#include "noObjectText.h"
 #include "recordsText.h"
 
 #include <array>
@@ -48,8 +49,7 @@ QString MappingFileEvents::error() const
         return m_message;
     if (m_reading)
         return QStringLiteral("\"%1\": %2").arg(m_name, m_builder.error());
-    return m_depth == 0 ? recordsText("Eine Mapping-Datei muss ein Objekt enthalten.")
-                        : recordsText("Werte sind zu tief verschachtelt.");
+    return m_depth == 0 ? noObjectText() : recordsText("Werte sind zu tief verschachtelt.");
 }
 
 void MappingFileEvents::beginLines()

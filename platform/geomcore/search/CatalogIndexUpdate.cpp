@@ -94,7 +94,7 @@ CatalogIndexOutcome CatalogIndexUpdate::run(Check check, const Tell &tell)
     const QFileInfo root(d->root);
     if (!root.isDir() || !root.isReadable())
         return d->fail(CatalogIndexOutcome::RootUnreadable,
-                       QStringLiteral("\"%1\" is no readable directory")
+                       PString::translate("„%1“ ist kein lesbares Verzeichnis", "VelkGeomCore")
                            .arg(QDir::toNativeSeparators(d->root)));
     const QString place = QFileInfo(d->indexFile).absolutePath();
     QLockFile lock(lockFileOf(d->indexFile));
@@ -103,7 +103,7 @@ CatalogIndexOutcome CatalogIndexUpdate::run(Check check, const Tell &tell)
         return lock.error() == QLockFile::LockFailedError
                    ? d->fail(CatalogIndexOutcome::Busy, {})
                    : d->fail(CatalogIndexOutcome::Failed,
-                             QStringLiteral("\"%1\" cannot be written")
+                             PString::translate("„%1“ ist nicht beschreibbar", "VelkGeomCore")
                                  .arg(QDir::toNativeSeparators(place)));
     if (std::exchange(d->makesAnew, false))
         (void)d->file.discard();

@@ -4,6 +4,7 @@
 
 #include <core/files/DurableFile.h>
 #include <core/json/PJsonValue.h>
+#include <release/text/releaseText.h>
 
 #include <QCryptographicHash>
 #include <QMap>
@@ -96,7 +97,7 @@ bool AssignmentPart::read(const QString &file, QString *error)
     };
     number = ShareNumber::fromText(json.value("part").toText());
     if (!number.isValid())
-        return refuse(QStringLiteral("it is no part that velkmap assign --shard wrote"));
+        return refuse(releaseText("das ist kein Teil, den velkmap assign --shard geschrieben hat"));
     origin = json.value("origin").toText().toLatin1();
     options = json.value("options").toText().toLatin1();
     projects = int(json.value("projects").toInt());
@@ -113,14 +114,14 @@ bool AssignmentPart::read(const QString &file, QString *error)
     if (!release.fromJson(json.value("release"), &what))
         return refuse(what);
     if (release.countMappings() != positions.size())
-        return refuse(QStringLiteral("it does not hold as many projects as it names"));
+        return refuse(releaseText("es sind nicht so viele Projekte darin, wie er nennt"));
     return true;
 }
 
 QStringList partErrors(const QList<NamedPart> &parts)
 {
     if (parts.isEmpty())
-        return {QStringLiteral("there is no part")};
+        return {releaseText("es gibt keinen Teil")};
     const AssignmentPart &first = parts.first().part;
     QStringList errors;
     QMap<int, QStringList> files;
@@ -129,7 +130,7 @@ QStringList partErrors(const QList<NamedPart> &parts)
     for (const auto &[file, part] : parts) {
         if (part.origin != first.origin || part.options != first.options ||
             part.number.shares != first.number.shares || part.projects != first.projects) {
-            errors << QStringLiteral("%1: it is part %2 of another work than %3")
+            errors << releaseText("%1: das ist Teil %2 einer anderen Arbeit als %3")
                           .arg(file, part.number.text(), parts.first().file);
             continue;
         }
@@ -140,13 +141,14 @@ QStringList partErrors(const QList<NamedPart> &parts)
     for (int share = 1; share <= first.number.shares; ++share) {
         const QString name = ShareNumber{share, first.number.shares}.text();
         if (!files.contains(share))
-            errors << QStringLiteral("part %1 is missing").arg(name);
+            errors << releaseText("Teil %1 fehlt").arg(name);
         else if (files[share].size() > 1)
-            errors << QStringLiteral("part %1 is there %2 times: %3")
+            errors << releaseText("Teil %1 ist mehrfach da (%2): %3")
                           .arg(name, QString::number(files[share].size()), files[share].join(", "));
     }
     if (errors.isEmpty() && (positions.size() != count || count != first.projects))
-        errors << QStringLiteral("the parts hold %1 projects (%2 of them once), the work has %3")
+        errors << releaseText(
+                      "Projekte in den Teilen: %1 (verschiedene: %2), in der ganzen Arbeit: %3")
                       .arg(QString::number(count), QString::number(positions.size()),
                            QString::number(first.projects));
     return errors;

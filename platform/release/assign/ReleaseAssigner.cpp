@@ -10,6 +10,7 @@
 #include <geomcore/binding/VarsetConditionI.h>
 #include <geomcore/table/ContentRef.h>
 #include <geomcore/table/readProjectTable.h>
+#include <release/text/releaseText.h>
 
 #include <QFileInfo>
 #include <QSet>
@@ -47,10 +48,12 @@ QStringList textsOf(const VKTab::TableErrorList &errors)
 /// What a project says that was left because of its targets.
 QString targetsText(const QString &sourcePath, const AssignmentOutcome &outcome)
 {
-    return sourcePath + ": the table of " + outcome.unreadableTargets.join(", ") +
-           " could not be read" +
-           (outcome.isLeft ? "; the project's lines were left as they are"
-                           : "; nothing that was assigned without it is sure");
+    const QString text =
+        outcome.isLeft ? releaseText("die Tabelle von %1 ist nicht lesbar; die Zeilen des Projekts "
+                                     "bleiben, wie sie sind")
+                       : releaseText("die Tabelle von %1 ist nicht lesbar; was ohne sie "
+                                     "zugeordnet wurde, ist nicht sicher");
+    return sourcePath + ": " + text.arg(outcome.unreadableTargets.join(", "));
 }
 
 /// So much of a condition stands in a message.
@@ -67,9 +70,10 @@ QStringList faultyConditions(const PrjMappingC &mapping)
             QString text = condition->getCondition();
             if (text.size() > MaxShown)
                 text = text.left(MaxShown) + "...";
-            texts << mapping.getSourcePath() + ": the condition \"" + text + "\" of " +
-                         target.getTargetPath() +
-                         " does not parse; nothing that was assigned is sure";
+            texts << mapping.getSourcePath() + ": " +
+                         releaseText("die Bedingung „%1“ von %2 ist nicht lesbar; was zugeordnet "
+                                     "wurde, ist nicht sicher")
+                             .arg(text, target.getTargetPath());
         }
     }
     return texts;
@@ -174,7 +178,8 @@ ReleaseAssigner::Outcome ReleaseAssigner::assign(const PrjMappingC &mapping,
     if (!messages.buffer().isEmpty())
         outcome.errors.prepend(messages.buffer());
     if (!read && outcome.errors.isEmpty())
-        outcome.errors << sourcePath + ": the project's table could not be read";
+        outcome.errors << sourcePath + ": " +
+                              releaseText("die Tabelle des Projekts ist nicht lesbar");
     return outcome;
 }
 

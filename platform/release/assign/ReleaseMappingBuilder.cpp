@@ -20,6 +20,7 @@
 #include <geomcore/table/LineView.h>
 #include <geomcore/table/TableData.h>
 #include <release/decide/CommonValues.h>
+#include <release/text/releaseText.h>
 
 #include <algorithm>
 #include <memory>
@@ -117,7 +118,8 @@ bool ReleaseMappingBuilder::Work::exists(const CatalogReader &catalog)
 {
     if (catalog.exists())
         return true;
-    m_builder.m_messages << catalog.directory() + ": there is no such catalog";
+    m_builder.m_messages << catalog.directory() + ": " +
+                                releaseText("diesen Katalog gibt es nicht");
     return false;
 }
 
@@ -350,7 +352,8 @@ QString ReleaseMappingBuilder::Work::newestDate(const CatalogReader &catalog,
     for (const ReadProject &read : projects)
         newest = std::max(newest, dateInUtc(read.project.date));
     if (newest.isEmpty())
-        m_builder.m_messages << catalog.directory() + ": no project has a date";
+        m_builder.m_messages << catalog.directory() + ": " +
+                                    releaseText("kein Projekt hat ein Datum");
     return newest;
 }
 

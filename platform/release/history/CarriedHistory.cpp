@@ -6,6 +6,7 @@
 #include "JournalRow.h"
 
 #include <core/files/DurableFile.h>
+#include <release/text/releaseText.h>
 
 #include <QFileInfo>
 
@@ -158,7 +159,7 @@ bool writeCarriedJournal(const QString &mappingFile, const ReleaseMappingC &rele
                          const std::vector<CarriedLine> &lines, QString *error)
 {
     const QByteArray hash = FileState::of(mappingFile).hash;
-    const QString text = QStringLiteral("Decisions taken over from %1: %2")
+    const QString text = releaseText("Entscheidungen übernommen aus %1: %2")
                              .arg(QFileInfo(formerFile).fileName(), QString::number(lines.size()));
     QByteArray rows;
     for (const PJsonValue &record :

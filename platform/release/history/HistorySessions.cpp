@@ -2,6 +2,8 @@
 
 #include "JournalRow.h"
 
+#include <release/text/releaseText.h>
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -22,9 +24,10 @@ bool HistorySessions::add(const QString &file, QString *error)
     const QFileInfo info(file);
     QFile journal(file);
     if (info.isSymLink() || !info.isFile() || !journal.open(QIODevice::ReadOnly)) {
-        *error = file + QStringLiteral(": ") +
-                 (info.isFile() && !info.isSymLink() ? journal.errorString()
-                                                     : QStringLiteral("not a regular file"));
+        *error =
+            file + QStringLiteral(": ") +
+            (info.isFile() && !info.isSymLink() ? journal.errorString()
+                                                : releaseText("das ist keine gewöhnliche Datei"));
         return false;
     }
     QByteArray opening;

@@ -1,6 +1,7 @@
 #include "FileGroup.h"
 
 #include <core/files/DurableFile.h>
+#include <release/text/releaseText.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -20,6 +21,11 @@ bool hasContent(const QString &name, const QByteArray &content)
            file.readAll() == content;
 }
 
+QString cannotBeWritten(const QString &cause)
+{
+    return releaseText("lässt sich nicht schreiben: %1").arg(cause);
+}
+
 } // namespace
 
 void FileGroup::add(const QString &file, const QByteArray &content)
@@ -36,18 +42,18 @@ bool FileGroup::commit()
             continue;
         const QString directory = QFileInfo(name).path();
         if (!QDir().mkpath(directory))
-            return fail(directory, QStringLiteral("the directory cannot be made"));
+            return fail(directory, releaseText("das Verzeichnis lässt sich nicht anlegen"));
         auto &file = files.emplace_back(std::make_unique<QSaveFile>(name));
         if (!DurableFile::open(*file, &cause))
-            return fail(name, QStringLiteral("cannot be written: ") + cause);
+            return fail(name, cannotBeWritten(cause));
         if (file->write(content) != content.size())
-            return fail(name, QStringLiteral("cannot be written: ") + file->errorString());
+            return fail(name, cannotBeWritten(file->errorString()));
         if (!DurableFile::sync(*file, &cause))
-            return fail(name, QStringLiteral("cannot be written: ") + cause);
+            return fail(name, cannotBeWritten(cause));
     }
     for (auto &file : files) {
         if (!DurableFile::commit(*file, &cause))
-            return fail(file->fileName(), QStringLiteral("cannot be written: ") + cause);
+            return fail(file->fileName(), cannotBeWritten(cause));
     }
     return true;
 }

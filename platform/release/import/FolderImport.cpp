@@ -2,6 +2,8 @@
 
 #include "TableSource.h"
 
+#include <release/text/releaseText.h>
+
 #include <QDir>
 #include <QDirIterator>
 #include <QSet>
@@ -63,7 +65,8 @@ QStringList FolderImport::findTables()
     while (entries.hasNext()) {
         const QFileInfo entry(entries.next());
         if (entry.isDir() && !entry.isReadable())
-            tellError(entry.filePath() + QStringLiteral(": the directory cannot be read"));
+            tellError(entry.filePath() + QStringLiteral(": ") +
+                      releaseText("das Verzeichnis ist nicht lesbar"));
         else if (entry.isFile() && isTable(entry))
             tables.append(from.relativeFilePath(entry.filePath()));
     }
@@ -71,8 +74,8 @@ QStringList FolderImport::findTables()
     const auto sameTable = [this, &from](const QString &a, const QString &b) {
         if (withoutEnding(a) != withoutEnding(b))
             return false;
-        tellError(from.filePath(b) + QStringLiteral(": would become the same table as ") + a +
-                  QStringLiteral("; rename one"));
+        tellError(from.filePath(b) + QStringLiteral(": ") +
+                  releaseText("ergäbe dieselbe Tabelle wie %1; benennen Sie eine davon um").arg(a));
         ++m_counts.failed;
         return true;
     };

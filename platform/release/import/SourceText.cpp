@@ -3,6 +3,8 @@
 #include "CsvRewriter.h"
 #include "TableSource.h"
 
+#include <release/text/releaseText.h>
+
 #include <QDir>
 #include <QStringDecoder>
 
@@ -43,9 +45,10 @@ std::string_view plainText(const QByteArray &csv)
     return {bytes.constData(), size_t(bytes.size())};
 }
 
-QString nameOf(char separator)
+QString separatorNote(char separator)
 {
-    return separator == ';' ? QStringLiteral("semicolons") : QStringLiteral("tabs");
+    return separator == ';' ? releaseText("die Zellen sind durch Semikolons getrennt")
+                            : releaseText("die Zellen sind durch Tabulatoren getrennt");
 }
 
 } // namespace
@@ -73,18 +76,18 @@ bool SourceText::read()
     const char separator = m_form.separator ? m_form.separator : separatorOf(plainText(m_csv));
     if (separator == ',')
         return true;
-    m_notes.append(QStringLiteral("cells are separated by %1").arg(nameOf(separator)));
+    m_notes.append(separatorNote(separator));
     return rewrite(separator);
 }
 
 bool SourceText::open()
 {
     if (!m_file.open(QIODevice::ReadOnly))
-        return fail(0, 0, QStringLiteral("cannot be opened: ") + m_file.errorString());
+        return fail(0, 0, releaseText("lässt sich nicht öffnen: %1").arg(m_file.errorString()));
     const qint64 size = m_file.size();
     const uchar *const bytes = size > 0 ? m_file.map(0, size) : nullptr;
     if (size > 0 && !bytes)
-        return fail(0, 0, QStringLiteral("cannot be read: ") + m_file.errorString());
+        return fail(0, 0, releaseText("lässt sich nicht lesen: %1").arg(m_file.errorString()));
     m_csv = QByteArray::fromRawData(reinterpret_cast<const char *>(bytes), size);
     return true;
 }
@@ -111,7 +114,7 @@ void SourceText::decode()
     } else {
         return;
     }
-    m_notes.append(QStringLiteral("read as %1")
+    m_notes.append(releaseText("gelesen als %1")
                        .arg(m_form.encoding == Windows1252 ? QStringLiteral("Windows-1252")
                                                            : QStringLiteral("UTF-16")));
     m_csv = text.toUtf8();
@@ -121,9 +124,10 @@ void SourceText::decode()
 bool SourceText::checkLineEnds()
 {
     const int row = rowOfBareReturn(plainText(m_csv));
-    return row == 0 || fail(row, 0,
-                            QStringLiteral("the row ends with a carriage return alone; save the "
-                                           "file with line feeds"));
+    return row == 0 ||
+           fail(row, 0,
+                releaseText("die Zeile endet nur mit einem Wagenrücklauf; speichern Sie die "
+                            "Datei mit Zeilenvorschüben"));
 }
 
 bool SourceText::acceptBareQuotes()
@@ -143,8 +147,8 @@ bool SourceText::rewrite(char separator)
         return false;
     if (const auto [row, column] = rewriter.firstBareQuote(); row > 0)
         m_notes.append(
-            QStringLiteral("quotes inside of cells are taken as characters, first in row "
-                           "%1, column %2")
+            releaseText("Anführungszeichen innerhalb von Zellen gelten als Zeichen, zuerst in "
+                        "Zeile %1, Spalte %2")
                 .arg(QString::number(row), QString::number(column)));
     m_csv = rewriter.take();
     m_isAsWritten = false;

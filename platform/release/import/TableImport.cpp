@@ -5,21 +5,20 @@
 #include "TypeRecognition.h"
 
 #include <core/config/PIniFile.h>
+#include <core/text/countText.h>
 #include <geomcore/csv/CsvCells.h>
 #include <geomcore/csv/HeaderNames.h>
 #include <geomcore/project/CatalogPlaces.h>
-#include <geomcore/value/CanonicalNumber.h>
+#include <release/text/releaseText.h>
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 #include <QStringDecoder>
 
 #include <algorithm>
 
 using VKTab::appendCell;
-using VKTab::CanonicalNumber;
 using VKTab::FieldKind;
 using VKTab::FieldType;
 using VKTab::HeaderRule;
@@ -71,11 +70,6 @@ bool isUtf8(const QByteArray &bytes)
     return text.isEmpty() || !decoder.hasError();
 }
 
-QString quotedList(const QStringList &names)
-{
-    return u'"' + names.join(QStringLiteral("\", \"")) + u'"';
-}
-
 } // namespace
 
 TableImport::TableImport(QString csvFile, QString target, ImportOptions options)
@@ -113,8 +107,9 @@ bool TableImport::readSource()
     m_source = read.data;
     if (!m_source) {
         if (readable && !isUtf8(text.csv()))
-            error(m_csvFile, QStringLiteral("if it is written in another encoding, name that by "
-                                            "--encoding"));
+            error(m_csvFile,
+                  releaseText("wenn sie anders kodiert ist, nennen Sie die Kodierung mit "
+                              "--encoding"));
         return false;
     }
     noteNames();
@@ -139,8 +134,10 @@ bool TableImport::readFormer()
     m_former = read.data;
     if (!m_former)
         error(file,
-              QStringLiteral("the table as it was imported before cannot be read, so its line "
-                             "ids cannot be kept; correct it, or remove it to start anew"));
+              releaseText(
+                  "die Tabelle aus dem früheren Import ist nicht lesbar, ihre Zeilen-Ids ließen "
+                  "sich nicht behalten; berichtigen Sie sie, oder löschen Sie sie, um neu "
+                  "zu beginnen"));
     return m_former != nullptr;
 }
 
@@ -152,9 +149,10 @@ bool TableImport::staysInCatalog()
          {descriptor.csvFile(json), json, m_target + QStringLiteral(".prj")}) {
         if (liesInside(file, m_options.root))
             continue;
-        error(json, QStringLiteral("%1 lies outside of the catalog and is not written; correct the "
-                                   "\"path\" of the descriptor or remove the link")
-                        .arg(QDir::toNativeSeparators(file)));
+        error(json,
+              releaseText("%1 liegt außerhalb des Katalogs und wird nicht geschrieben; berichtigen "
+                          "Sie „path“ im Deskriptor, oder entfernen Sie die Verknüpfung")
+                  .arg(QDir::toNativeSeparators(file)));
         return false;
     }
     return true;
@@ -184,7 +182,7 @@ void TableImport::takeFields()
         if (known >= 0)
             checkField(fields.last(), found);
         else if (m_former)
-            m_notes.append(QStringLiteral("new column \"%1\"").arg(found.name));
+            m_notes.append(releaseText("neue Spalte „%1“").arg(found.name));
     }
     for (const TableField &field : std::as_const(m_descriptor.fields)) {
         if (m_source->columnOf(field.name) >= 0)
@@ -192,21 +190,9 @@ void TableImport::takeFields()
         if (field.kind == FieldKind::Computed || field.name == m_descriptor.lineIdField)
             fields.append(field);
         else
-            m_notes.append(QStringLiteral("the column \"%1\" is gone").arg(field.name));
+            m_notes.append(releaseText("die Spalte „%1“ ist weggefallen").arg(field.name));
     }
     m_descriptor.fields = fields;
-}
-
-void TableImport::checkField(const TableField &field, const TableField &found)
-{
-    const bool fits = field.kind != FieldKind::Range && found.kind != FieldKind::Range &&
-                      (!field.isNumeric() || found.isNumeric());
-    if (fits || (field.kind == found.kind && field.isNumeric() <= found.isNumeric()))
-        return;
-    m_notes.append(
-        QStringLiteral("the column \"%1\" is %2 by the descriptor, but its cells look like "
-                       "%3")
-            .arg(field.name, describeField(field), describeField(found)));
 }
 
 void TableImport::takeKey()
@@ -214,7 +200,7 @@ void TableImport::takeKey()
     if (m_source->columnOf(m_options.keyColumn) >= 0) {
         m_descriptor.primaryKey = QStringList{m_options.keyColumn};
     } else if (!m_options.keyColumn.isEmpty()) {
-        m_notes.append(QStringLiteral("there is no column \"%1\"").arg(m_options.keyColumn));
+        m_notes.append(releaseText("es gibt keine Spalte „%1“").arg(m_options.keyColumn));
     }
     QStringList &key = m_descriptor.primaryKey;
     const bool gone = std::any_of(key.cbegin(), key.cend(), [this](const QString &name) {
@@ -235,9 +221,10 @@ void TableImport::takeKey()
     if (key.size() != 1)
         return;
     if (const int repeated = recognition.repeatedCells(m_source->columnOf(key.first())))
-        m_notes.append(QStringLiteral("the key \"%1\" is missing or repeated in %2 of %3 lines")
-                           .arg(key.first(), QString::number(repeated),
-                                QString::number(m_source->rowCount())));
+        m_notes.append(
+            releaseText("der Schlüssel „%1“ fehlt oder wiederholt sich in %2 von %Ln Zeile(n)",
+                        m_source->rowCount())
+                .arg(key.first(), countText(repeated)));
 }
 
 QStringList TableImport::idKey() const
@@ -262,7 +249,8 @@ void TableImport::addLineIds()
     if (m_source->columnOf(m_descriptor.lineSubIdField) < 0)
         m_descriptor.lineSubIdField.clear();
     if (m_descriptor.primaryKey.isEmpty() && field.isEmpty()) {
-        m_notes.append(QStringLiteral("no key column was found; a line's id is its row"));
+        m_notes.append(releaseText(
+            "keine Schlüsselspalte gefunden; die Id einer Zeile ist ihr Platz in der Datei"));
         return;
     }
     LineNumbers numbers(m_descriptor, idKey());
@@ -340,43 +328,6 @@ bool TableImport::write()
         return true;
     m_errors.append(files.error());
     return false;
-}
-
-void TableImport::noteNames()
-{
-    const QStringList &header = m_source->header();
-    const QStringList names = uniqueColumnNames(header);
-    QHash<QString, QStringList> byFoldedName;
-    for (qsizetype i = 0; i < names.size(); ++i) {
-        byFoldedName[names.at(i).toCaseFolded()].append(names.at(i));
-        if (header.at(i).isEmpty())
-            m_notes.append(QStringLiteral("column %1 has no name and is called \"%2\"")
-                               .arg(QString::number(i + 1), names.at(i)));
-        else if (header.at(i) != names.at(i))
-            m_notes.append(
-                QStringLiteral("column %1 is named \"%2\" once more and is called \"%3\"")
-                    .arg(QString::number(i + 1), header.at(i), names.at(i)));
-    }
-    for (const QString &name : names) {
-        const QStringList alike = byFoldedName.take(name.toCaseFolded());
-        if (alike.size() > 1)
-            m_notes.append(QStringLiteral("%1 differ in case alone").arg(quotedList(alike)));
-    }
-}
-
-void TableImport::noteHeader()
-{
-    const QStringList &header = m_source->header();
-    const auto isNumber = [](const QString &name) {
-        return CanonicalNumber::parse(name.toStdString(), ',').has_value();
-    };
-    if (std::count_if(header.cbegin(), header.cend(), isNumber) * 2 >= header.size())
-        m_notes.append(QStringLiteral("the first row looks like data; it is taken as the columns' "
-                                      "names, so put a row with names before it"));
-    if (header.size() == 1 && header.first().contains(QRegularExpression(QStringLiteral("[;\t]"))))
-        m_notes.append(QStringLiteral("the only column is named \"%1\"; if its cells are several, "
-                                      "name what separates them by --separator")
-                           .arg(header.first()));
 }
 
 bool TableImport::checkResult()

@@ -1,9 +1,9 @@
 #include "TypeRecognition.h"
 
-#include <geomcore/csv/TableFieldNames.h>
 #include <geomcore/value/CanonicalNumber.h>
 #include <geomcore/value/CellKey.h>
 #include <geomcore/value/RangeText.h>
+#include <release/text/releaseText.h>
 
 #include <algorithm>
 
@@ -46,6 +46,42 @@ struct NumberForms
         field.decimalChar = all && comma ? ',' : '.';
     }
 };
+
+QString typeText(FieldType type)
+{
+    switch (type) {
+    case FieldType::String:
+        return releaseText("Text");
+    case FieldType::Number:
+        return releaseText("Zahl");
+    case FieldType::Integer:
+        return releaseText("ganze Zahl");
+    case FieldType::Boolean:
+        return releaseText("Wahrheitswert");
+    case FieldType::Date:
+        return releaseText("Datum");
+    case FieldType::DateTime:
+        break;
+    }
+    return releaseText("Datum mit Uhrzeit");
+}
+
+QString kindText(FieldKind kind)
+{
+    switch (kind) {
+    case FieldKind::Plain:
+        break;
+    case FieldKind::Range:
+        return releaseText("Wertebereich (%1)");
+    case FieldKind::Computed:
+        return releaseText("berechnet (%1)");
+    case FieldKind::Internal:
+        return releaseText("intern (%1)");
+    case FieldKind::Topology:
+        return releaseText("Topologie (%1)");
+    }
+    return QStringLiteral("%1");
+}
 
 bool isToken(const QString &text)
 {
@@ -138,12 +174,8 @@ int TypeRecognition::keyColumn() const
 
 QString describeField(const TableField &field)
 {
-    QString type = QLatin1String(nameOf(FieldTypeNames, field.type));
-    if (field.kind == FieldKind::Range)
-        type = QStringLiteral("range of ") + type + u's';
-    else if (field.kind != FieldKind::Plain)
-        type = QLatin1String(nameOf(FieldKindNames, field.kind)) + u' ' + type;
-    return field.decimalChar == ',' ? type + QStringLiteral(" with decimal comma") : type;
+    const QString text = kindText(field.kind).arg(typeText(field.type));
+    return field.decimalChar == ',' ? releaseText("%1 mit Dezimalkomma").arg(text) : text;
 }
 
 } // namespace VelkRelease

@@ -6,6 +6,7 @@
 #include <release/pattern/CellParts.h>
 #include <release/pattern/ChangeFamilies.h>
 #include <release/pattern/LineComparer.h>
+#include <release/text/releaseText.h>
 
 #include <algorithm>
 #include <cmath>
@@ -64,7 +65,8 @@ bool LinkProof::Run::read(PLinkDbC &linkDb)
     if (index < 0) {
         m_proof.m_problem = record.columns().count() == 0
                                 ? linkDb.lastError().text
-                                : "the table of documents has no column " + m_proof.m_column;
+                                : releaseText("die Tabelle der Dokumente hat keine Spalte %1")
+                                      .arg(m_proof.m_column);
         return false;
     }
     const QString column = linkDb.identifier(record.columns().names().at(index));

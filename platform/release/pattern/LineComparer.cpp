@@ -14,6 +14,7 @@
 #include <release/assign/conditionVariables.h>
 #include <release/assign/LinePart.h>
 #include <release/assign/TargetGuard.h>
+#include <release/text/releaseText.h>
 
 namespace VelkRelease {
 
@@ -53,7 +54,7 @@ LineComparer::LineComparer(const QString &sourceRoot, const PrjMappingC &mapping
         if (!d->part->isUsable())
             d->part.reset();
     } else if (d->errors.isEmpty()) {
-        d->errors << path + ": the project's table could not be read";
+        d->errors << path + ": " + releaseText("die Tabelle des Projekts ist nicht lesbar");
     }
     messages.deactivate();
 }

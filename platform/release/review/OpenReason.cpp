@@ -13,6 +13,7 @@
 #include <geomcore/table/readProjectTable.h>
 #include <release/assign/conditionVariables.h>
 #include <release/assign/LinePart.h>
+#include <release/text/releaseText.h>
 
 #include <algorithm>
 #include <map>
@@ -101,7 +102,7 @@ ReasonFinder::ReasonFinder(const PrjMappingC &mapping, const ReleaseMappingC &re
         if (!m_part->isUsable())
             m_part.reset();
     } else if (errors.isEmpty()) {
-        errors << path + ": the project's table could not be read";
+        errors << path + ": " + releaseText("die Tabelle des Projekts ist nicht lesbar");
     }
     messages.deactivate();
 }

@@ -246,7 +246,7 @@ private Q_SLOTS:
             program(pictureOf(mapping, picture) +
                     QStringList{"--dialog", "links", "--text", fixture.directory.path()});
         QCOMPARE(database.status, 2);
-        QVERIFY2(database.err.contains("not a regular file"), qPrintable(database.err));
+        QVERIFY2(database.err.contains("it is no regular file"), qPrintable(database.err));
         const Run unwritable =
             program(pictureOf(mapping, fixture.directory.filePath("no/such/p.png")));
         QCOMPARE(unwritable.status, 3);
