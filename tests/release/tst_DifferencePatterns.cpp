@@ -231,15 +231,16 @@ void tst_DifferencePatterns::families()
 
 void tst_DifferencePatterns::agreedReplacementIsAFamily()
 {
-    ReleaseMappingC release = releaseOf({proposed("cat/x/a.prj", 3), proposed("cat/y/b.prj", 1)});
+    ReleaseMappingC release = releaseOf({proposed("cat/x/a.prj", 4), proposed("cat/y/b.prj", 1)});
     release.setReplacements(
         {{{}, "W", "St37-2", "S235JR", {}, {}}, {"cat/x", "L", {}, {}, "2", "1"}});
-    const DifferencePatterns found(
-        release,
-        {{{pairOf(1, {"W=St37-2>S235JR"}), pairOf(2, {"L=10>21"}), pairOf(3, {"L=10>22"})}, {}},
-         {{pairOf(1, {"L=20>41"})}, {}}});
+    const DifferencePatterns found(release,
+                                   {{{pairOf(1, {"W=St37-2>S235JR"}), pairOf(2, {"L=10>21"}),
+                                      pairOf(3, {"L=10>22"}), pairOf(4, {"L=10.04>21.1"})},
+                                     {}},
+                                    {{pairOf(1, {"L=20>41"})}, {}}});
     // With one supporter each: without the agreement none would be a family. The second one is
-    // outside of its folder.
+    // outside of its folder. What it makes of 10.04 is rounded.
     QStringList texts;
     for (int i = 0; i < found.count(); ++i) {
         for (const DifferencePatterns::Place &place : found.places(i))
@@ -250,7 +251,7 @@ void tst_DifferencePatterns::agreedReplacementIsAFamily()
                          .arg(found.changes(i).first().agreed ? ", agreed" : "");
     }
     QCOMPARE(texts, (QStringList{"0:1 W: St37-2 → S235JR, agreed", "0:2 L: × 2 + 1, agreed",
-                                 "0:3 L: other", "1:1 L: other"}));
+                                 "0:4 L: × 2 + 1, agreed", "0:3 L: other", "1:1 L: other"}));
 }
 
 void tst_DifferencePatterns::linesAndExceptionsAddUp()
@@ -587,6 +588,8 @@ void tst_DifferencePatterns::evidenceOfAReplacement()
     QCOMPARE(evidence({{}, "W", "t37-2", "S235JR", {}, {}}), std::pair(0, 0));
     QCOMPARE(evidence({"old/b", "W", "St37-2", "S235JR", {}, {}}), std::pair(0, 0));
     QCOMPARE(evidence({{}, "L", {}, {}, "0.5", "0"}), std::pair(5, 15));
+    // A factor with as many digits as one writes: the new values are rounded.
+    QCOMPARE(evidence({{}, "L", {}, {}, "0.5001", "0"}), std::pair(5, 15));
     const auto found = replacementEvidence(example.catalog.root(), example.release,
                                            {{}, "L", {}, {}, "0.5", "0"}, cancelled);
     QCOMPARE(found->examples.front(), (ReplacementEvidence::Example{"old/a.prj", 1, "10", "10"}));

@@ -191,6 +191,13 @@ double roundingOf(QStringView written)
     return 0.5 * std::pow(10.0, -double(places)) * (1 + 1e-6);
 }
 
+bool isMapped(double before, double factor, double offset, QStringView written)
+{
+    const auto after = numberOf(written);
+    const double mapped = before * factor + offset;
+    return after && (areSame(mapped, *after) || std::abs(mapped - *after) <= roundingOf(written));
+}
+
 std::optional<double> offsetOf(double before, double after)
 {
     const double offset = rounded(after - before);

@@ -44,5 +44,9 @@ struct CellPart
                                                                     QStringView written);
 /// Half of what the last decimal place of a number says: so much may it have been rounded.
 [[nodiscard]] VELKRELEASE_EXPORT double roundingOf(QStringView written);
+/// Whether the number as it is \a written is what factor and offset make of the one \a before, as
+/// far as it has decimal places.
+[[nodiscard]] VELKRELEASE_EXPORT bool isMapped(double before, double factor, double offset,
+                                               QStringView written);
 
 } // namespace VelkRelease

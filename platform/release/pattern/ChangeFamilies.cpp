@@ -49,12 +49,6 @@ bool isNotation(const QString &before, const QString &after)
     return plain(before) == plain(after);
 }
 
-/// The number is what the map makes of the other one, as far as it has decimal places.
-bool isMapped(const ValueChange &map, double before, double after, const QString &written)
-{
-    return std::abs(before * map.factor + map.offset - after) <= roundingOf(written);
-}
-
 ValueChange plainChange(const QString &variable, ValueChange::Kind kind)
 {
     ValueChange change;
@@ -185,11 +179,8 @@ const AgreedReplacement *ChangeFamilies::agreedTo(const OpenPair::Value &value, 
             return (agreed.before == part.before && agreed.after == part.after) ||
                    (agreed.before == value.before && agreed.after == value.after);
         const auto before = numberOf(part.before);
-        const auto after = numberOf(part.after);
-        if (!before || !after)
-            return false;
-        const double mapped = *before * agreed.factor.toDouble() + agreed.offset.toDouble();
-        return std::abs(mapped - *after) <= 1e-9 * std::max(std::abs(mapped), std::abs(*after));
+        return before &&
+               isMapped(*before, agreed.factor.toDouble(), agreed.offset.toDouble(), part.after);
     };
     const auto found = std::find_if(m_agreed.cbegin(), m_agreed.cend(), isMeant);
     return found == m_agreed.cend() ? nullptr : &*found;
@@ -215,7 +206,7 @@ std::optional<ValueChange> ChangeFamilies::familyOf(const Part &part, const QStr
         offer(option);
     const auto map = m_maps.constFind(variable);
     if (part.isNumber && map != m_maps.cend() &&
-        isMapped(map->change, *numberOf(part.before), *numberOf(part.after), part.after))
+        isMapped(*numberOf(part.before), map->change.factor, map->change.offset, part.after))
         offer(map->change);
     return found;
 }

@@ -7,7 +7,6 @@
 #include <geomcore/records/LineTable.h>
 
 #include <algorithm>
-#include <cmath>
 
 namespace VelkRelease {
 
@@ -24,11 +23,8 @@ enum class Verdict : quint8 {
 bool maps(const AgreedReplacement &replacement, QStringView before, QStringView after)
 {
     const auto from = numberOf(before);
-    const auto to = numberOf(after);
-    if (!from || !to)
-        return false;
-    const double mapped = *from * replacement.factor.toDouble() + replacement.offset.toDouble();
-    return std::abs(mapped - *to) <= 1e-9 * std::max(std::abs(mapped), std::abs(*to));
+    return from &&
+           isMapped(*from, replacement.factor.toDouble(), replacement.offset.toDouble(), after);
 }
 
 Verdict verdictOf(const AgreedReplacement &replacement, const ComparedVariableC &value)
