@@ -235,6 +235,17 @@ void expandFlatFolder(benchmark::State &state)
         });
 }
 
+/// To the last of 100 000 rows.
+void jumpInFlatFolder(benchmark::State &state)
+{
+    measureAnew(
+        state, [] { return Workbench::opened(flatFolder()); },
+        [](Workbench &workbench) {
+            (void)workbench.window->editor()->selectProject(
+                QStringLiteral("bench/flat/din99999.prj"));
+        });
+}
+
 /// Only one of the 100 000 projects is left, the last one in the tree.
 void filterProjects(benchmark::State &state, const Release &release)
 {
@@ -486,6 +497,7 @@ int main(int argc, char **argv)
     velkbench::addTurns("closeMapping", velkbench::closeMapping, 3);
     velkbench::addTurns("openManyProjects", velkbench::openManyProjects, 2);
     velkbench::addTurns("expandFlatFolder", velkbench::expandFlatFolder, 2);
+    velkbench::addTurns("jumpInFlatFolder", velkbench::jumpInFlatFolder, 2);
     velkbench::addTurns(
         "filterProjects",
         [](benchmark::State &state) {

@@ -1,5 +1,6 @@
 #include "EveryWindow.h"
 
+#include "EveryQuestion.h"
 #include "ModalScript.h"
 #include "WindowFixture.h"
 
@@ -412,6 +413,7 @@ QList<EveryWindow::Window> EveryWindow::all()
     row("message", showMessage);
     row("unsaved script", showScripts);
     row("taken file", showTaken);
+    windows += EveryQuestion::all();
     for (const char *const command :
          {"fileOpen", "fileSaveAs", "fileExport", "fileReport", "carryDecisions", "shareWith"}) {
         row(command, byCommand(command));

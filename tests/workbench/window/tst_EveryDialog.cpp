@@ -8,6 +8,7 @@
 #include <QAccessible>
 #include <QDirIterator>
 #include <QDockWidget>
+#include <QMessageBox>
 #include <QRegularExpression>
 #include <QSet>
 #include <TestPaths.h>
@@ -26,6 +27,7 @@ private Q_SLOTS:
     void fitsASmallScreen_data() { EveryWindow::addRows(); }
     void fitsASmallScreen();
     void noneIsMissing();
+    void noQuestionIsMissing();
 
 private:
     static void check(QStringList (*faultsOf)(const QWidget &))
@@ -97,6 +99,59 @@ void tst_EveryDialog::noneIsMissing()
     }
     QVERIFY2(found > 20, qPrintable(QString::number(found)));
     QVERIFY2(missing.isEmpty(), qPrintable(QStringList(missing.values()).join(u' ')));
+}
+
+/// Every text of a question or a message that the sources have, but those for which a disk, a
+/// printer or somebody else's program has to fail.
+void tst_EveryDialog::noQuestionIsMissing()
+{
+    static const QStringList faults{
+        QStringLiteral("Die Datei ist nur zum Lesen geöffnet."),
+        QStringLiteral("Die Sperre konnte nicht aufgehoben werden."),
+        QStringLiteral("Die Datei wurde nicht gespeichert."),
+        QStringLiteral("Die Datei kann nicht geschrieben werden."),
+        QStringLiteral("Die Mapping-Datei kann nicht angelegt werden."),
+        QStringLiteral("%1 konnte nicht gedruckt werden."),
+        QStringLiteral("Etwas Abgebrochenes wurde in Ordnung gebracht."),
+        QStringLiteral("In der Linkdatenbank gibt es keine Gruppe, zu der Sie gehören."),
+        QStringLiteral("Änderungen in der Linkdatenbank sind vielleicht verloren."),
+        QStringLiteral("Die Nummern konnten nicht geprüft werden."),
+    };
+    QStringList shown;
+    WindowFixture fixture;
+    for (const EveryWindow::Window &window : EveryWindow::all()) {
+        if (!window.isMainWindow)
+            window.show(fixture, [&shown](const QWidget *widget) {
+                if (const auto *const box = qobject_cast<const QMessageBox *>(widget))
+                    shown += box->text();
+            });
+    }
+    static const QRegularExpression question(
+        QStringLiteral("(?:\\bquestion\\.setText\\(|Question::tell\\(\\s*[\\w>()-]+,)\\s*"
+                       "tr\\(((?:\\s*\"[^\"]*\")+)"));
+    static const QRegularExpression joint(QStringLiteral("\"\\s*\""));
+    static const QRegularExpression place(QStringLiteral("%L?\\d|%Ln|\\w+\\(\\w+\\)|\\bsind\\b"));
+    QStringList missing;
+    int found = 0;
+    QDirIterator sources(QStringLiteral(VELK_SOURCE_DIR "/workbench"), {"*.cpp"}, QDir::Files,
+                         QDirIterator::Subdirectories);
+    while (sources.hasNext()) {
+        QFile file(sources.next());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString code = QString::fromUtf8(file.readAll());
+        for (const QRegularExpressionMatch &match : question.globalMatch(code)) {
+            const QString text = match.captured(1).trimmed().remove(joint).remove(u'"');
+            ++found;
+            QStringList parts = QString(text).replace(place, QStringLiteral("\n")).split(u'\n');
+            for (QString &part : parts)
+                part = QRegularExpression::escape(part);
+            const QRegularExpression wanted(parts.join(QStringLiteral(".*")));
+            if (!faults.contains(text) && shown.filter(wanted).isEmpty())
+                missing += text;
+        }
+    }
+    QVERIFY2(found > 20, qPrintable(QString::number(found)));
+    QVERIFY2(missing.isEmpty(), qPrintable(missing.join(u'\n')));
 }
 
 QTEST_MAIN(tst_EveryDialog)
