@@ -27,6 +27,7 @@ class tst_PluginUnload : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void init();
     void cleanup();
     void loads();
@@ -121,6 +122,12 @@ bool tst_PluginUnload::isLoaded() const
     if (library)
         dlclose(library);
     return library != nullptr;
+}
+
+/// A host has this library already, with the resources that are its own.
+void tst_PluginUnload::initTestCase()
+{
+    QVERIFY2(dlopen(VELK_RELEASE_FILE, RTLD_NOW), dlerror());
 }
 
 void tst_PluginUnload::init()
