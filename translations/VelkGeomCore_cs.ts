@@ -152,6 +152,26 @@
         <translation>Repozitář %1 vyžaduje přihlášení: %2</translation>
     </message>
     <message>
+        <source>Das Skript lässt sich nicht lesen: %1</source>
+        <translation>Skript nelze přečíst: %1</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten</source>
+        <translation>Skript byl zastaven</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es brauchte mehr als %1 MB Speicher</source>
+        <translation>Skript byl zastaven: potřeboval více než %1 MB paměti</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es brauchte mehr als %1 s</source>
+        <translation>Skript byl zastaven: trval déle než %1 s</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es rief %1 s lang kein Objekt auf</source>
+        <translation>Skript byl zastaven: po dobu %1 s nezavolal žádný objekt</translation>
+    </message>
+    <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
   Quellprojekt: %1
   Zielprojekt: %2</source>
@@ -266,6 +286,10 @@
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
+    </message>
+    <message>
+        <source>Die Ausgabe lässt sich nicht schreiben: %1</source>
+        <translation>Výstup nelze zapsat: %1</translation>
     </message>
     <message>
         <source>Die Datei hat sich geändert, während sie gelesen wurde.</source>
@@ -414,6 +438,10 @@
             <numerusform>Text ve vzorci pro %1 je delší než %Ln znaky a zůstává bez hodnoty</numerusform>
             <numerusform>Text ve vzorci pro %1 je delší než %Ln znaků a zůstává bez hodnoty</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Ein anderes Skript läuft noch</source>
+        <translation>Ještě běží jiný skript</translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -808,6 +836,10 @@
     <message>
         <source>gleich: %1</source>
         <translation>stejné: %1</translation>
+    </message>
+    <message>
+        <source>kein Text in UTF-8</source>
+        <translation>není to text v UTF-8</translation>
     </message>
     <message>
         <source>kein Wert</source>

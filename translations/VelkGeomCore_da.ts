@@ -149,6 +149,26 @@
         <translation>Repositoriet %1 kræver login: %2</translation>
     </message>
     <message>
+        <source>Das Skript lässt sich nicht lesen: %1</source>
+        <translation>Scriptet kan ikke læses: %1</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten</source>
+        <translation>Scriptet blev stoppet</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es brauchte mehr als %1 MB Speicher</source>
+        <translation>Scriptet blev stoppet: det brugte mere end %1 MB hukommelse</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es brauchte mehr als %1 s</source>
+        <translation>Scriptet blev stoppet: det tog mere end %1 s</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es rief %1 s lang kein Objekt auf</source>
+        <translation>Scriptet blev stoppet: det kaldte intet objekt i %1 s</translation>
+    </message>
+    <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
   Quellprojekt: %1
   Zielprojekt: %2</source>
@@ -263,6 +283,10 @@
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
+    </message>
+    <message>
+        <source>Die Ausgabe lässt sich nicht schreiben: %1</source>
+        <translation>Outputtet kan ikke skrives: %1</translation>
     </message>
     <message>
         <source>Die Datei hat sich geändert, während sie gelesen wurde.</source>
@@ -410,6 +434,10 @@
             <numerusform>En tekst i formlen for %1 bliver længere end %Ln tegn og forbliver uden værdi</numerusform>
             <numerusform>En tekst i formlen for %1 bliver længere end %Ln tegn og forbliver uden værdi</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Ein anderes Skript läuft noch</source>
+        <translation>Et andet script kører endnu</translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -803,6 +831,10 @@
     <message>
         <source>gleich: %1</source>
         <translation>ens: %1</translation>
+    </message>
+    <message>
+        <source>kein Text in UTF-8</source>
+        <translation>ingen tekst i UTF-8</translation>
     </message>
     <message>
         <source>kein Wert</source>

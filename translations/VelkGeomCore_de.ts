@@ -149,6 +149,26 @@
         <translation>Das Repository %1 verlangt eine Anmeldung: %2</translation>
     </message>
     <message>
+        <source>Das Skript lässt sich nicht lesen: %1</source>
+        <translation>Das Skript lässt sich nicht lesen: %1</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten</source>
+        <translation>Das Skript wurde angehalten</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es brauchte mehr als %1 MB Speicher</source>
+        <translation>Das Skript wurde angehalten: es brauchte mehr als %1 MB Speicher</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es brauchte mehr als %1 s</source>
+        <translation>Das Skript wurde angehalten: es brauchte mehr als %1 s</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es rief %1 s lang kein Objekt auf</source>
+        <translation>Das Skript wurde angehalten: es rief %1 s lang kein Objekt auf</translation>
+    </message>
+    <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
   Quellprojekt: %1
   Zielprojekt: %2</source>
@@ -263,6 +283,10 @@
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>Die Anzahl der Zeichen des Textes.</translation>
+    </message>
+    <message>
+        <source>Die Ausgabe lässt sich nicht schreiben: %1</source>
+        <translation>Die Ausgabe lässt sich nicht schreiben: %1</translation>
     </message>
     <message>
         <source>Die Datei hat sich geändert, während sie gelesen wurde.</source>
@@ -410,6 +434,10 @@
             <numerusform>Ein Text in der Formel für %1 wird länger als %Ln Zeichen und bleibt ohne Wert</numerusform>
             <numerusform>Ein Text in der Formel für %1 wird länger als %Ln Zeichen und bleibt ohne Wert</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Ein anderes Skript läuft noch</source>
+        <translation>Ein anderes Skript läuft noch</translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -803,6 +831,10 @@
     <message>
         <source>gleich: %1</source>
         <translation>gleich: %1</translation>
+    </message>
+    <message>
+        <source>kein Text in UTF-8</source>
+        <translation>kein Text in UTF-8</translation>
     </message>
     <message>
         <source>kein Wert</source>

@@ -149,6 +149,26 @@
         <translation>The repository %1 asks for a login: %2</translation>
     </message>
     <message>
+        <source>Das Skript lässt sich nicht lesen: %1</source>
+        <translation>The script cannot be read: %1</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten</source>
+        <translation>The script was stopped</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es brauchte mehr als %1 MB Speicher</source>
+        <translation>The script was stopped: it took more than %1 MB of memory</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es brauchte mehr als %1 s</source>
+        <translation>The script was stopped: it took more than %1 s</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es rief %1 s lang kein Objekt auf</source>
+        <translation>The script was stopped: for %1 s it called no object</translation>
+    </message>
+    <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
   Quellprojekt: %1
   Zielprojekt: %2</source>
@@ -263,6 +283,10 @@
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
+    </message>
+    <message>
+        <source>Die Ausgabe lässt sich nicht schreiben: %1</source>
+        <translation>The output cannot be written: %1</translation>
     </message>
     <message>
         <source>Die Datei hat sich geändert, während sie gelesen wurde.</source>
@@ -410,6 +434,10 @@
             <numerusform>A text in the formula for %1 becomes longer than %Ln character and has no value</numerusform>
             <numerusform>A text in the formula for %1 becomes longer than %Ln characters and has no value</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Ein anderes Skript läuft noch</source>
+        <translation>Another script is still running</translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -803,6 +831,10 @@
     <message>
         <source>gleich: %1</source>
         <translation>equal: %1</translation>
+    </message>
+    <message>
+        <source>kein Text in UTF-8</source>
+        <translation>it is no text in UTF-8</translation>
     </message>
     <message>
         <source>kein Wert</source>

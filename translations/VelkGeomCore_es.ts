@@ -149,6 +149,26 @@
         <translation>El repositorio %1 exige iniciar sesión: %2</translation>
     </message>
     <message>
+        <source>Das Skript lässt sich nicht lesen: %1</source>
+        <translation>No se puede leer el script: %1</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten</source>
+        <translation>El script fue detenido</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es brauchte mehr als %1 MB Speicher</source>
+        <translation>El script fue detenido: necesitó más de %1 MB de memoria</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es brauchte mehr als %1 s</source>
+        <translation>El script fue detenido: tardó más de %1 s</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es rief %1 s lang kein Objekt auf</source>
+        <translation>El script fue detenido: durante %1 s no llamó a ningún objeto</translation>
+    </message>
+    <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
   Quellprojekt: %1
   Zielprojekt: %2</source>
@@ -263,6 +283,10 @@
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
+    </message>
+    <message>
+        <source>Die Ausgabe lässt sich nicht schreiben: %1</source>
+        <translation>No se puede escribir la salida: %1</translation>
     </message>
     <message>
         <source>Die Datei hat sich geändert, während sie gelesen wurde.</source>
@@ -410,6 +434,10 @@
             <numerusform>Un texto de la fórmula de %1 supera %Ln carácter y queda sin valor</numerusform>
             <numerusform>Un texto de la fórmula de %1 supera los %Ln caracteres y queda sin valor</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Ein anderes Skript läuft noch</source>
+        <translation>Todavía se ejecuta otro script</translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -803,6 +831,10 @@
     <message>
         <source>gleich: %1</source>
         <translation>igual: %1</translation>
+    </message>
+    <message>
+        <source>kein Text in UTF-8</source>
+        <translation>no es un texto en UTF-8</translation>
     </message>
     <message>
         <source>kein Wert</source>

@@ -149,6 +149,26 @@
         <translation>Tietovarasto %1 vaatii kirjautumisen: %2</translation>
     </message>
     <message>
+        <source>Das Skript lässt sich nicht lesen: %1</source>
+        <translation>Skriptiä ei voi lukea: %1</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten</source>
+        <translation>Skripti pysäytettiin</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es brauchte mehr als %1 MB Speicher</source>
+        <translation>Skripti pysäytettiin: se tarvitsi yli %1 Mt muistia</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es brauchte mehr als %1 s</source>
+        <translation>Skripti pysäytettiin: se kesti yli %1 s</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es rief %1 s lang kein Objekt auf</source>
+        <translation>Skripti pysäytettiin: se ei kutsunut mitään oliota %1 sekuntiin</translation>
+    </message>
+    <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
   Quellprojekt: %1
   Zielprojekt: %2</source>
@@ -263,6 +283,10 @@
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
+    </message>
+    <message>
+        <source>Die Ausgabe lässt sich nicht schreiben: %1</source>
+        <translation>Tulostetta ei voi kirjoittaa: %1</translation>
     </message>
     <message>
         <source>Die Datei hat sich geändert, während sie gelesen wurde.</source>
@@ -410,6 +434,10 @@
             <numerusform>Kohteen %1 kaavan teksti ylittää %Ln merkin ja jää ilman arvoa</numerusform>
             <numerusform>Kohteen %1 kaavan teksti ylittää %Ln merkkiä ja jää ilman arvoa</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Ein anderes Skript läuft noch</source>
+        <translation>Toinen skripti on vielä käynnissä</translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -803,6 +831,10 @@
     <message>
         <source>gleich: %1</source>
         <translation>sama: %1</translation>
+    </message>
+    <message>
+        <source>kein Text in UTF-8</source>
+        <translation>ei ole UTF-8-tekstiä</translation>
     </message>
     <message>
         <source>kein Wert</source>

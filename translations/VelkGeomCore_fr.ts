@@ -149,6 +149,26 @@
         <translation>Le dépôt %1 demande une connexion : %2</translation>
     </message>
     <message>
+        <source>Das Skript lässt sich nicht lesen: %1</source>
+        <translation>Le script ne peut pas être lu : %1</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten</source>
+        <translation>Le script a été arrêté</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es brauchte mehr als %1 MB Speicher</source>
+        <translation>Le script a été arrêté : il lui fallait plus de %1 Mo de mémoire</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es brauchte mehr als %1 s</source>
+        <translation>Le script a été arrêté : il a pris plus de %1 s</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es rief %1 s lang kein Objekt auf</source>
+        <translation>Le script a été arrêté : pendant %1 s, il n'a appelé aucun objet</translation>
+    </message>
+    <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
   Quellprojekt: %1
   Zielprojekt: %2</source>
@@ -263,6 +283,10 @@
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
+    </message>
+    <message>
+        <source>Die Ausgabe lässt sich nicht schreiben: %1</source>
+        <translation>La sortie ne peut pas être écrite : %1</translation>
     </message>
     <message>
         <source>Die Datei hat sich geändert, während sie gelesen wurde.</source>
@@ -410,6 +434,10 @@
             <numerusform>Un texte de la formule pour %1 dépasse %Ln caractère et reste sans valeur</numerusform>
             <numerusform>Un texte de la formule pour %1 dépasse %Ln caractères et reste sans valeur</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Ein anderes Skript läuft noch</source>
+        <translation>Un autre script est encore en cours</translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -803,6 +831,10 @@
     <message>
         <source>gleich: %1</source>
         <translation>identique : %1</translation>
+    </message>
+    <message>
+        <source>kein Text in UTF-8</source>
+        <translation>ce n'est pas un texte en UTF-8</translation>
     </message>
     <message>
         <source>kein Wert</source>

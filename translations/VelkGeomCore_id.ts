@@ -146,6 +146,26 @@
         <translation>Repositori %1 meminta masuk: %2</translation>
     </message>
     <message>
+        <source>Das Skript lässt sich nicht lesen: %1</source>
+        <translation>Skrip tidak dapat dibaca: %1</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten</source>
+        <translation>Skrip dihentikan</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es brauchte mehr als %1 MB Speicher</source>
+        <translation>Skrip dihentikan: memakai lebih dari %1 MB memori</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es brauchte mehr als %1 s</source>
+        <translation>Skrip dihentikan: memakan waktu lebih dari %1 dtk</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es rief %1 s lang kein Objekt auf</source>
+        <translation>Skrip dihentikan: selama %1 dtk tidak memanggil objek apa pun</translation>
+    </message>
+    <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
   Quellprojekt: %1
   Zielprojekt: %2</source>
@@ -260,6 +280,10 @@
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
+    </message>
+    <message>
+        <source>Die Ausgabe lässt sich nicht schreiben: %1</source>
+        <translation>Keluaran tidak dapat ditulis: %1</translation>
     </message>
     <message>
         <source>Die Datei hat sich geändert, während sie gelesen wurde.</source>
@@ -406,6 +430,10 @@
         <translation>
             <numerusform>Sebuah teks dalam rumus untuk %1 melebihi %Ln karakter dan tetap tanpa nilai</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Ein anderes Skript läuft noch</source>
+        <translation>Skrip lain masih berjalan</translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -798,6 +826,10 @@
     <message>
         <source>gleich: %1</source>
         <translation>sama: %1</translation>
+    </message>
+    <message>
+        <source>kein Text in UTF-8</source>
+        <translation>bukan teks UTF-8</translation>
     </message>
     <message>
         <source>kein Wert</source>

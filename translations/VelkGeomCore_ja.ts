@@ -146,6 +146,26 @@
         <translation>リポジトリ %1 はログインを必要とします: %2</translation>
     </message>
     <message>
+        <source>Das Skript lässt sich nicht lesen: %1</source>
+        <translation>スクリプトを読み取れません: %1</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten</source>
+        <translation>スクリプトは停止されました</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es brauchte mehr als %1 MB Speicher</source>
+        <translation>スクリプトは停止されました: %1 MB を超えるメモリを使いました</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es brauchte mehr als %1 s</source>
+        <translation>スクリプトは停止されました: %1 秒を超えました</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es rief %1 s lang kein Objekt auf</source>
+        <translation>スクリプトは停止されました: %1 秒間オブジェクトを呼び出しませんでした</translation>
+    </message>
+    <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
   Quellprojekt: %1
   Zielprojekt: %2</source>
@@ -260,6 +280,10 @@
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
+    </message>
+    <message>
+        <source>Die Ausgabe lässt sich nicht schreiben: %1</source>
+        <translation>出力を書き込めません: %1</translation>
     </message>
     <message>
         <source>Die Datei hat sich geändert, während sie gelesen wurde.</source>
@@ -406,6 +430,10 @@
         <translation>
             <numerusform>%1 の式のテキストが %Ln 文字を超えるため、値はありません</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Ein anderes Skript läuft noch</source>
+        <translation>別のスクリプトがまだ実行中です</translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -798,6 +826,10 @@
     <message>
         <source>gleich: %1</source>
         <translation>同じ: %1</translation>
+    </message>
+    <message>
+        <source>kein Text in UTF-8</source>
+        <translation>UTF-8 のテキストではありません</translation>
     </message>
     <message>
         <source>kein Wert</source>

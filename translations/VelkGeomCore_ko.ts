@@ -146,6 +146,26 @@
         <translation>저장소 %1에 로그인이 필요합니다: %2</translation>
     </message>
     <message>
+        <source>Das Skript lässt sich nicht lesen: %1</source>
+        <translation>스크립트를 읽을 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten</source>
+        <translation>스크립트가 중지되었습니다</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es brauchte mehr als %1 MB Speicher</source>
+        <translation>스크립트가 중지되었습니다: 메모리를 %1MB 넘게 사용했습니다</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es brauchte mehr als %1 s</source>
+        <translation>스크립트가 중지되었습니다: %1초를 넘겼습니다</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es rief %1 s lang kein Objekt auf</source>
+        <translation>스크립트가 중지되었습니다: %1초 동안 개체를 호출하지 않았습니다</translation>
+    </message>
+    <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
   Quellprojekt: %1
   Zielprojekt: %2</source>
@@ -260,6 +280,10 @@
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
+    </message>
+    <message>
+        <source>Die Ausgabe lässt sich nicht schreiben: %1</source>
+        <translation>출력을 쓸 수 없습니다: %1</translation>
     </message>
     <message>
         <source>Die Datei hat sich geändert, während sie gelesen wurde.</source>
@@ -406,6 +430,10 @@
         <translation>
             <numerusform>%1 수식의 텍스트가 %Ln자를 넘어 값이 없습니다</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Ein anderes Skript läuft noch</source>
+        <translation>다른 스크립트가 아직 실행 중입니다</translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -798,6 +826,10 @@
     <message>
         <source>gleich: %1</source>
         <translation>같음: %1</translation>
+    </message>
+    <message>
+        <source>kein Text in UTF-8</source>
+        <translation>UTF-8 텍스트가 아닙니다</translation>
     </message>
     <message>
         <source>kein Wert</source>

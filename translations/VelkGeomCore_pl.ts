@@ -152,6 +152,26 @@
         <translation>Repozytorium %1 wymaga logowania: %2</translation>
     </message>
     <message>
+        <source>Das Skript lässt sich nicht lesen: %1</source>
+        <translation>Nie można odczytać skryptu: %1</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten</source>
+        <translation>Skrypt został zatrzymany</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es brauchte mehr als %1 MB Speicher</source>
+        <translation>Skrypt został zatrzymany: potrzebował więcej niż %1 MB pamięci</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es brauchte mehr als %1 s</source>
+        <translation>Skrypt został zatrzymany: trwał dłużej niż %1 s</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es rief %1 s lang kein Objekt auf</source>
+        <translation>Skrypt został zatrzymany: przez %1 s nie wywołał żadnego obiektu</translation>
+    </message>
+    <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
   Quellprojekt: %1
   Zielprojekt: %2</source>
@@ -266,6 +286,10 @@
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
+    </message>
+    <message>
+        <source>Die Ausgabe lässt sich nicht schreiben: %1</source>
+        <translation>Nie można zapisać wyjścia: %1</translation>
     </message>
     <message>
         <source>Die Datei hat sich geändert, während sie gelesen wurde.</source>
@@ -414,6 +438,10 @@
             <numerusform>Tekst w formule dla %1 jest dłuższy niż %Ln znaki i pozostaje bez wartości</numerusform>
             <numerusform>Tekst w formule dla %1 jest dłuższy niż %Ln znaków i pozostaje bez wartości</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Ein anderes Skript läuft noch</source>
+        <translation>Inny skrypt jeszcze działa</translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -808,6 +836,10 @@
     <message>
         <source>gleich: %1</source>
         <translation>równe: %1</translation>
+    </message>
+    <message>
+        <source>kein Text in UTF-8</source>
+        <translation>to nie jest tekst w UTF-8</translation>
     </message>
     <message>
         <source>kein Wert</source>

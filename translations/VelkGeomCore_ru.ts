@@ -152,6 +152,26 @@
         <translation>Репозиторий %1 требует входа: %2</translation>
     </message>
     <message>
+        <source>Das Skript lässt sich nicht lesen: %1</source>
+        <translation>Скрипт не читается: %1</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten</source>
+        <translation>Скрипт остановлен</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es brauchte mehr als %1 MB Speicher</source>
+        <translation>Скрипт остановлен: ему понадобилось больше %1 МБ памяти</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es brauchte mehr als %1 s</source>
+        <translation>Скрипт остановлен: он работал дольше %1 с</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es rief %1 s lang kein Objekt auf</source>
+        <translation>Скрипт остановлен: за %1 с он не вызвал ни одного объекта</translation>
+    </message>
+    <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
   Quellprojekt: %1
   Zielprojekt: %2</source>
@@ -266,6 +286,10 @@
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
+    </message>
+    <message>
+        <source>Die Ausgabe lässt sich nicht schreiben: %1</source>
+        <translation>Вывод не записывается: %1</translation>
     </message>
     <message>
         <source>Die Datei hat sich geändert, während sie gelesen wurde.</source>
@@ -414,6 +438,10 @@
             <numerusform>Текст в формуле для %1 длиннее %Ln символов и остаётся без значения</numerusform>
             <numerusform>Текст в формуле для %1 длиннее %Ln символов и остаётся без значения</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Ein anderes Skript läuft noch</source>
+        <translation>Ещё работает другой скрипт</translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -808,6 +836,10 @@
     <message>
         <source>gleich: %1</source>
         <translation>равно: %1</translation>
+    </message>
+    <message>
+        <source>kein Text in UTF-8</source>
+        <translation>это не текст в UTF-8</translation>
     </message>
     <message>
         <source>kein Wert</source>

@@ -155,6 +155,26 @@
         <translation>Repozitorij %1 zahteva prijavo: %2</translation>
     </message>
     <message>
+        <source>Das Skript lässt sich nicht lesen: %1</source>
+        <translation>Skripta ni mogoče prebrati: %1</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten</source>
+        <translation>Skript je bil ustavljen</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es brauchte mehr als %1 MB Speicher</source>
+        <translation>Skript je bil ustavljen: porabil je več kot %1 MB pomnilnika</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es brauchte mehr als %1 s</source>
+        <translation>Skript je bil ustavljen: trajal je več kot %1 s</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es rief %1 s lang kein Objekt auf</source>
+        <translation>Skript je bil ustavljen: %1 s ni poklical nobenega objekta</translation>
+    </message>
+    <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
   Quellprojekt: %1
   Zielprojekt: %2</source>
@@ -269,6 +289,10 @@
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
+    </message>
+    <message>
+        <source>Die Ausgabe lässt sich nicht schreiben: %1</source>
+        <translation>Izpisa ni mogoče zapisati: %1</translation>
     </message>
     <message>
         <source>Die Datei hat sich geändert, während sie gelesen wurde.</source>
@@ -418,6 +442,10 @@
             <numerusform>Besedilo v formuli za %1 je daljše od %Ln znakov in ostane brez vrednosti</numerusform>
             <numerusform>Besedilo v formuli za %1 je daljše od %Ln znakov in ostane brez vrednosti</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Ein anderes Skript läuft noch</source>
+        <translation>Drug skript se še izvaja</translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -813,6 +841,10 @@
     <message>
         <source>gleich: %1</source>
         <translation>enako: %1</translation>
+    </message>
+    <message>
+        <source>kein Text in UTF-8</source>
+        <translation>to ni besedilo v UTF-8</translation>
     </message>
     <message>
         <source>kein Wert</source>

@@ -146,6 +146,26 @@
         <translation>%1 deposu oturum açılmasını istiyor: %2</translation>
     </message>
     <message>
+        <source>Das Skript lässt sich nicht lesen: %1</source>
+        <translation>Betik okunamıyor: %1</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten</source>
+        <translation>Betik durduruldu</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es brauchte mehr als %1 MB Speicher</source>
+        <translation>Betik durduruldu: %1 MB bellekten fazlasını kullandı</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es brauchte mehr als %1 s</source>
+        <translation>Betik durduruldu: %1 saniyeden uzun sürdü</translation>
+    </message>
+    <message>
+        <source>Das Skript wurde angehalten: es rief %1 s lang kein Objekt auf</source>
+        <translation>Betik durduruldu: %1 saniye boyunca hiçbir nesneyi çağırmadı</translation>
+    </message>
+    <message>
         <source>Das Zielprojekt heißt anders als das Quellprojekt, und keine Zuordnung dorthin ist bestätigt.
   Quellprojekt: %1
   Zielprojekt: %2</source>
@@ -260,6 +280,10 @@
     <message>
         <source>Die Anzahl der Zeichen des Textes.</source>
         <translation>The number of characters of the text.</translation>
+    </message>
+    <message>
+        <source>Die Ausgabe lässt sich nicht schreiben: %1</source>
+        <translation>Çıktı yazılamıyor: %1</translation>
     </message>
     <message>
         <source>Die Datei hat sich geändert, während sie gelesen wurde.</source>
@@ -406,6 +430,10 @@
         <translation>
             <numerusform>%1 formülündeki bir metin %Ln karakteri aşıyor ve değersiz kalıyor</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Ein anderes Skript läuft noch</source>
+        <translation>Başka bir betik hâlâ çalışıyor</translation>
     </message>
     <message>
         <source>Eine Bedingung des Zielprojekts ist nicht erfüllt.
@@ -798,6 +826,10 @@
     <message>
         <source>gleich: %1</source>
         <translation>eşit: %1</translation>
+    </message>
+    <message>
+        <source>kein Text in UTF-8</source>
+        <translation>UTF-8 metni değil</translation>
     </message>
     <message>
         <source>kein Wert</source>

@@ -126,7 +126,7 @@ void tst_ScriptLimits::endlessLoops()
     QVERIFY(timer.elapsed() >= 100);
     QVERIFY(m_exception);
     QCOMPARE(m_exception->message,
-             QStringLiteral("The script was stopped: for 0.1 s it called no object"));
+             QStringLiteral("Das Skript wurde angehalten: es rief 0.1 s lang kein Objekt auf"));
     QCOMPARE(m_exception->file, QStringLiteral("/scripts/test.js"));
     QCOMPARE(m_engine->stopped(), ScriptStop::SilentTime);
     // The engine goes on.
@@ -143,7 +143,7 @@ void tst_ScriptLimits::totalTimeCountsTheScriptAlone()
     run(QStringLiteral("for (;;) caller.wait(0)"));
     QVERIFY(m_exception);
     QCOMPARE(m_exception->message,
-             QStringLiteral("The script was stopped: it took more than 0.15 s"));
+             QStringLiteral("Das Skript wurde angehalten: es brauchte mehr als 0.15 s"));
     QCOMPARE(m_engine->stopped(), ScriptStop::TotalTime);
 }
 
@@ -160,7 +160,7 @@ void tst_ScriptLimits::memory()
     run(QStringLiteral("const all = []; for (;;) all.push(new Array(1000).fill(all.length))"));
     QVERIFY(m_exception);
     QCOMPARE(m_exception->message,
-             QStringLiteral("The script was stopped: it took more than 60 MB of memory"));
+             QStringLiteral("Das Skript wurde angehalten: es brauchte mehr als 60 MB Speicher"));
     QCOMPARE(m_engine->stopped(), ScriptStop::Memory);
 }
 
@@ -176,7 +176,7 @@ void tst_ScriptLimits::stoppedFromAnotherThread()
     run(QStringLiteral("print('begun'); for (;;);"));
     other.join();
     QVERIFY(m_exception);
-    QCOMPARE(m_exception->message, QStringLiteral("The script was stopped"));
+    QCOMPARE(m_exception->message, QStringLiteral("Das Skript wurde angehalten"));
     QCOMPARE(m_engine->stopped(), ScriptStop::ByHand);
     m_engine->stop(); // of nothing
     QCOMPARE(run(QStringLiteral("7")).getInt(), 7);
@@ -212,11 +212,11 @@ void tst_ScriptLimits::stoppedCallback()
     mzComVariantC result;
     QCOMPARE(object.invokeAndCheck("f", {}, result, m_exception), int(mzComFailed));
     QVERIFY(m_exception);
-    QCOMPARE(m_exception->message, QStringLiteral("The script was stopped"));
+    QCOMPARE(m_exception->message, QStringLiteral("Das Skript wurde angehalten"));
     // Within a call of the script both end.
     run(QStringLiteral("caller.call({ f() { for (;;); } }, 'f'); print('on'); for (;;);"));
     QCOMPARE(m_engine->stopped(), ScriptStop::SilentTime);
-    QCOMPARE(m_caller->message, QStringLiteral("The script was stopped"));
+    QCOMPARE(m_caller->message, QStringLiteral("Das Skript wurde angehalten"));
 }
 
 void tst_ScriptLimits::getterWithoutEnd()
@@ -286,7 +286,7 @@ void tst_ScriptLimits::oneScriptAtATime()
     run(QStringLiteral("print(1)"));
     QVERIFY(!m_exception);
     QVERIFY(inner);
-    QCOMPARE(inner->text(), QStringLiteral("second.js: Another script is still running"));
+    QCOMPARE(inner->text(), QStringLiteral("second.js: Ein anderes Skript läuft noch"));
 }
 
 /// What scripts have is the language and these.

@@ -1,3 +1,4 @@
+#include "../support/EnglishTexts.h"
 #include "../support/TestCatalog.h"
 
 #include <geomcore/linkdb/PLinkDbC.h>
@@ -168,7 +169,7 @@ void tst_RunCommand::linkDatabase()
     QCOMPARE(run({path("test.js")}), ExitStatus::ScriptFailed);
     QCOMPARE(m_out, QString("false\n"));
     QCOMPARE(m_err, QString("velkmap run: " + path("test.js") +
-                            ":2: Error: Es ist keine Linkdatenbank verbunden.\n"));
+                            ":2: Error: No link database is connected.\n"));
     QCOMPARE(run({path("test.js"), "--linkdb", "postgresql://"}), ExitStatus::WrongUsage);
     QCOMPARE(run({path("test.js"), "--linkdb", path("cat")}), ExitStatus::InputUnreadable);
     // In the export.

@@ -7,6 +7,7 @@
 
 #include <core/component/mzComCreateObject.h>
 #include <core/component/mzIDispatch.h>
+#include <script/text/scriptText.h>
 
 #include <QCoreApplication>
 #include <QRegularExpression>
@@ -105,7 +106,7 @@ mzComVariantC ScriptEngine::run(const QString &program, const QString &file,
 {
     exception.reset();
     if (isRunning()) {
-        exception = PScriptException{QStringLiteral("Another script is still running"), file, 0};
+        exception = PScriptException{scriptText("Ein anderes Skript läuft noch"), file, 0};
         return {};
     }
     m_exitStatus = 0;
@@ -137,16 +138,17 @@ std::optional<PScriptException> ScriptEngine::stopException(const QString &file)
     };
     switch (m_stopped) {
     case ScriptStop::ByHand:
-        return because(QStringLiteral("The script was stopped"));
+        return because(scriptText("Das Skript wurde angehalten"));
     case ScriptStop::TotalTime:
-        return because(QStringLiteral("The script was stopped: it took more than %1 s")
+        return because(scriptText("Das Skript wurde angehalten: es brauchte mehr als %1 s")
                            .arg(seconds(m_limits.total)));
     case ScriptStop::SilentTime:
-        return because(QStringLiteral("The script was stopped: for %1 s it called no object")
+        return because(scriptText("Das Skript wurde angehalten: es rief %1 s lang kein Objekt auf")
                            .arg(seconds(m_limits.silent)));
     case ScriptStop::Memory:
-        return because(QStringLiteral("The script was stopped: it took more than %1 MB of memory")
-                           .arg(m_limits.bytes / 1'000'000));
+        return because(
+            scriptText("Das Skript wurde angehalten: es brauchte mehr als %1 MB Speicher")
+                .arg(m_limits.bytes / 1'000'000));
     case ScriptStop::No:
     case ScriptStop::Exit:
         break;
@@ -239,7 +241,7 @@ QJSValue ScriptEngine::callSafely(const QJSValue &object, const QString &name,
     if (!watched.isStopped())
         return outcome;
     QJSValue stopped = m_engine.newObject();
-    stopped.setProperty(QStringLiteral("error"), QStringLiteral("The script was stopped"));
+    stopped.setProperty(QStringLiteral("error"), scriptText("Das Skript wurde angehalten"));
     return stopped;
 }
 

@@ -3,6 +3,7 @@
 #include <core/component/mzComServerC.h>
 #include <core/file/openRegularFile.h>
 #include <script/objects/prxVelkC.h>
+#include <script/text/scriptText.h>
 
 #include <QFile>
 #include <QStringDecoder>
@@ -29,7 +30,7 @@ std::optional<QString> readProgram(const QString &path, QString &problem)
     QStringDecoder utf8(QStringDecoder::Utf8);
     QString program = utf8(bytes);
     if (utf8.hasError()) {
-        problem = QStringLiteral("it is no text in UTF-8");
+        problem = scriptText("kein Text in UTF-8");
         return std::nullopt;
     }
     if (program.startsWith(
@@ -93,8 +94,8 @@ ScriptOutcome ScriptSession::run(const QString &program, const QString &name)
     QString cause;
     if (m_output && !m_output->commit(&cause)) {
         outcome.state = ScriptOutcome::NotWritten;
-        outcome.error = {QStringLiteral("The output cannot be written: ") + cause, m_output->path(),
-                         0};
+        outcome.error = {scriptText("Die Ausgabe lässt sich nicht schreiben: %1").arg(cause),
+                         m_output->path(), 0};
     }
     m_output = nullptr;
     return outcome;
@@ -106,5 +107,5 @@ ScriptOutcome ScriptSession::runFile(const QString &path)
     if (const auto program = readProgram(path, problem))
         return run(*program, path);
     return {.state = ScriptOutcome::Unreadable,
-            .error = {QStringLiteral("The script cannot be read: ") + problem, path, 0}};
+            .error = {scriptText("Das Skript lässt sich nicht lesen: %1").arg(problem), path, 0}};
 }

@@ -198,7 +198,7 @@ void tst_Scripts::stoppedByEscape()
     });
     timer.start(200);
     enter("for (;;) mapping.projectCount");
-    QCOMPARE(lastLine(), QString("The script was stopped"));
+    QCOMPARE(lastLine(), QString("Das Skript wurde angehalten"));
     QVERIFY(presses > 3);
     QVERIFY(input()->text().isEmpty());
     QVERIFY(!m_fixture->window->scripts()->isRunning());
@@ -210,7 +210,7 @@ void tst_Scripts::stoppedByItsButton()
     QVERIFY(!stop->isEnabled());
     QTimer::singleShot(300, stop, [stop] { QTest::mouseClick(stop, Qt::LeftButton); });
     enter("for (;;) mapping.projectCount");
-    QCOMPARE(lastLine(), QString("The script was stopped"));
+    QCOMPARE(lastLine(), QString("Das Skript wurde angehalten"));
     QVERIFY(!stop->isEnabled());
 }
 
