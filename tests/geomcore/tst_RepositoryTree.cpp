@@ -2,7 +2,7 @@
 #include "IndexTreeFolder.h"
 #include "RepositoryFixture.h"
 
-#include <core/file/AddressedFiles.h>
+#include <core/access/AddressedFiles.h>
 #include <core/text/PPathName.h>
 
 #include <QAbstractItemModelTester>

@@ -1,6 +1,6 @@
 #include "ScriptEditor.h"
 
-#include <core/file/openRegularFile.h>
+#include <core/access/openRegularFile.h>
 #include <core/files/DurableFile.h>
 #include <gui/application/PApplication.h>
 #include <gui/progress/ProgressInputFilter.h>

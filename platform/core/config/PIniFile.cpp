@@ -1,7 +1,7 @@
 #include "PIniFile.h"
 
 #include "PIniText.h"
-#include <core/file/openRegularFile.h>
+#include <core/access/openRegularFile.h>
 #include <core/text/PString.h>
 
 #include <QFile>

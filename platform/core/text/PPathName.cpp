@@ -1,7 +1,7 @@
 #include "PPathName.h"
 
 #include "PathAlias.h"
-#include <core/file/AddressedFiles.h>
+#include <core/access/AddressedFiles.h>
 
 #include <QDir>
 #include <QFileInfo>

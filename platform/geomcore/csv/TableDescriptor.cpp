@@ -1,6 +1,6 @@
 #include "TableDescriptor.h"
 
-#include <core/file/openRegularFile.h>
+#include <core/access/openRegularFile.h>
 #include <core/text/PString.h>
 #include <geomcore/value/CellKey.h>
 

@@ -6,7 +6,7 @@
 #include "RepositoryClient.h"
 #include "RepositoryListing.h"
 
-#include <core/file/AddressedFiles.h>
+#include <core/access/AddressedFiles.h>
 
 #include <QDeadlineTimer>
 #include <QHash>

@@ -2,7 +2,7 @@
 
 #include "ComputedColumns.h"
 #include "tableExpressions.h"
-#include <core/file/openRegularFile.h>
+#include <core/access/openRegularFile.h>
 #include <core/text/countText.h>
 #include <core/text/PString.h>
 #include <geomcore/csv/CsvCells.h>

@@ -1,7 +1,7 @@
 #include "ScriptSession.h"
 
+#include <core/access/openRegularFile.h>
 #include <core/component/mzComServerC.h>
-#include <core/file/openRegularFile.h>
 #include <script/objects/prxVelkC.h>
 #include <script/text/scriptText.h>
 

@@ -1,7 +1,7 @@
 #include "ModalScript.h"
 #include "WindowFixture.h"
 
-#include <core/file/AddressedFiles.h>
+#include <core/access/AddressedFiles.h>
 #include <core/message/PMessage.h>
 #include <geomcore/records/MappingFile.h>
 #include <mapping/view/CatalogMappingWidget.h>

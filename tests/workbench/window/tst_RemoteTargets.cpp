@@ -12,7 +12,7 @@
 #include <workbench/window/SettingsDialog.h>
 #include <workbench/window/WorkbenchSettings.h>
 
-#include <core/file/AddressedFiles.h>
+#include <core/access/AddressedFiles.h>
 #include <geomcore/index/DisplayIndexC.h>
 #include <geomcore/index/IndexTreeC.h>
 #include <geomcoregui/search/TileItemView.h>
