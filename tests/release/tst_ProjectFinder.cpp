@@ -199,6 +199,16 @@ void tst_ProjectFinder::finds_data()
         << Release{{"new/a/rivet.prj", bolts(1, 11)},
                    {"new/a/abolt.prj", bolts(2, 10) + lines(20, 2)}}
         << QStringList{"new/a/abolt.prj", "new/a/rivet.prj"};
+    QTest::newRow("alike but for chance in both, the likelier name first")
+        << bolts() << none
+        << Release{{"new/a/rivet.prj", bolts(1, 11)},
+                   {"new/a/abolt.prj", bolts(2, 9) + lines(20, 3)}}
+        << QStringList{"new/a/abolt.prj", "new/a/rivet.prj"};
+    QTest::newRow("more than chance lets them differ")
+        << bolts() << none
+        << Release{{"new/a/rivet.prj", bolts(1, 11)},
+                   {"new/a/abolt.prj", bolts(2, 8) + lines(20, 4)}}
+        << QStringList{"new/a/rivet.prj", "new/a/abolt.prj"};
     QTest::newRow("rest in two projects alike is not looked for")
         << bolts() << key
         << Release{{"new/a/bolt.prj", bolts(1, 10)},

@@ -258,13 +258,14 @@ void Search::addSimilar(Candidates &candidates)
     }
 }
 
-/// By which part of itself the number of lines that a table holds may be another by chance: one
-/// standard deviation. Nothing if it holds all.
+/// By which part of itself the number of lines that a table holds may differ by chance from that of
+/// another one which was as good: one standard deviation of the difference, as both may be another.
+/// Nothing if it holds all.
 double Search::chanceOf(const Candidate &candidate) const
 {
     const double count = m_cells.rowCount();
     const double share = candidate.match.heldCount(m_allRows) / count;
-    return std::sqrt((1 - share) / (share * count));
+    return std::sqrt(2 * (1 - share) / (share * count));
 }
 
 void Search::addParts(Candidates &candidates)
