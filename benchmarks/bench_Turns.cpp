@@ -10,11 +10,11 @@
 #include <workbench/review/PatternDock.h>
 #include <workbench/session/ReviewWork.h>
 #include <workbench/start/PluginLibrary.h>
-#include <workbench/window/DocumentDesk.h>
-#include <workbench/window/EditorArea.h>
+#include <workbench/window/document/DocumentDesk.h>
+#include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/MainWindow.h>
-#include <workbench/window/ReviewCommands.h>
-#include <workbench/window/WorkbenchSettings.h>
+#include <workbench/window/review/ReviewCommands.h>
+#include <workbench/window/settings/WorkbenchSettings.h>
 
 #include <core/config/PConfigInst.h>
 #include <geomcore/records/MappingFile.h>

@@ -1,18 +1,18 @@
 #include "LocatorDesk.h"
 
-#include "DocumentDesk.h"
-#include "EditorArea.h"
-#include "KeyedActions.h"
 #include "MainWindow.h"
-#include "SettingsDialog.h"
-#include "StatusArea.h"
-#include "WorkbenchSettings.h"
 
 #include <geomcore/value/LangThreadSettings.h>
 #include <gui/application/PCommandKeys.h>
 #include <workbench/locator/LocatorDialog.h>
 #include <workbench/locator/LocatorSearch.h>
 #include <workbench/session/MappingDocument.h>
+#include <workbench/window/document/DocumentDesk.h>
+#include <workbench/window/editor/EditorArea.h>
+#include <workbench/window/message/StatusArea.h>
+#include <workbench/window/settings/KeyedActions.h>
+#include <workbench/window/settings/SettingsDialog.h>
+#include <workbench/window/settings/WorkbenchSettings.h>
 
 #include <QAction>
 

@@ -1,19 +1,5 @@
 #include "MainWindow.h"
 
-#include "DocumentDesk.h"
-#include "EditorArea.h"
-#include "KeyedActions.h"
-#include "KeysDialog.h"
-#include "LogWindow.h"
-#include "MappingMaker.h"
-#include "PartView.h"
-#include "Question.h"
-#include "SettingsDialog.h"
-#include "StatusArea.h"
-#include "TourOverlay.h"
-#include "WorkbenchActions.h"
-#include "WorkbenchSettings.h"
-
 #include <core/message/PMessage.h>
 #include <core/text/PPathName.h>
 #include <core/Version.h>
@@ -23,6 +9,19 @@
 #include <workbench/session/OpenLines.h>
 #include <workbench/session/SessionRecovery.h>
 #include <workbench/session/ValueRangeCheck.h>
+#include <workbench/window/document/DocumentDesk.h>
+#include <workbench/window/document/MappingMaker.h>
+#include <workbench/window/editor/EditorArea.h>
+#include <workbench/window/help/TourOverlay.h>
+#include <workbench/window/look/PartView.h>
+#include <workbench/window/message/LogWindow.h>
+#include <workbench/window/message/Question.h>
+#include <workbench/window/message/StatusArea.h>
+#include <workbench/window/settings/KeyedActions.h>
+#include <workbench/window/settings/KeysDialog.h>
+#include <workbench/window/settings/SettingsDialog.h>
+#include <workbench/window/settings/WorkbenchActions.h>
+#include <workbench/window/settings/WorkbenchSettings.h>
 
 #include <QAction>
 #include <QFileInfo>

@@ -1,18 +1,17 @@
 // The part of MainWindow that follows the document: it is opened and closed, steps are done.
 #include "MainWindow.h"
 
-#include "DocumentDesk.h"
-#include "EditorArea.h"
-#include "LinkDbHost.h"
-#include "LogWindow.h"
-#include "PartView.h"
-#include "StatusArea.h"
-#include "WelcomePage.h"
-#include "WorkbenchActions.h"
-#include "WorkbenchSettings.h"
-
 #include <workbench/session/BackgroundWork.h>
 #include <workbench/session/UndoHistory.h>
+#include <workbench/window/document/DocumentDesk.h>
+#include <workbench/window/editor/EditorArea.h>
+#include <workbench/window/help/WelcomePage.h>
+#include <workbench/window/linkdb/LinkDbHost.h>
+#include <workbench/window/look/PartView.h>
+#include <workbench/window/message/LogWindow.h>
+#include <workbench/window/message/StatusArea.h>
+#include <workbench/window/settings/WorkbenchActions.h>
+#include <workbench/window/settings/WorkbenchSettings.h>
 
 #include <QFileInfo>
 #include <QLocale>

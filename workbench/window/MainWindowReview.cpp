@@ -1,19 +1,5 @@
-#include "CarryCommands.h"
-#include "ConflictCommands.h"
-#include "DockRoom.h"
-#include "DocumentDesk.h"
-#include "EditorArea.h"
-#include "FilterCommands.h"
-#include "LineStateFilter.h"
-#include "LogWindow.h"
 #include "MainWindow.h"
-#include "NeighbourCommands.h"
-#include "RangeCommands.h"
-#include "ReviewCommands.h"
 #include "ScriptDesk.h"
-#include "ShareCommands.h"
-#include "StatusArea.h"
-#include "WorkbenchActions.h"
 
 #include <gui/application/PCommandKeys.h>
 #include <workbench/review/ConflictDock.h>
@@ -25,6 +11,20 @@
 #include <workbench/script/ScriptConsole.h>
 #include <workbench/session/CarriedWork.h>
 #include <workbench/session/MappingDocument.h>
+#include <workbench/window/document/DocumentDesk.h>
+#include <workbench/window/editor/EditorArea.h>
+#include <workbench/window/editor/FilterCommands.h>
+#include <workbench/window/editor/LineStateFilter.h>
+#include <workbench/window/editor/RangeCommands.h>
+#include <workbench/window/look/DockRoom.h>
+#include <workbench/window/message/LogWindow.h>
+#include <workbench/window/message/StatusArea.h>
+#include <workbench/window/review/CarryCommands.h>
+#include <workbench/window/review/ConflictCommands.h>
+#include <workbench/window/review/NeighbourCommands.h>
+#include <workbench/window/review/ReviewCommands.h>
+#include <workbench/window/review/ShareCommands.h>
+#include <workbench/window/settings/WorkbenchActions.h>
 
 #include <QAction>
 

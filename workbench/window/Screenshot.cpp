@@ -1,7 +1,5 @@
 #include "Screenshot.h"
 
-#include "EditorArea.h"
-#include "LogWindow.h"
 #include "MainWindow.h"
 #include "ScreenshotDialog.h"
 
@@ -9,6 +7,8 @@
 #include <workbench/session/CatalogRootMemory.h>
 #include <workbench/session/SessionRecovery.h>
 #include <workbench/start/StartOptions.h>
+#include <workbench/window/editor/EditorArea.h>
+#include <workbench/window/message/LogWindow.h>
 
 #include <QApplication>
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DocumentDesk.h"
+#include <workbench/window/document/DocumentDesk.h>
 
 class MainWindow;
 class QSettings;

@@ -1,17 +1,7 @@
 #include "ScreenshotDialog.h"
 
-#include "CarryCommands.h"
-#include "EditorArea.h"
-#include "FilterCommands.h"
-#include "HelpWindow.h"
-#include "KeyedActions.h"
-#include "KeysDialog.h"
-#include "LinkDbHost.h"
 #include "MainWindow.h"
-#include "NeighbourCommands.h"
-#include "ReviewCommands.h"
 #include "ScriptDesk.h"
-#include "WorkbenchActions.h"
 
 #include <formula/DlgFormulaEditor.h>
 #include <geomcore/binding/createVarsetFromVKTable.h>
@@ -26,6 +16,16 @@
 #include <workbench/session/CarriedWork.h>
 #include <workbench/session/FilterWork.h>
 #include <workbench/session/NeighbourWork.h>
+#include <workbench/window/editor/EditorArea.h>
+#include <workbench/window/editor/FilterCommands.h>
+#include <workbench/window/help/HelpWindow.h>
+#include <workbench/window/linkdb/LinkDbHost.h>
+#include <workbench/window/review/CarryCommands.h>
+#include <workbench/window/review/NeighbourCommands.h>
+#include <workbench/window/review/ReviewCommands.h>
+#include <workbench/window/settings/KeyedActions.h>
+#include <workbench/window/settings/KeysDialog.h>
+#include <workbench/window/settings/WorkbenchActions.h>
 
 #include <QAction>
 #include <QApplication>

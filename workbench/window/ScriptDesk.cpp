@@ -1,14 +1,14 @@
 #include "ScriptDesk.h"
 
-#include "DocumentDesk.h"
 #include "MainWindow.h"
 #include "prxWorkbenchC.h"
-#include "WorkbenchSettings.h"
 
 #include <gui/progress/DefaultObserverDelegate.h>
 #include <workbench/script/ScriptConsole.h>
 #include <workbench/script/ScriptEditor.h>
 #include <workbench/session/MappingDocument.h>
+#include <workbench/window/document/DocumentDesk.h>
+#include <workbench/window/settings/WorkbenchSettings.h>
 
 #include <core/progress/PProgress.h>
 

@@ -1,12 +1,8 @@
 #include "WorkbenchRun.h"
 
-#include "DocumentDesk.h"
-#include "EditorArea.h"
 #include "MainWindow.h"
 #include "Screenshot.h"
 #include "ScriptDesk.h"
-#include "useLanguage.h"
-#include "WorkbenchSettings.h"
 
 #include <core/config/PConfigService.h>
 #include <core/plugin/PTranslateManager.h>
@@ -14,6 +10,10 @@
 #include <gui/application/PApplication.h>
 #include <workbench/start/SettingsPlace.h>
 #include <workbench/start/StartOptions.h>
+#include <workbench/window/document/DocumentDesk.h>
+#include <workbench/window/editor/EditorArea.h>
+#include <workbench/window/look/useLanguage.h>
+#include <workbench/window/settings/WorkbenchSettings.h>
 
 #include <QApplication>
 #include <QDir>

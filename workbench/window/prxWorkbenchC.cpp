@@ -1,12 +1,12 @@
 #include "prxWorkbenchC.h"
 
-#include "DocumentDesk.h"
-#include "EditorArea.h"
-#include "LogWindow.h"
 #include "MainWindow.h"
 
 #include <core/component/proxyMember.h>
 #include <workbench/session/MappingDocument.h>
+#include <workbench/window/document/DocumentDesk.h>
+#include <workbench/window/editor/EditorArea.h>
+#include <workbench/window/message/LogWindow.h>
 
 prxWorkbenchC::prxWorkbenchC(MainWindow *window)
     : m_window(window)

@@ -12,14 +12,14 @@
 #include <release/decide/LineEdits.h>
 #include <workbench/session/MappingDocument.h>
 #include <workbench/session/ReviewWork.h>
-#include <workbench/window/DocumentDesk.h>
-#include <workbench/window/EditorArea.h>
-#include <workbench/window/LinkDbHost.h>
-#include <workbench/window/LinkListDialog.h>
+#include <workbench/window/document/DocumentDesk.h>
+#include <workbench/window/document/ReleaseCommands.h>
+#include <workbench/window/editor/EditorArea.h>
+#include <workbench/window/linkdb/LinkDbHost.h>
+#include <workbench/window/linkdb/LinkListDialog.h>
 #include <workbench/window/MainWindow.h>
-#include <workbench/window/ReleaseCommands.h>
-#include <workbench/window/ReviewCommands.h>
-#include <workbench/window/WorkbenchSettings.h>
+#include <workbench/window/review/ReviewCommands.h>
+#include <workbench/window/settings/WorkbenchSettings.h>
 
 #include <QAction>
 #include <QFile>

@@ -10,12 +10,12 @@
 #include <workbench/review/PatternDock.h>
 #include <workbench/review/PatternModel.h>
 #include <workbench/session/MappingDocument.h>
-#include <workbench/window/DocumentDesk.h>
-#include <workbench/window/EditorArea.h>
-#include <workbench/window/LineCommands.h>
+#include <workbench/window/document/DocumentDesk.h>
+#include <workbench/window/editor/EditorArea.h>
+#include <workbench/window/editor/LineCommands.h>
 #include <workbench/window/MainWindow.h>
-#include <workbench/window/ReviewCommands.h>
-#include <workbench/window/StatusArea.h>
+#include <workbench/window/message/StatusArea.h>
+#include <workbench/window/review/ReviewCommands.h>
 
 #include <QAction>
 #include <QLabel>

@@ -8,11 +8,11 @@
 #include <gui/application/PApplication.h>
 #include <TestPaths.h>
 #include <workbench/start/PluginLibrary.h>
-#include <workbench/window/DocumentDesk.h>
-#include <workbench/window/EditorArea.h>
+#include <workbench/window/document/DocumentDesk.h>
+#include <workbench/window/document/MappingMaker.h>
+#include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/MainWindow.h>
-#include <workbench/window/MappingMaker.h>
-#include <workbench/window/WorkbenchSettings.h>
+#include <workbench/window/settings/WorkbenchSettings.h>
 
 #include <QAction>
 #include <QDir>

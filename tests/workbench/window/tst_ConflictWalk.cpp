@@ -8,11 +8,11 @@
 #include <workbench/review/ConflictSidesModel.h>
 #include <workbench/review/DifferenceModel.h>
 #include <workbench/session/MappingDocument.h>
-#include <workbench/window/ConflictCommands.h>
-#include <workbench/window/DocumentDesk.h>
-#include <workbench/window/EditorArea.h>
+#include <workbench/window/document/DocumentDesk.h>
+#include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/MainWindow.h>
-#include <workbench/window/StatusArea.h>
+#include <workbench/window/message/StatusArea.h>
+#include <workbench/window/review/ConflictCommands.h>
 
 #include <QAbstractItemModelTester>
 #include <QAction>

@@ -5,9 +5,9 @@
 #include "WindowFixture.h"
 
 #include <workbench/start/EditorLanguages.h>
-#include <workbench/window/DocumentDesk.h>
+#include <workbench/window/document/DocumentDesk.h>
 #include <workbench/window/MainWindow.h>
-#include <workbench/window/WorkbenchSettings.h>
+#include <workbench/window/settings/WorkbenchSettings.h>
 
 #include <QDockWidget>
 #include <QMenu>

@@ -1,12 +1,12 @@
 #include "ModalScript.h"
 #include "WindowFixture.h"
 
-#include <workbench/window/EditorArea.h>
-#include <workbench/window/HelpDesk.h>
-#include <workbench/window/HelpWindow.h>
+#include <workbench/window/editor/EditorArea.h>
+#include <workbench/window/help/HelpDesk.h>
+#include <workbench/window/help/HelpWindow.h>
 #include <workbench/window/MainWindow.h>
-#include <workbench/window/SettingsDialog.h>
-#include <workbench/window/WorkbenchSettings.h>
+#include <workbench/window/settings/SettingsDialog.h>
+#include <workbench/window/settings/WorkbenchSettings.h>
 
 #include <QFile>
 #include <QGroupBox>

@@ -4,12 +4,12 @@
 #include <core/config/PConfigService.h>
 #include <release/history/DecisionHistory.h>
 #include <workbench/session/MappingDocument.h>
-#include <workbench/window/DocumentDesk.h>
-#include <workbench/window/EditorArea.h>
-#include <workbench/window/HistoryDialog.h>
-#include <workbench/window/HistoryModel.h>
+#include <workbench/window/document/DocumentDesk.h>
+#include <workbench/window/editor/EditorArea.h>
+#include <workbench/window/history/HistoryDialog.h>
+#include <workbench/window/history/HistoryModel.h>
 #include <workbench/window/MainWindow.h>
-#include <workbench/window/ReasonDialog.h>
+#include <workbench/window/message/ReasonDialog.h>
 
 #include <QAbstractItemModelTester>
 #include <QAction>

@@ -4,12 +4,12 @@
 #include <geomcoregui/table/VkTableModel.h>
 #include <geomcoregui/table/VkTableView.h>
 #include <workbench/session/MappingDocument.h>
-#include <workbench/window/DocumentDesk.h>
-#include <workbench/window/EditorArea.h>
-#include <workbench/window/LineCommands.h>
+#include <workbench/window/document/DocumentDesk.h>
+#include <workbench/window/editor/EditorArea.h>
+#include <workbench/window/editor/LineCommands.h>
 #include <workbench/window/MainWindow.h>
-#include <workbench/window/StatusArea.h>
-#include <workbench/window/WorkbenchSettings.h>
+#include <workbench/window/message/StatusArea.h>
+#include <workbench/window/settings/WorkbenchSettings.h>
 
 #include <QAction>
 #include <QLabel>

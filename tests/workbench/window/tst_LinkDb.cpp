@@ -8,15 +8,15 @@
 #include <geomcore/linkdb/PLinkDbQueryCacheC.h>
 #include <geomcore/project/readProjectVersion.h>
 #include <gui/application/PApplicationPool.h>
-#include <workbench/window/EditorArea.h>
-#include <workbench/window/LinkDbBox.h>
-#include <workbench/window/LinkDbHost.h>
-#include <workbench/window/LinkListDialog.h>
-#include <workbench/window/LinkProofDialog.h>
-#include <workbench/window/LogWindow.h>
+#include <workbench/window/editor/EditorArea.h>
+#include <workbench/window/linkdb/LinkDbHost.h>
+#include <workbench/window/linkdb/LinkListDialog.h>
+#include <workbench/window/linkdb/LinkProofDialog.h>
 #include <workbench/window/MainWindow.h>
-#include <workbench/window/SettingsDialog.h>
-#include <workbench/window/WorkbenchSettings.h>
+#include <workbench/window/message/LogWindow.h>
+#include <workbench/window/settings/LinkDbBox.h>
+#include <workbench/window/settings/SettingsDialog.h>
+#include <workbench/window/settings/WorkbenchSettings.h>
 
 #include <QAbstractButton>
 #include <QAction>

@@ -8,13 +8,13 @@
 #include <workbench/locator/LocatorModel.h>
 #include <workbench/locator/LocatorSearch.h>
 #include <workbench/session/OpenLines.h>
-#include <workbench/window/DocumentDesk.h>
-#include <workbench/window/EditorArea.h>
-#include <workbench/window/KeyedActions.h>
-#include <workbench/window/KeysDialog.h>
+#include <workbench/window/document/DocumentDesk.h>
+#include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/MainWindow.h>
-#include <workbench/window/WorkbenchActions.h>
-#include <workbench/window/WorkbenchSettings.h>
+#include <workbench/window/settings/KeyedActions.h>
+#include <workbench/window/settings/KeysDialog.h>
+#include <workbench/window/settings/WorkbenchActions.h>
+#include <workbench/window/settings/WorkbenchSettings.h>
 
 #include <QAbstractItemModelTester>
 #include <QAction>

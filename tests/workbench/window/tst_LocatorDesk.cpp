@@ -3,8 +3,8 @@
 #include <geomcore/value/LangThreadSettings.h>
 #include <workbench/locator/LocatorDialog.h>
 #include <workbench/locator/LocatorModel.h>
-#include <workbench/window/DocumentDesk.h>
-#include <workbench/window/EditorArea.h>
+#include <workbench/window/document/DocumentDesk.h>
+#include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/MainWindow.h>
 
 #include <QDir>

@@ -8,13 +8,13 @@
 #include <workbench/session/CatalogRootMemory.h>
 #include <workbench/session/MappingDocument.h>
 #include <workbench/session/SessionRecovery.h>
-#include <workbench/window/DocumentDesk.h>
-#include <workbench/window/EditorArea.h>
-#include <workbench/window/LogWindow.h>
+#include <workbench/window/document/DocumentDesk.h>
+#include <workbench/window/editor/EditorArea.h>
+#include <workbench/window/help/TourOverlay.h>
 #include <workbench/window/MainWindow.h>
-#include <workbench/window/StatusArea.h>
-#include <workbench/window/TourOverlay.h>
-#include <workbench/window/WorkbenchSettings.h>
+#include <workbench/window/message/LogWindow.h>
+#include <workbench/window/message/StatusArea.h>
+#include <workbench/window/settings/WorkbenchSettings.h>
 
 #include <QAction>
 #include <QCheckBox>

@@ -7,8 +7,8 @@
 #include <gui/progress/DefaultObserverDelegate.h>
 #include <gui/progress/ProgressDisplayI.h>
 #include <TestPaths.h>
-#include <workbench/window/MappingMaker.h>
-#include <workbench/window/useLanguage.h>
+#include <workbench/window/document/MappingMaker.h>
+#include <workbench/window/look/useLanguage.h>
 
 #include <QFile>
 #include <QProcess>

@@ -5,12 +5,12 @@
 #include <geomcore/project/CatalogPlaces.h>
 #include <geomcoregui/table/VkTableModel.h>
 #include <geomcoregui/table/VkTableView.h>
-#include <workbench/window/DocumentDesk.h>
-#include <workbench/window/EditorArea.h>
+#include <workbench/window/document/DocumentDesk.h>
+#include <workbench/window/editor/EditorArea.h>
+#include <workbench/window/look/PartView.h>
 #include <workbench/window/MainWindow.h>
-#include <workbench/window/PartView.h>
-#include <workbench/window/StatusArea.h>
-#include <workbench/window/WorkbenchSettings.h>
+#include <workbench/window/message/StatusArea.h>
+#include <workbench/window/settings/WorkbenchSettings.h>
 
 #include <QDir>
 #include <QFile>

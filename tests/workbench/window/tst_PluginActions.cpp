@@ -5,9 +5,9 @@
 #include <geomcore/table/TabOptions.h>
 #include <geomcoregui/table/VkTableView.h>
 #include <gui/application/PApplicationPool.h>
-#include <workbench/window/EditorArea.h>
+#include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/MainWindow.h>
-#include <workbench/window/WorkbenchSettings.h>
+#include <workbench/window/settings/WorkbenchSettings.h>
 
 #include <QAction>
 #include <QCheckBox>

@@ -5,8 +5,8 @@
 #include <TestPaths.h>
 #include <workbench/start/SettingsPlace.h>
 #include <workbench/start/StartOptions.h>
+#include <workbench/window/settings/WorkbenchSettings.h>
 #include <workbench/window/WorkbenchRun.h>
-#include <workbench/window/WorkbenchSettings.h>
 
 #include <QDir>
 #include <QImage>

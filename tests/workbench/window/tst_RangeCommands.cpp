@@ -6,8 +6,8 @@
 #include <geomcore/value/RangeText.h>
 #include <workbench/review/RangeDock.h>
 #include <workbench/session/MappingDocument.h>
-#include <workbench/window/DocumentDesk.h>
-#include <workbench/window/EditorArea.h>
+#include <workbench/window/document/DocumentDesk.h>
+#include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/MainWindow.h>
 
 #include <QLabel>

@@ -10,13 +10,13 @@
 #include <gui/progress/ProgressDisplayI.h>
 #include <release/export/MappingTable.h>
 #include <workbench/review/ReportTexts.h>
-#include <workbench/window/DocumentDesk.h>
-#include <workbench/window/EditorArea.h>
-#include <workbench/window/LogWindow.h>
+#include <workbench/window/document/DocumentDesk.h>
+#include <workbench/window/document/ReleaseCommands.h>
+#include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/MainWindow.h>
-#include <workbench/window/ReleaseCommands.h>
-#include <workbench/window/StatusArea.h>
-#include <workbench/window/WorkbenchSettings.h>
+#include <workbench/window/message/LogWindow.h>
+#include <workbench/window/message/StatusArea.h>
+#include <workbench/window/settings/WorkbenchSettings.h>
 
 #include <QAction>
 #include <QComboBox>

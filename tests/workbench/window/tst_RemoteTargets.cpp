@@ -3,14 +3,14 @@
 
 #include "../../support/SubversionServer.h"
 
-#include <workbench/window/EditorArea.h>
-#include <workbench/window/LogWindow.h>
+#include <workbench/window/document/RepositoryLoginDialog.h>
+#include <workbench/window/editor/EditorArea.h>
+#include <workbench/window/look/PartView.h>
 #include <workbench/window/MainWindow.h>
-#include <workbench/window/PartView.h>
-#include <workbench/window/RepositoryBox.h>
-#include <workbench/window/RepositoryLoginDialog.h>
-#include <workbench/window/SettingsDialog.h>
-#include <workbench/window/WorkbenchSettings.h>
+#include <workbench/window/message/LogWindow.h>
+#include <workbench/window/settings/RepositoryBox.h>
+#include <workbench/window/settings/SettingsDialog.h>
+#include <workbench/window/settings/WorkbenchSettings.h>
 
 #include <core/access/AddressedFiles.h>
 #include <geomcore/index/DisplayIndexC.h>

@@ -1,8 +1,8 @@
 #include "ReviewFixture.h"
 
-#include <workbench/window/ReasonDialog.h>
-#include <workbench/window/ReviewCommands.h>
-#include <workbench/window/WorkbenchSettings.h>
+#include <workbench/window/message/ReasonDialog.h>
+#include <workbench/window/review/ReviewCommands.h>
+#include <workbench/window/settings/WorkbenchSettings.h>
 
 #include <core/json/PJsonValue.h>
 #include <release/history/DecisionHistory.h>

@@ -3,7 +3,7 @@
 #include <workbench/review/NeighbourDock.h>
 #include <workbench/session/JournalReader.h>
 #include <workbench/session/JournalReplay.h>
-#include <workbench/window/NeighbourCommands.h>
+#include <workbench/window/review/NeighbourCommands.h>
 
 #include <core/json/PJsonValue.h>
 #include <geomcore/records/MappingFile.h>

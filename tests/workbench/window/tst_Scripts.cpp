@@ -7,12 +7,12 @@
 #include <TestPaths.h>
 #include <workbench/script/ScriptConsole.h>
 #include <workbench/script/ScriptEditor.h>
-#include <workbench/window/EditorArea.h>
-#include <workbench/window/LinkDbHost.h>
-#include <workbench/window/LogWindow.h>
+#include <workbench/window/editor/EditorArea.h>
+#include <workbench/window/linkdb/LinkDbHost.h>
 #include <workbench/window/MainWindow.h>
+#include <workbench/window/message/LogWindow.h>
 #include <workbench/window/ScriptDesk.h>
-#include <workbench/window/WorkbenchSettings.h>
+#include <workbench/window/settings/WorkbenchSettings.h>
 
 #include <QAbstractItemView>
 #include <QCompleter>

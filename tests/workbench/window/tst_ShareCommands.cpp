@@ -6,12 +6,12 @@
 #include <release/share/SharedMapping.h>
 #include <workbench/review/ConflictDock.h>
 #include <workbench/session/MappingDocument.h>
-#include <workbench/window/ConflictCommands.h>
-#include <workbench/window/DocumentDesk.h>
-#include <workbench/window/EditorArea.h>
+#include <workbench/window/document/DocumentDesk.h>
+#include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/MainWindow.h>
-#include <workbench/window/ShareCommands.h>
-#include <workbench/window/StatusArea.h>
+#include <workbench/window/message/StatusArea.h>
+#include <workbench/window/review/ConflictCommands.h>
+#include <workbench/window/review/ShareCommands.h>
 
 #include <QDir>
 #include <QInputDialog>

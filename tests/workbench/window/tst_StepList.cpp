@@ -2,11 +2,11 @@
 
 #include <workbench/session/MappingDocument.h>
 #include <workbench/session/UndoHistory.h>
-#include <workbench/window/DocumentDesk.h>
-#include <workbench/window/EditorArea.h>
+#include <workbench/window/document/DocumentDesk.h>
+#include <workbench/window/editor/EditorArea.h>
+#include <workbench/window/history/StepListDialog.h>
+#include <workbench/window/history/StepListModel.h>
 #include <workbench/window/MainWindow.h>
-#include <workbench/window/StepListDialog.h>
-#include <workbench/window/StepListModel.h>
 
 #include <QAbstractItemModelTester>
 #include <QAction>

@@ -9,14 +9,14 @@
 #include <workbench/locator/LocatorModel.h>
 #include <workbench/review/PatternModel.h>
 #include <workbench/session/MappingDocument.h>
-#include <workbench/window/DocumentDesk.h>
-#include <workbench/window/EditorArea.h>
-#include <workbench/window/HelpWindow.h>
-#include <workbench/window/HistoryDialog.h>
-#include <workbench/window/HistoryModel.h>
+#include <workbench/window/document/DocumentDesk.h>
+#include <workbench/window/editor/EditorArea.h>
+#include <workbench/window/help/HelpWindow.h>
+#include <workbench/window/history/HistoryDialog.h>
+#include <workbench/window/history/HistoryModel.h>
 #include <workbench/window/MainWindow.h>
-#include <workbench/window/ReviewCommands.h>
-#include <workbench/window/StatusArea.h>
+#include <workbench/window/message/StatusArea.h>
+#include <workbench/window/review/ReviewCommands.h>
 
 #include <geomcore/records/ReleaseMappingC.h>
 

@@ -11,12 +11,12 @@
 #include <workbench/review/PatternDock.h>
 #include <workbench/review/PatternModel.h>
 #include <workbench/session/MappingDocument.h>
-#include <workbench/window/DocumentDesk.h>
-#include <workbench/window/LineCommands.h>
+#include <workbench/window/document/DocumentDesk.h>
+#include <workbench/window/document/MappingMaker.h>
+#include <workbench/window/editor/LineCommands.h>
 #include <workbench/window/MainWindow.h>
-#include <workbench/window/MappingMaker.h>
-#include <workbench/window/NeighbourCommands.h>
-#include <workbench/window/ReviewCommands.h>
+#include <workbench/window/review/NeighbourCommands.h>
+#include <workbench/window/review/ReviewCommands.h>
 
 #include <QTest>
 #include <QTreeView>

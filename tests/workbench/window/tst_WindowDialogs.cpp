@@ -4,13 +4,13 @@
 #include <geomcore/records/MappingFile.h>
 #include <workbench/session/MappingDocument.h>
 #include <workbench/session/RecoveryOffer.h>
-#include <workbench/window/CatalogRootsDialog.h>
-#include <workbench/window/DocumentDesk.h>
-#include <workbench/window/EditorArea.h>
+#include <workbench/window/document/CatalogRootsDialog.h>
+#include <workbench/window/document/DocumentDesk.h>
+#include <workbench/window/document/NewMappingDialog.h>
+#include <workbench/window/document/RecoveryDialog.h>
+#include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/MainWindow.h>
-#include <workbench/window/NewMappingDialog.h>
-#include <workbench/window/RecoveryDialog.h>
-#include <workbench/window/WorkbenchSettings.h>
+#include <workbench/window/settings/WorkbenchSettings.h>
 
 #include <QAction>
 #include <QComboBox>

@@ -5,9 +5,9 @@
 #include "WindowFixture.h"
 
 #include <gui/views/Inks.h>
-#include <workbench/window/ApplicationTheme.h>
+#include <workbench/window/look/ApplicationTheme.h>
+#include <workbench/window/look/WorkbenchStyle.h>
 #include <workbench/window/MainWindow.h>
-#include <workbench/window/WorkbenchStyle.h>
 
 #include <QDialogButtonBox>
 #include <QPushButton>

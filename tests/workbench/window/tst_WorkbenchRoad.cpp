@@ -4,9 +4,9 @@
 #include <geomcore/records/MappingFile.h>
 #include <TestPaths.h>
 #include <workbench/session/MappingDocument.h>
-#include <workbench/window/DocumentDesk.h>
-#include <workbench/window/EditorArea.h>
-#include <workbench/window/LineCommands.h>
+#include <workbench/window/document/DocumentDesk.h>
+#include <workbench/window/editor/EditorArea.h>
+#include <workbench/window/editor/LineCommands.h>
 #include <workbench/window/MainWindow.h>
 
 #include <QAction>

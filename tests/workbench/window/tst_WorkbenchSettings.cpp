@@ -1,5 +1,5 @@
-#include <workbench/window/SettingsDialog.h>
-#include <workbench/window/WorkbenchSettings.h>
+#include <workbench/window/settings/SettingsDialog.h>
+#include <workbench/window/settings/WorkbenchSettings.h>
 
 #include <QComboBox>
 #include <QFile>

@@ -4,7 +4,7 @@
 
 #include <TestPaths.h>
 #include <workbench/start/EditorLanguages.h>
-#include <workbench/window/QtTexts.h>
+#include <workbench/window/look/QtTexts.h>
 
 #include <QCoreApplication>
 #include <QDir>
