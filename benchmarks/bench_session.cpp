@@ -4,8 +4,8 @@
 #include "Comparison.h"
 #include "MappingRecords.h"
 
-#include <workbench/session/BulkOperation.h>
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/MappingDocument.h>
+#include <workbench/session/work/BulkOperation.h>
 
 #include <geomcore/records/MappingFile.h>
 #include <mapping/data/ReleaseMappingHandler.h>

@@ -3,9 +3,9 @@
 #include <core/json/PJsonValue.h>
 #include <geomcore/records/ReleaseMappingC.h>
 #include <release/history/JournalRow.h>
-#include <workbench/session/JournalReader.h>
-#include <workbench/session/JournalText.h>
-#include <workbench/session/ReleaseChanges.h>
+#include <workbench/session/change/ReleaseChanges.h>
+#include <workbench/session/journal/JournalReader.h>
+#include <workbench/session/journal/JournalText.h>
 
 #include <cstdint>
 

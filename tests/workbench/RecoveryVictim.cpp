@@ -3,7 +3,7 @@
 #include "SessionFixture.h"
 
 #include <geomcore/binding/VarsetConditionC.h>
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/MappingDocument.h>
 
 #include <QCoreApplication>
 

@@ -2,8 +2,8 @@
 
 #include "SessionFixture.h"
 
-#include <workbench/session/GuardedSave.h>
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/MappingDocument.h>
+#include <workbench/session/file/GuardedSave.h>
 
 #include <mapping/data/ReleaseMappingHandler.h>
 

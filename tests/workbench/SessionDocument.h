@@ -2,7 +2,7 @@
 
 #include "SessionFixture.h"
 
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/MappingDocument.h>
 
 #include <QCoreApplication>
 

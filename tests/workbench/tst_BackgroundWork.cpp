@@ -1,4 +1,4 @@
-#include <workbench/session/BackgroundWork.h>
+#include <workbench/session/common/BackgroundWork.h>
 
 #include <QAbstractEventDispatcher>
 #include <QTest>

@@ -1,8 +1,8 @@
 #include "AsNobody.h"
 #include "SessionFixture.h"
 
-#include <workbench/session/DocumentFile.h>
-#include <workbench/session/GuardedSave.h>
+#include <workbench/session/document/DocumentFile.h>
+#include <workbench/session/file/GuardedSave.h>
 
 #include <geomcore/records/MappingFile.h>
 

@@ -3,7 +3,7 @@
 #include "SessionFixture.h"
 
 #include <core/files/EditLock.h>
-#include <workbench/session/CatalogRootMemory.h>
+#include <workbench/session/document/CatalogRootMemory.h>
 
 #include <QCoreApplication>
 #include <QFile>

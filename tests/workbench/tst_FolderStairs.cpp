@@ -40,6 +40,13 @@ QStringList editorSteps()
     return {"mapping/data", "mapping/project", "mapping/table", "mapping/view"};
 }
 
+QStringList sessionSteps()
+{
+    return {"workbench/session/common",  "workbench/session/file",    "workbench/session/change",
+            "workbench/session/journal", "workbench/session/history", "workbench/session/document",
+            "workbench/session/work"};
+}
+
 QStringList windowSteps()
 {
     return {"workbench/window/help",     "workbench/window/message",  "workbench/window/look",
@@ -90,6 +97,7 @@ void tst_FolderStairs::stepsKnowThoseBefore_data()
                             "formula/", "selection/",   "tools/",     "workbench/"};
     addStair(layers(), QString(), above);
     addStair(editorSteps(), QStringLiteral("mapping/"), {});
+    addStair(sessionSteps(), QStringLiteral("workbench/session/"), {});
     addStair(windowSteps(), QStringLiteral("workbench/window/"), {});
 
     const QStringList host{"tools/", "workbench/"};
@@ -137,6 +145,7 @@ void tst_FolderStairs::everyFolderHasAStep_data()
     QTest::addColumn<QStringList>("steps");
 
     QTest::newRow("editor") << "mapping" << editorSteps();
+    QTest::newRow("session") << "workbench/session" << sessionSteps();
     QTest::newRow("window") << "workbench/window" << windowSteps();
 }
 

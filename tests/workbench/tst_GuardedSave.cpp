@@ -2,8 +2,8 @@
 #include "AsNobody.h"
 #include "SaveFixture.h"
 
-#include <workbench/session/GuardedSave.h>
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/MappingDocument.h>
+#include <workbench/session/file/GuardedSave.h>
 
 #include <geomcore/records/MappingFile.h>
 

@@ -2,9 +2,9 @@
 #include "SessionFixture.h"
 
 #include <release/history/JournalRow.h>
-#include <workbench/session/JournalFile.h>
-#include <workbench/session/JournalReader.h>
-#include <workbench/session/MappingDifference.h>
+#include <workbench/session/change/MappingDifference.h>
+#include <workbench/session/journal/JournalFile.h>
+#include <workbench/session/journal/JournalReader.h>
 
 #include <core/json/PJsonValue.h>
 

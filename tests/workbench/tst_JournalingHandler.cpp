@@ -1,7 +1,7 @@
 #include "SessionFixture.h"
 
-#include <workbench/session/JournalingHandler.h>
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/JournalingHandler.h>
+#include <workbench/session/document/MappingDocument.h>
 
 #include <QStringList>
 #include <QTest>

@@ -1,7 +1,7 @@
 #include "SessionFixture.h"
 
-#include <workbench/session/GuardedSave.h>
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/MappingDocument.h>
+#include <workbench/session/file/GuardedSave.h>
 
 #include <core/json/PJsonValue.h>
 #include <geomcore/records/MappingFile.h>

@@ -1,10 +1,10 @@
 #include "SessionFixture.h"
 
 #include <release/history/JournalRow.h>
-#include <workbench/session/ChangeOnTop.h>
-#include <workbench/session/JournalText.h>
-#include <workbench/session/MappingDifference.h>
-#include <workbench/session/ReleaseChanges.h>
+#include <workbench/session/change/ChangeOnTop.h>
+#include <workbench/session/change/MappingDifference.h>
+#include <workbench/session/change/ReleaseChanges.h>
+#include <workbench/session/journal/JournalText.h>
 
 #include <core/json/PJsonValue.h>
 #include <geomcore/binding/VarsetConditionC.h>

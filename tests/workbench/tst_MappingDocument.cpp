@@ -1,7 +1,7 @@
 #include "../support/SizeLimit.h"
 #include "SessionDocument.h"
 
-#include <workbench/session/JournalReader.h>
+#include <workbench/session/journal/JournalReader.h>
 
 #include <geomcore/records/MappingFile.h>
 #include <mapping/data/CatalogMappingHandlerI.h>

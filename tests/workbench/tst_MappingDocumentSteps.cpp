@@ -1,8 +1,8 @@
 #include "../support/SizeLimit.h"
 #include "SessionDocument.h"
 
-#include <workbench/session/ReleaseChanges.h>
-#include <workbench/session/UndoHistory.h>
+#include <workbench/session/change/ReleaseChanges.h>
+#include <workbench/session/history/UndoHistory.h>
 
 #include <mapping/data/CatalogMappingHandlerI.h>
 

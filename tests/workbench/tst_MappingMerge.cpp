@@ -1,9 +1,9 @@
 #include "SessionFixture.h"
 
 #include <geomcore/records/MappingFile.h>
-#include <workbench/session/GuardedSave.h>
-#include <workbench/session/MappingDocument.h>
-#include <workbench/session/SessionRecovery.h>
+#include <workbench/session/document/MappingDocument.h>
+#include <workbench/session/file/GuardedSave.h>
+#include <workbench/session/journal/SessionRecovery.h>
 
 #include <QDir>
 #include <QFile>

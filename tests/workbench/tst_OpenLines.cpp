@@ -1,8 +1,8 @@
 #include "SessionFixture.h"
 #include "TableFixture.h"
 
-#include <workbench/session/MappingDocument.h>
-#include <workbench/session/OpenLines.h>
+#include <workbench/session/document/MappingDocument.h>
+#include <workbench/session/work/OpenLines.h>
 
 #include <QSignalSpy>
 #include <QTest>

@@ -1,8 +1,8 @@
 #include "RecoveryFixture.h"
 #include "RecoveryVictim.h"
 
-#include <workbench/session/MappingDocument.h>
-#include <workbench/session/SessionRecovery.h>
+#include <workbench/session/document/MappingDocument.h>
+#include <workbench/session/journal/SessionRecovery.h>
 
 #include <QDir>
 #include <QProcess>

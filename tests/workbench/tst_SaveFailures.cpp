@@ -1,7 +1,7 @@
 #include "../support/SizeLimit.h"
 #include "SaveFixture.h"
 
-#include <workbench/session/OwnFile.h>
+#include <workbench/session/file/OwnFile.h>
 
 #include <QFile>
 

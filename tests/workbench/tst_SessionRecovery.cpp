@@ -1,7 +1,7 @@
 #include "RecoveryFixture.h"
 #include "RecoveryVictim.h"
 
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/MappingDocument.h>
 
 #include <geomcore/records/MappingFile.h>
 

@@ -3,7 +3,7 @@
 
 #include <core/files/EditLock.h>
 #include <geomcore/records/MappingFile.h>
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/MappingDocument.h>
 
 #include <QElapsedTimer>
 #include <QFile>

@@ -2,8 +2,8 @@
 #include "SessionFixture.h"
 
 #include <release/history/DecisionHistory.h>
-#include <workbench/session/MappingDocument.h>
-#include <workbench/session/UndoHistory.h>
+#include <workbench/session/document/MappingDocument.h>
+#include <workbench/session/history/UndoHistory.h>
 
 #include <geomcore/records/MappingFile.h>
 

@@ -1,7 +1,7 @@
 #include "SessionFixture.h"
 
-#include <workbench/session/JournalReader.h>
-#include <workbench/session/StepRecorder.h>
+#include <workbench/session/history/StepRecorder.h>
+#include <workbench/session/journal/JournalReader.h>
 
 #include <core/files/EditLock.h>
 #include <core/json/PJsonValue.h>

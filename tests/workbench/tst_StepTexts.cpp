@@ -1,6 +1,6 @@
 #include "SessionFixture.h"
 
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/MappingDocument.h>
 
 #include <geomcore/binding/VarsetConditionC.h>
 #include <geomcore/binding/VarsetVarMappingC.h>

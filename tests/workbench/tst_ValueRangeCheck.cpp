@@ -1,7 +1,7 @@
 #include "SessionFixture.h"
 #include "TableFixture.h"
 
-#include <workbench/session/ValueRangeCheck.h>
+#include <workbench/session/work/ValueRangeCheck.h>
 
 #include <core/progress/PProgressObserverBase.h>
 

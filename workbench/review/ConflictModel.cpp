@@ -1,6 +1,6 @@
 #include "ConflictModel.h"
 
-#include <workbench/session/ConflictSides.h>
+#include <workbench/session/work/ConflictSides.h>
 
 #include <QFont>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <workbench/session/ConflictList.h>
+#include <workbench/session/work/ConflictList.h>
 
 #include <QAbstractTableModel>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <workbench/session/ConflictSides.h>
+#include <workbench/session/work/ConflictSides.h>
 
 #include <QAbstractTableModel>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <workbench/session/NeighbourWork.h>
+#include <workbench/session/work/NeighbourWork.h>
 
 #include <QDockWidget>
 

@@ -3,7 +3,7 @@
 #include "PatternModel.h"
 #include "PatternText.h"
 
-#include <workbench/session/ReviewWork.h>
+#include <workbench/session/work/ReviewWork.h>
 
 #include <QEvent>
 #include <QHeaderView>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <workbench/session/SessionTypes.h>
+#include <workbench/session/common/SessionTypes.h>
 
 #include <QMainWindow>
 

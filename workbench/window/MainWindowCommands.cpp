@@ -6,9 +6,9 @@
 #include <gui/application/PCommandKeys.h>
 #include <gui/progress/DefaultObserverDelegate.h>
 #include <mapping/view/CatalogMappingWidget.h>
-#include <workbench/session/OpenLines.h>
-#include <workbench/session/SessionRecovery.h>
-#include <workbench/session/ValueRangeCheck.h>
+#include <workbench/session/journal/SessionRecovery.h>
+#include <workbench/session/work/OpenLines.h>
+#include <workbench/session/work/ValueRangeCheck.h>
 #include <workbench/window/document/DocumentDesk.h>
 #include <workbench/window/document/MappingMaker.h>
 #include <workbench/window/editor/EditorArea.h>

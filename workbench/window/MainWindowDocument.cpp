@@ -1,8 +1,8 @@
 // The part of MainWindow that follows the document: it is opened and closed, steps are done.
 #include "MainWindow.h"
 
-#include <workbench/session/BackgroundWork.h>
-#include <workbench/session/UndoHistory.h>
+#include <workbench/session/common/BackgroundWork.h>
+#include <workbench/session/history/UndoHistory.h>
 #include <workbench/window/document/DocumentDesk.h>
 #include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/help/WelcomePage.h>

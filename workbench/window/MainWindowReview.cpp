@@ -9,8 +9,8 @@
 #include <workbench/review/PatternDock.h>
 #include <workbench/review/RangeDock.h>
 #include <workbench/script/ScriptConsole.h>
-#include <workbench/session/CarriedWork.h>
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/MappingDocument.h>
+#include <workbench/session/work/CarriedWork.h>
 #include <workbench/window/document/DocumentDesk.h>
 #include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/editor/FilterCommands.h>

@@ -4,8 +4,8 @@
 #include "ScreenshotDialog.h"
 
 #include <release/history/DecisionHistory.h>
-#include <workbench/session/CatalogRootMemory.h>
-#include <workbench/session/SessionRecovery.h>
+#include <workbench/session/document/CatalogRootMemory.h>
+#include <workbench/session/journal/SessionRecovery.h>
 #include <workbench/start/StartOptions.h>
 #include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/message/LogWindow.h>

@@ -3,7 +3,7 @@
 #include "MainWindow.h"
 
 #include <core/component/proxyMember.h>
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/MappingDocument.h>
 #include <workbench/window/document/DocumentDesk.h>
 #include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/message/LogWindow.h>

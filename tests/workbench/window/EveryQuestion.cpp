@@ -10,8 +10,8 @@
 #include <geomcore/value/RangeText.h>
 #include <gui/application/PApplicationPool.h>
 #include <release/decide/LineEdits.h>
-#include <workbench/session/MappingDocument.h>
-#include <workbench/session/ReviewWork.h>
+#include <workbench/session/document/MappingDocument.h>
+#include <workbench/session/work/ReviewWork.h>
 #include <workbench/window/document/DocumentDesk.h>
 #include <workbench/window/document/ReleaseCommands.h>
 #include <workbench/window/editor/EditorArea.h>

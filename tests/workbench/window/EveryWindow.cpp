@@ -15,8 +15,8 @@
 #include <workbench/locator/LocatorDialog.h>
 #include <workbench/locator/LocatorSearch.h>
 #include <workbench/script/ScriptEditor.h>
-#include <workbench/session/MappingDocument.h>
-#include <workbench/session/RecoveryOffer.h>
+#include <workbench/session/document/MappingDocument.h>
+#include <workbench/session/journal/RecoveryOffer.h>
 #include <workbench/window/document/CatalogRootsDialog.h>
 #include <workbench/window/document/DocumentDesk.h>
 #include <workbench/window/document/ImportDialog.h>

@@ -9,7 +9,7 @@
 #include <workbench/review/DifferencePanel.h>
 #include <workbench/review/PatternDock.h>
 #include <workbench/review/PatternModel.h>
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/MappingDocument.h>
 #include <workbench/window/document/DocumentDesk.h>
 #include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/editor/LineCommands.h>

@@ -10,10 +10,10 @@
 #include <gui/progress/DefaultObserverDelegate.h>
 #include <release/history/CarriedHistory.h>
 #include <release/history/DecisionHistory.h>
-#include <workbench/session/CarriedWork.h>
-#include <workbench/session/CatalogRootMemory.h>
-#include <workbench/session/MappingDocument.h>
-#include <workbench/session/UndoHistory.h>
+#include <workbench/session/document/CatalogRootMemory.h>
+#include <workbench/session/document/MappingDocument.h>
+#include <workbench/session/history/UndoHistory.h>
+#include <workbench/session/work/CarriedWork.h>
 #include <workbench/window/document/DocumentDesk.h>
 #include <workbench/window/document/ReleaseCommands.h>
 #include <workbench/window/editor/EditorArea.h>

@@ -7,7 +7,7 @@
 #include <workbench/review/ConflictModel.h>
 #include <workbench/review/ConflictSidesModel.h>
 #include <workbench/review/DifferenceModel.h>
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/MappingDocument.h>
 #include <workbench/window/document/DocumentDesk.h>
 #include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/MainWindow.h>

@@ -1,9 +1,9 @@
 #include "WindowFixture.h"
 
 #include <workbench/review/FilterDock.h>
-#include <workbench/session/FilterWork.h>
-#include <workbench/session/MappingDocument.h>
-#include <workbench/session/OpenLines.h>
+#include <workbench/session/document/MappingDocument.h>
+#include <workbench/session/work/FilterWork.h>
+#include <workbench/session/work/OpenLines.h>
 #include <workbench/window/document/DocumentDesk.h>
 #include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/editor/FilterCommands.h>

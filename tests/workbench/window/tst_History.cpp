@@ -3,7 +3,7 @@
 
 #include <core/config/PConfigService.h>
 #include <release/history/DecisionHistory.h>
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/MappingDocument.h>
 #include <workbench/window/document/DocumentDesk.h>
 #include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/history/HistoryDialog.h>

@@ -5,9 +5,9 @@
 #include <core/message/PMessage.h>
 #include <geomcore/records/MappingFile.h>
 #include <mapping/view/CatalogMappingWidget.h>
-#include <workbench/session/CatalogRootMemory.h>
-#include <workbench/session/MappingDocument.h>
-#include <workbench/session/SessionRecovery.h>
+#include <workbench/session/document/CatalogRootMemory.h>
+#include <workbench/session/document/MappingDocument.h>
+#include <workbench/session/journal/SessionRecovery.h>
 #include <workbench/window/document/DocumentDesk.h>
 #include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/help/TourOverlay.h>

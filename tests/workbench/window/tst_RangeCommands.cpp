@@ -5,7 +5,7 @@
 #include <geomcore/value/MidentClass.h>
 #include <geomcore/value/RangeText.h>
 #include <workbench/review/RangeDock.h>
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/MappingDocument.h>
 #include <workbench/window/document/DocumentDesk.h>
 #include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/MainWindow.h>

@@ -1,8 +1,8 @@
 #include "ReviewFixture.h"
 
 #include <workbench/review/NeighbourDock.h>
-#include <workbench/session/JournalReader.h>
-#include <workbench/session/JournalReplay.h>
+#include <workbench/session/journal/JournalReader.h>
+#include <workbench/session/journal/JournalReplay.h>
 #include <workbench/window/review/NeighbourCommands.h>
 
 #include <core/json/PJsonValue.h>

@@ -5,7 +5,7 @@
 #include <release/decide/LineEdits.h>
 #include <release/share/SharedMapping.h>
 #include <workbench/review/ConflictDock.h>
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/MappingDocument.h>
 #include <workbench/window/document/DocumentDesk.h>
 #include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/MainWindow.h>

@@ -1,7 +1,7 @@
 #include "WindowFixture.h"
 
-#include <workbench/session/MappingDocument.h>
-#include <workbench/session/UndoHistory.h>
+#include <workbench/session/document/MappingDocument.h>
+#include <workbench/session/history/UndoHistory.h>
 #include <workbench/window/document/DocumentDesk.h>
 #include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/history/StepListDialog.h>

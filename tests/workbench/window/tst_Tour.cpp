@@ -8,7 +8,7 @@
 #include <workbench/locator/LocatorDialog.h>
 #include <workbench/locator/LocatorModel.h>
 #include <workbench/review/PatternModel.h>
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/MappingDocument.h>
 #include <workbench/window/document/DocumentDesk.h>
 #include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/help/HelpWindow.h>

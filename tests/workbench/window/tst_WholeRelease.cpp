@@ -10,7 +10,7 @@
 #include <workbench/review/NeighbourDock.h>
 #include <workbench/review/PatternDock.h>
 #include <workbench/review/PatternModel.h>
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/MappingDocument.h>
 #include <workbench/window/document/DocumentDesk.h>
 #include <workbench/window/document/MappingMaker.h>
 #include <workbench/window/editor/LineCommands.h>

@@ -2,8 +2,8 @@
 #include "WindowFixture.h"
 
 #include <geomcore/records/MappingFile.h>
-#include <workbench/session/MappingDocument.h>
-#include <workbench/session/RecoveryOffer.h>
+#include <workbench/session/document/MappingDocument.h>
+#include <workbench/session/journal/RecoveryOffer.h>
 #include <workbench/window/document/CatalogRootsDialog.h>
 #include <workbench/window/document/DocumentDesk.h>
 #include <workbench/window/document/NewMappingDialog.h>

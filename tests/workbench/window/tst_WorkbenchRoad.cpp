@@ -3,7 +3,7 @@
 
 #include <geomcore/records/MappingFile.h>
 #include <TestPaths.h>
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/MappingDocument.h>
 #include <workbench/window/document/DocumentDesk.h>
 #include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/editor/LineCommands.h>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <geomcore/records/ReleaseMappingC.h>
-#include <workbench/session/SessionTypes.h>
+#include <workbench/session/common/SessionTypes.h>
 
 #include <QDialog>
 

@@ -2,7 +2,7 @@
 
 #include <core/text/countText.h>
 #include <gui/application/PApplication.h>
-#include <workbench/session/RecoveryOffer.h>
+#include <workbench/session/journal/RecoveryOffer.h>
 #include <workbench/window/message/Question.h>
 
 #include <QDialogButtonBox>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/MappingDocument.h>
 
 #include <QDialog>
 

@@ -13,8 +13,8 @@
 #include <release/report/ReportHtml.h>
 #include <release/share/SharedMapping.h>
 #include <workbench/review/ReportTexts.h>
-#include <workbench/session/BackgroundWork.h>
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/common/BackgroundWork.h>
+#include <workbench/session/document/MappingDocument.h>
 #include <workbench/start/EditorLanguages.h>
 #include <workbench/window/message/Question.h>
 

@@ -4,8 +4,8 @@
 #include "TargetProjectOpener.h"
 
 #include <mapping/view/CatalogMappingWidget.h>
-#include <workbench/session/BackgroundWork.h>
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/common/BackgroundWork.h>
+#include <workbench/session/document/MappingDocument.h>
 
 #include <QAbstractItemModel>
 #include <QCoreApplication>

@@ -5,7 +5,7 @@
 #include "LineStateFilter.h"
 
 #include <workbench/review/FilterDock.h>
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/MappingDocument.h>
 #include <workbench/window/settings/WorkbenchSettings.h>
 
 #include <utility>

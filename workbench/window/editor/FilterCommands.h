@@ -1,6 +1,6 @@
 #pragma once
 
-#include <workbench/session/FilterWork.h>
+#include <workbench/session/work/FilterWork.h>
 
 #include <QObject>
 

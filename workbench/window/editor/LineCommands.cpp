@@ -8,7 +8,7 @@
 #include <geomcore/binding/VarsetParserC.h>
 #include <geomcore/expression/StatementParser.h>
 #include <mapping/view/CatalogMappingWidget.h>
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/MappingDocument.h>
 #include <workbench/window/message/Question.h>
 
 #include <QInputDialog>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <workbench/session/BulkOperation.h>
-#include <workbench/session/OpenLines.h>
+#include <workbench/session/work/BulkOperation.h>
+#include <workbench/session/work/OpenLines.h>
 
 #include <QObject>
 

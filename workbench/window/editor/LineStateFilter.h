@@ -1,6 +1,6 @@
 #pragma once
 
-#include <workbench/session/OpenLines.h>
+#include <workbench/session/work/OpenLines.h>
 
 #include <QObject>
 

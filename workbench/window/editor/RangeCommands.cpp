@@ -2,7 +2,7 @@
 
 #include "EditorArea.h"
 
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/MappingDocument.h>
 #include <workbench/window/message/Question.h>
 
 #include <utility>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <workbench/review/RangeDock.h>
-#include <workbench/session/SessionTypes.h>
+#include <workbench/session/common/SessionTypes.h>
 
 #include <QObject>
 #include <QPointer>

@@ -3,7 +3,7 @@
 #include <core/text/PPathName.h>
 #include <geomcore/table/readProjectTable.h>
 #include <mapping/view/CatalogMappingWidget.h>
-#include <workbench/session/BackgroundWork.h>
+#include <workbench/session/common/BackgroundWork.h>
 
 #include <QCoreApplication>
 

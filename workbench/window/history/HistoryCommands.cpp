@@ -4,7 +4,7 @@
 #include "StepListDialog.h"
 
 #include <core/json/PJsonValue.h>
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/MappingDocument.h>
 #include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/message/ReasonDialog.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <release/history/DecisionHistory.h>
-#include <workbench/session/SessionTypes.h>
+#include <workbench/session/common/SessionTypes.h>
 
 #include <QDialog>
 

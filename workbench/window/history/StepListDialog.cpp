@@ -3,7 +3,7 @@
 #include "StepListModel.h"
 
 #include <gui/application/PApplication.h>
-#include <workbench/session/UndoHistory.h>
+#include <workbench/session/history/UndoHistory.h>
 
 #include <QDialogButtonBox>
 #include <QHeaderView>

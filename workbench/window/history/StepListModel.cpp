@@ -1,8 +1,8 @@
 #include "StepListModel.h"
 
 #include <core/text/countText.h>
-#include <workbench/session/MappingDocument.h>
-#include <workbench/session/UndoHistory.h>
+#include <workbench/session/document/MappingDocument.h>
+#include <workbench/session/history/UndoHistory.h>
 
 #include <QFont>
 #include <QLocale>

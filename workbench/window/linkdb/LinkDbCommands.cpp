@@ -8,7 +8,7 @@
 
 #include <core/progress/PProgress.h>
 #include <gui/progress/DefaultObserverDelegate.h>
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/MappingDocument.h>
 #include <workbench/window/document/DocumentDesk.h>
 #include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/message/Question.h>

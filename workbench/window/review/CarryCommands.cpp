@@ -4,10 +4,10 @@
 #include <core/progress/PProgress.h>
 #include <core/text/countText.h>
 #include <gui/progress/DefaultObserverDelegate.h>
-#include <workbench/session/BackgroundWork.h>
-#include <workbench/session/CarriedWork.h>
-#include <workbench/session/CatalogRootMemory.h>
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/common/BackgroundWork.h>
+#include <workbench/session/document/CatalogRootMemory.h>
+#include <workbench/session/document/MappingDocument.h>
+#include <workbench/session/work/CarriedWork.h>
 #include <workbench/window/document/FileNames.h>
 #include <workbench/window/document/TargetRoot.h>
 #include <workbench/window/editor/EditorArea.h>

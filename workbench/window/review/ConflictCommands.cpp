@@ -1,7 +1,7 @@
 #include "ConflictCommands.h"
 
 #include <core/text/countText.h>
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/MappingDocument.h>
 #include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/message/Question.h>
 

@@ -1,7 +1,7 @@
 #include "ReplacementsDialog.h"
 
 #include <workbench/review/PatternText.h>
-#include <workbench/session/BackgroundWork.h>
+#include <workbench/session/common/BackgroundWork.h>
 #include <workbench/window/message/Question.h>
 
 #include <QComboBox>

@@ -8,8 +8,8 @@
 #include <workbench/review/DifferencePanel.h>
 #include <workbench/review/PatternDock.h>
 #include <workbench/review/PatternText.h>
-#include <workbench/session/BulkOperation.h>
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/MappingDocument.h>
+#include <workbench/session/work/BulkOperation.h>
 #include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/editor/LineCommands.h>
 #include <workbench/window/message/Question.h>

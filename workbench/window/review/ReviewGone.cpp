@@ -1,8 +1,8 @@
 #include "ReviewCommands.h"
 
 #include <core/json/PJsonValue.h>
-#include <workbench/session/BulkOperation.h>
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/MappingDocument.h>
+#include <workbench/session/work/BulkOperation.h>
 #include <workbench/window/message/ReasonDialog.h>
 
 #include <map>

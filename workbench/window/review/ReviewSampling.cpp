@@ -6,7 +6,7 @@
 #include <core/text/countText.h>
 #include <workbench/review/PatternDock.h>
 #include <workbench/review/PatternText.h>
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/document/MappingDocument.h>
 #include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/message/Question.h>
 #include <workbench/window/message/wrapPrompt.h>

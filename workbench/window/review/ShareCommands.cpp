@@ -1,7 +1,7 @@
 #include "ShareCommands.h"
 
-#include <workbench/session/BackgroundWork.h>
-#include <workbench/session/MappingDocument.h>
+#include <workbench/session/common/BackgroundWork.h>
+#include <workbench/session/document/MappingDocument.h>
 #include <workbench/window/document/DocumentDesk.h>
 #include <workbench/window/document/FileNames.h>
 #include <workbench/window/editor/EditorArea.h>
