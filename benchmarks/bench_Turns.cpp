@@ -8,7 +8,7 @@
 #include "ProductRun.h"
 
 #include <workbench/review/PatternDock.h>
-#include <workbench/session/work/ReviewWork.h>
+#include <workbench/session/tasks/ReviewWork.h>
 #include <workbench/start/PluginLibrary.h>
 #include <workbench/window/document/DocumentDesk.h>
 #include <workbench/window/editor/EditorArea.h>

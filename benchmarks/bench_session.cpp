@@ -5,7 +5,7 @@
 #include "MappingRecords.h"
 
 #include <workbench/session/document/MappingDocument.h>
-#include <workbench/session/work/BulkOperation.h>
+#include <workbench/session/tasks/BulkOperation.h>
 
 #include <geomcore/records/MappingFile.h>
 #include <mapping/data/ReleaseMappingHandler.h>

@@ -1,7 +1,7 @@
 #include "SessionFixture.h"
 
 #include <workbench/session/document/MappingDocument.h>
-#include <workbench/session/work/BulkOperation.h>
+#include <workbench/session/tasks/BulkOperation.h>
 
 #include <QSignalSpy>
 #include <QTest>

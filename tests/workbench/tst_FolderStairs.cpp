@@ -44,7 +44,7 @@ QStringList sessionSteps()
 {
     return {"workbench/session/common",  "workbench/session/file",    "workbench/session/change",
             "workbench/session/journal", "workbench/session/history", "workbench/session/document",
-            "workbench/session/work"};
+            "workbench/session/tasks"};
 }
 
 QStringList windowSteps()

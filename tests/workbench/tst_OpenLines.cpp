@@ -2,7 +2,7 @@
 #include "TableFixture.h"
 
 #include <workbench/session/document/MappingDocument.h>
-#include <workbench/session/work/OpenLines.h>
+#include <workbench/session/tasks/OpenLines.h>
 
 #include <QSignalSpy>
 #include <QTest>

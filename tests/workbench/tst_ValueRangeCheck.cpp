@@ -1,7 +1,7 @@
 #include "SessionFixture.h"
 #include "TableFixture.h"
 
-#include <workbench/session/work/ValueRangeCheck.h>
+#include <workbench/session/tasks/ValueRangeCheck.h>
 
 #include <core/progress/PProgressObserverBase.h>
 

@@ -1,6 +1,6 @@
 #include "ConflictModel.h"
 
-#include <workbench/session/work/ConflictSides.h>
+#include <workbench/session/tasks/ConflictSides.h>
 
 #include <QFont>
 

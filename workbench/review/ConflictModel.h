@@ -1,6 +1,6 @@
 #pragma once
 
-#include <workbench/session/work/ConflictList.h>
+#include <workbench/session/tasks/ConflictList.h>
 
 #include <QAbstractTableModel>
 

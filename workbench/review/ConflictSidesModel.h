@@ -1,6 +1,6 @@
 #pragma once
 
-#include <workbench/session/work/ConflictSides.h>
+#include <workbench/session/tasks/ConflictSides.h>
 
 #include <QAbstractTableModel>
 

@@ -7,7 +7,7 @@
 #include "PatternText.h"
 
 #include <core/text/countText.h>
-#include <workbench/session/work/ReviewWork.h>
+#include <workbench/session/tasks/ReviewWork.h>
 
 #include <QEvent>
 #include <QHeaderView>

@@ -4,7 +4,7 @@
 
 #include <core/text/countText.h>
 #include <release/review/OpenReason.h>
-#include <workbench/session/work/FilterWork.h>
+#include <workbench/session/tasks/FilterWork.h>
 
 #include <QCoreApplication>
 #include <QEvent>

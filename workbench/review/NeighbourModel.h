@@ -1,6 +1,6 @@
 #pragma once
 
-#include <workbench/session/work/NeighbourWork.h>
+#include <workbench/session/tasks/NeighbourWork.h>
 
 #include <QAbstractTableModel>
 

@@ -3,7 +3,7 @@
 #include "PatternModel.h"
 #include "PatternText.h"
 
-#include <workbench/session/work/ReviewWork.h>
+#include <workbench/session/tasks/ReviewWork.h>
 
 #include <QEvent>
 #include <QHeaderView>

@@ -7,8 +7,8 @@
 #include <gui/progress/DefaultObserverDelegate.h>
 #include <mapping/view/CatalogMappingWidget.h>
 #include <workbench/session/journal/SessionRecovery.h>
-#include <workbench/session/work/OpenLines.h>
-#include <workbench/session/work/ValueRangeCheck.h>
+#include <workbench/session/tasks/OpenLines.h>
+#include <workbench/session/tasks/ValueRangeCheck.h>
 #include <workbench/window/document/DocumentDesk.h>
 #include <workbench/window/document/MappingMaker.h>
 #include <workbench/window/editor/EditorArea.h>

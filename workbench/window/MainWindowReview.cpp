@@ -10,7 +10,7 @@
 #include <workbench/review/RangeDock.h>
 #include <workbench/script/ScriptConsole.h>
 #include <workbench/session/document/MappingDocument.h>
-#include <workbench/session/work/CarriedWork.h>
+#include <workbench/session/tasks/CarriedWork.h>
 #include <workbench/window/document/DocumentDesk.h>
 #include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/editor/FilterCommands.h>

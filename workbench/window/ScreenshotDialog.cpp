@@ -13,9 +13,9 @@
 #include <workbench/review/PatternText.h>
 #include <workbench/script/ScriptConsole.h>
 #include <workbench/script/ScriptEditor.h>
-#include <workbench/session/work/CarriedWork.h>
-#include <workbench/session/work/FilterWork.h>
-#include <workbench/session/work/NeighbourWork.h>
+#include <workbench/session/tasks/CarriedWork.h>
+#include <workbench/session/tasks/FilterWork.h>
+#include <workbench/session/tasks/NeighbourWork.h>
 #include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/editor/FilterCommands.h>
 #include <workbench/window/help/HelpWindow.h>

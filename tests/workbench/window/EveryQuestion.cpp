@@ -11,7 +11,7 @@
 #include <gui/application/PApplicationPool.h>
 #include <release/decide/LineEdits.h>
 #include <workbench/session/document/MappingDocument.h>
-#include <workbench/session/work/ReviewWork.h>
+#include <workbench/session/tasks/ReviewWork.h>
 #include <workbench/window/document/DocumentDesk.h>
 #include <workbench/window/document/ReleaseCommands.h>
 #include <workbench/window/editor/EditorArea.h>

@@ -13,7 +13,7 @@
 #include <workbench/session/document/CatalogRootMemory.h>
 #include <workbench/session/document/MappingDocument.h>
 #include <workbench/session/history/UndoHistory.h>
-#include <workbench/session/work/CarriedWork.h>
+#include <workbench/session/tasks/CarriedWork.h>
 #include <workbench/window/document/DocumentDesk.h>
 #include <workbench/window/document/ReleaseCommands.h>
 #include <workbench/window/editor/EditorArea.h>

@@ -2,8 +2,8 @@
 
 #include <workbench/review/FilterDock.h>
 #include <workbench/session/document/MappingDocument.h>
-#include <workbench/session/work/FilterWork.h>
-#include <workbench/session/work/OpenLines.h>
+#include <workbench/session/tasks/FilterWork.h>
+#include <workbench/session/tasks/OpenLines.h>
 #include <workbench/window/document/DocumentDesk.h>
 #include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/editor/FilterCommands.h>

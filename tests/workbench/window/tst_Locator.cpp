@@ -7,7 +7,7 @@
 #include <workbench/locator/LocatorDialog.h>
 #include <workbench/locator/LocatorModel.h>
 #include <workbench/locator/LocatorSearch.h>
-#include <workbench/session/work/OpenLines.h>
+#include <workbench/session/tasks/OpenLines.h>
 #include <workbench/window/document/DocumentDesk.h>
 #include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/MainWindow.h>

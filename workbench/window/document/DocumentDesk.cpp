@@ -8,7 +8,7 @@
 #include <core/message/PMessage.h>
 #include <gui/progress/DefaultObserverDelegate.h>
 #include <workbench/session/common/BackgroundWork.h>
-#include <workbench/session/work/OpenLines.h>
+#include <workbench/session/tasks/OpenLines.h>
 #include <workbench/window/message/Question.h>
 #include <workbench/window/message/wrapPrompt.h>
 #include <workbench/window/settings/WorkbenchSettings.h>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <geomcore/table/ContentRef.h>
-#include <workbench/session/work/OpenLines.h>
+#include <workbench/session/tasks/OpenLines.h>
 
 #include <QHash>
 #include <QPointer>

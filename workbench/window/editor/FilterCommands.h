@@ -1,6 +1,6 @@
 #pragma once
 
-#include <workbench/session/work/FilterWork.h>
+#include <workbench/session/tasks/FilterWork.h>
 
 #include <QObject>
 

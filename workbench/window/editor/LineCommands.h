@@ -1,7 +1,7 @@
 #pragma once
 
-#include <workbench/session/work/BulkOperation.h>
-#include <workbench/session/work/OpenLines.h>
+#include <workbench/session/tasks/BulkOperation.h>
+#include <workbench/session/tasks/OpenLines.h>
 
 #include <QObject>
 

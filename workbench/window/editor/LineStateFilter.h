@@ -1,6 +1,6 @@
 #pragma once
 
-#include <workbench/session/work/OpenLines.h>
+#include <workbench/session/tasks/OpenLines.h>
 
 #include <QObject>
 

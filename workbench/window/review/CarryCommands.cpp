@@ -7,7 +7,7 @@
 #include <workbench/session/common/BackgroundWork.h>
 #include <workbench/session/document/CatalogRootMemory.h>
 #include <workbench/session/document/MappingDocument.h>
-#include <workbench/session/work/CarriedWork.h>
+#include <workbench/session/tasks/CarriedWork.h>
 #include <workbench/window/document/FileNames.h>
 #include <workbench/window/document/TargetRoot.h>
 #include <workbench/window/editor/EditorArea.h>

@@ -3,7 +3,7 @@
 #include <workbench/review/NeighbourDock.h>
 #include <workbench/review/NeighbourModel.h>
 #include <workbench/session/document/MappingDocument.h>
-#include <workbench/session/work/NeighbourWork.h>
+#include <workbench/session/tasks/NeighbourWork.h>
 #include <workbench/window/editor/EditorArea.h>
 
 NeighbourCommands::NeighbourCommands(MappingDocument *document, EditorArea *editor, QWidget *window)

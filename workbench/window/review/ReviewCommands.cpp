@@ -9,7 +9,7 @@
 #include <workbench/review/PatternDock.h>
 #include <workbench/review/PatternText.h>
 #include <workbench/session/document/MappingDocument.h>
-#include <workbench/session/work/BulkOperation.h>
+#include <workbench/session/tasks/BulkOperation.h>
 #include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/editor/LineCommands.h>
 #include <workbench/window/message/Question.h>

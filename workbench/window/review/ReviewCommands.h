@@ -1,6 +1,6 @@
 #pragma once
 
-#include <workbench/session/work/ReviewWork.h>
+#include <workbench/session/tasks/ReviewWork.h>
 
 #include <release/pattern/SampleAcceptance.h>
 

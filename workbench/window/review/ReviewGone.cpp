@@ -2,7 +2,7 @@
 
 #include <core/json/PJsonValue.h>
 #include <workbench/session/document/MappingDocument.h>
-#include <workbench/session/work/BulkOperation.h>
+#include <workbench/session/tasks/BulkOperation.h>
 #include <workbench/window/message/ReasonDialog.h>
 
 #include <map>
