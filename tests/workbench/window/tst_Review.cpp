@@ -15,6 +15,7 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTableView>
+#include <QThread>
 
 #include <functional>
 
@@ -46,19 +47,29 @@ private Q_SLOTS:
 
 namespace {
 
-/// Counts the pictures of a widget.
+/// Counts the pictures of all that is in a widget, whenever it came there.
 class PaintCounter : public QObject
 {
 public:
-    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
+    explicit PaintCounter(const QWidget *widget)
+        : m_widget(widget)
+    {
+        qApp->installEventFilter(this);
+    }
     int count = 0;
 
 protected:
-    bool eventFilter(QObject *, QEvent *event) override
+    bool eventFilter(QObject *object, QEvent *event) override
     {
-        count += event->type() == QEvent::Paint ? 1 : 0;
+        count += event->type() == QEvent::Paint &&
+                         m_widget->isAncestorOf(qobject_cast<QWidget *>(object))
+                     ? 1
+                     : 0;
         return false;
     }
+
+private:
+    const QWidget *const m_widget;
 };
 
 } // namespace
@@ -473,6 +484,15 @@ void tst_Review::isPaintedInATurnOfItsOwn_data()
     });
     QTest::newRow("differences") << Act(
         [](ReviewFixture &fixture) { fixture.action("reviewDifferences")->trigger(); });
+    QTest::newRow("another release") << Act([](ReviewFixture &fixture) {
+        const LineRef here = fixture.here();
+        MappingDocument *const document = fixture.window->desk()->document();
+        ReleaseMappingC changed = document->release();
+        changed.setTargetDate(QStringLiteral("2031-01-01"));
+        document->replaceRelease(changed, QStringLiteral("..."));
+        QCOMPARE(document->release().getTargetDate(), QStringLiteral("2031-01-01"));
+        QCOMPARE(fixture.here(), here); // it is whole at once
+    });
 }
 
 void tst_Review::isPaintedInATurnOfItsOwn()
@@ -481,7 +501,8 @@ void tst_Review::isPaintedInATurnOfItsOwn()
     ReviewFixture fixture;
     fixture.action("goNext")->trigger();
     fixture.window->findChild<QPushButton *>("btnMapLine")->click();
-    PaintCounter pictures(fixture.sourceView()->grid()->viewport());
+    EditorArea *const editor = fixture.window->editor();
+    PaintCounter pictures(editor);
     // Nothing of the step before may still be on its way.
     QTRY_VERIFY_WITH_TIMEOUT(!fixture.review()->work()->isReading(), 20'000);
     do {
@@ -492,6 +513,12 @@ void tst_Review::isPaintedInATurnOfItsOwn()
     QCoreApplication::sendPostedEvents();
     QCOMPARE(pictures.count, 0);
     QTRY_VERIFY(pictures.count > 0);
+    // However long the turn takes.
+    editor->paintLater();
+    QThread::msleep(10);
+    QCoreApplication::processEvents();
+    QVERIFY(!editor->updatesEnabled());
+    QTRY_VERIFY(editor->updatesEnabled());
 }
 
 QTEST_MAIN(tst_Review)

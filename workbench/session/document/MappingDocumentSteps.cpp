@@ -102,7 +102,7 @@ void MappingDocumentPrivate::noteAndApply(const ReleaseMappingC &before,
 void MappingDocumentPrivate::show(PreparedRelease &&prepared)
 {
     // Behind all others that hold it: the end of a large tree takes long.
-    const auto end = qScopeGuard([former = handler]() mutable {
+    const auto end = qScopeGuard([former = std::pair(handler, std::move(order))]() mutable {
         QThreadPool::globalInstance()->start([ended = std::move(former)] {});
     });
     adoptRelease(std::move(prepared));

@@ -7,12 +7,21 @@
 #include <workbench/session/common/BackgroundWork.h>
 #include <workbench/session/document/MappingDocument.h>
 
+#include <QAbstractEventDispatcher>
 #include <QAbstractItemModel>
 #include <QCoreApplication>
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <chrono>
 #include <memory>
+#include <utility>
+
+namespace {
+
+constexpr std::chrono::milliseconds PaintPatience{500}; // with a loop that never waits
+
+} // namespace
 
 EditorArea::EditorArea(QWidget *parent)
     : QWidget(parent)
@@ -22,8 +31,9 @@ EditorArea::EditorArea(QWidget *parent)
     setObjectName("EditorArea");
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_paint->setSingleShot(true);
-    m_paint->setInterval(1); // not before the loop waited
     connect(m_paint, &QTimer::timeout, this, [this] { setUpdatesEnabled(true); });
+    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+            &EditorArea::onLoopWaits);
 }
 
 EditorArea::~EditorArea()
@@ -55,6 +65,7 @@ void EditorArea::rebuild()
 {
     if (!m_editor || !m_document)
         return;
+    paintLater();
     const ProjectId project = currentProject();
     const int line = currentLine();
     const QStringList open = m_editor->expandedDirectories();
@@ -186,7 +197,15 @@ void EditorArea::focusLines()
 void EditorArea::paintLater()
 {
     setUpdatesEnabled(false);
-    m_paint->start();
+    m_paintsAfterTurn = true;
+    m_paint->start(PaintPatience);
+}
+
+/// What followed from the change is done, however long it took.
+void EditorArea::onLoopWaits()
+{
+    if (std::exchange(m_paintsAfterTurn, false) && m_paint->isActive())
+        m_paint->start(1);
 }
 
 /// The choices of lines and kinds give way to a project that they hide.

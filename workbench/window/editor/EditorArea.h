@@ -124,6 +124,7 @@ private Q_SLOTS:
 
 private:
     void make();
+    void onLoopWaits();
     void showChanges();
     void filterProjects();
     void filterLines();
@@ -145,4 +146,5 @@ private:
     LineChoice m_choice;        ///< empty: no choice
     QList<ProjectId> m_changed; ///< that showChanges() has still to show
     QTimer *const m_paint;
+    bool m_paintsAfterTurn = false; ///< when the loop waits
 };
