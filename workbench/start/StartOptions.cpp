@@ -85,6 +85,15 @@ QString wrongValue(const QCommandLineParser &parser, const StartOptions &options
     return {};
 }
 
+/// Before there is an application, Qt does not know the program's name.
+QString helpText(const QCommandLineParser &parser)
+{
+    QString text = parser.helpText();
+    const qsizetype name = text.indexOf(u' ') + 1;
+    return text.replace(name, text.indexOf(QStringLiteral(" [options]")) - name,
+                        QStringLiteral("velkworkbench"));
+}
+
 } // namespace
 
 StartOptions StartOptions::parse(const QStringList &arguments)
@@ -100,7 +109,7 @@ StartOptions StartOptions::parse(const QStringList &arguments)
     if (!parser.parse(QStringList("velkworkbench") + arguments))
         return end(Outcome::Wrong, parser.errorText());
     if (parser.isSet("help"))
-        return end(Outcome::Over, parser.helpText());
+        return end(Outcome::Over, helpText(parser));
     if (parser.isSet("version"))
         return end(Outcome::Over, "velkworkbench " + velkVersion() + '\n');
 

@@ -72,6 +72,7 @@ private Q_SLOTS:
         QCOMPARE(program({"--version"}).status, 0);
         const Run help = program({"--help"});
         QCOMPARE(help.status, 0);
+        QVERIFY(help.out.startsWith("Usage: velkworkbench [options] [mapping]\n"));
         QVERIFY(help.out.contains("--screenshot"));
         const Run wrong = program({"--theme", "red"});
         QCOMPARE(wrong.status, 1);
