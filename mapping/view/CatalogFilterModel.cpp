@@ -74,7 +74,7 @@ void CatalogFilterModel::finish()
 void CatalogFilterModel::apply()
 {
     m_turn.stop();
-    m_directories = m_walk ? m_walk->takeDecided() : CatalogFilterWalk::Decided();
+    m_decided = m_walk ? m_walk->takeDecided() : CatalogFilterWalk::Decided();
     m_walk.reset();
     m_accepts = m_wanted;
     QSortFilterProxyModel::invalidate();
@@ -89,6 +89,11 @@ bool CatalogFilterModel::hasChildren(const QModelIndex &parent) const
     return sourceModel()->hasChildren(mapToSource(parent)); // no directory in sight is empty
 }
 
+Qt::ItemFlags CatalogFilterModel::flags(const QModelIndex &index) const
+{
+    return QAbstractItemModel::flags(index); // as the source, whose row is not made for that
+}
+
 void CatalogFilterModel::fetchMore(const QModelIndex &parent)
 {
     const int before = rowCount(parent);
@@ -101,13 +106,13 @@ bool CatalogFilterModel::filterAcceptsRow(int sourceRow, const QModelIndex &sour
     if (!m_accepts)
         return QSortFilterProxyModel::filterAcceptsRow(sourceRow, sourceParent);
     const auto *const source = static_cast<const CatalogStructureModel *>(sourceModel());
-    const CatalogStructureNodeI &node = source->nodeAt(source->index(sourceRow, 0, sourceParent));
+    const CatalogStructureNodeI &node = source->childAt(sourceRow, sourceParent);
+    if (const auto known = m_decided.constFind(&node); known != m_decided.cend())
+        return *known;
     if (CatalogFilterWalk::isProject(node))
         return m_accepts(node);
-    if (!m_directories.contains(&node)) {
-        CatalogFilterWalk walk(node, m_accepts);
-        (void)walk.run(QDeadlineTimer(QDeadlineTimer::Forever));
-        m_directories.insert(walk.takeDecided());
-    }
-    return m_directories.value(&node);
+    CatalogFilterWalk walk(node, m_accepts);
+    (void)walk.run(QDeadlineTimer(QDeadlineTimer::Forever));
+    m_decided.insert(walk.takeDecided());
+    return m_decided.value(&node);
 }

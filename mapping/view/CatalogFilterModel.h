@@ -38,6 +38,8 @@ public:
 
     /// Without a filter what the source says, whose rows are left alone until they are wanted.
     [[nodiscard]] bool hasChildren(const QModelIndex &parent = QModelIndex()) const override;
+    /// Those of every row; a view asks for them of each that it has, be it in sight or not.
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex &index) const override;
     /// Until there is another row, if there is one.
     void fetchMore(const QModelIndex &parent) override;
 
@@ -54,8 +56,8 @@ private:
     void apply();
 
     QTimer m_turn;
-    std::unique_ptr<CatalogFilterWalk> m_walk; ///< as long as it is not through
-    Accepts m_wanted;                          ///< what it is for
-    Accepts m_accepts;                         ///< what is shown
-    mutable QHash<const CatalogStructureNodeI *, bool> m_directories; ///< those known
+    std::unique_ptr<CatalogFilterWalk> m_walk;                    ///< as long as it is not through
+    Accepts m_wanted;                                             ///< what it is for
+    Accepts m_accepts;                                            ///< what is shown
+    mutable QHash<const CatalogStructureNodeI *, bool> m_decided; ///< of all directories known
 };

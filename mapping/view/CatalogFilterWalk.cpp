@@ -46,7 +46,7 @@ bool CatalogFilterWalk::run(const QDeadlineTimer &until)
         const qsizetype at = level.next++;
         const CatalogStructureNodeI &child = *level.children.at(at);
         if (isProject(child))
-            level.isAccepted = level.isAccepted || m_accepts(child);
+            decide(level, child);
         else
             enter(child, level.item ? level.item->children.value(at) : nullptr);
         if (seen >= LeastInARun && seen % BetweenLooks == 0 && until.hasExpired())
@@ -65,6 +65,17 @@ void CatalogFilterWalk::enter(const CatalogStructureNodeI &directory,
 {
     const bool hasRows = item && item->childrenLoaded;
     m_levels.push_back({&directory, hasRows ? item : nullptr, directory.getChildren()});
+}
+
+/// On each that is a row, of the others until one is accepted.
+void CatalogFilterWalk::decide(Level &level, const CatalogStructureNodeI &project)
+{
+    if (level.isAccepted && !level.item)
+        return;
+    const bool isAccepted = m_accepts(project);
+    level.isAccepted = level.isAccepted || isAccepted;
+    if (level.item)
+        m_decided.insert(&project, isAccepted);
 }
 
 void CatalogFilterWalk::leave()

@@ -12,8 +12,8 @@
 struct CatalogStructureItem;
 
 /// Finds out which directories of a tree have a project that a filter accepts, in as many runs as
-/// it takes. Decides on those that the model has rows of, and looks no further below them than to
-/// the first project that is accepted.
+/// it takes. Decides on all that the model has rows of, and looks no further below them than to the
+/// first project that is accepted.
 class CatalogFilterWalk
 {
 public:
@@ -48,6 +48,7 @@ private:
     };
 
     void enter(const CatalogStructureNodeI &directory, const CatalogStructureItem *item);
+    void decide(Level &level, const CatalogStructureNodeI &project);
     void leave();
 
     const Accepts m_accepts;

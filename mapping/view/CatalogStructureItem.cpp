@@ -22,22 +22,24 @@ void CatalogStructureItem::loadChildren()
         return;
     childNodes = node->getChildren();
     childrenLoaded = true;
-    loadMore();
+    addRows(nextPortion());
 }
 
 int CatalogStructureItem::nextPortion() const
 {
-    constexpr qsizetype Portion = 1000; // more than a screen has, and made in no time
+    constexpr qsizetype Portion = 1000; // more than a screen has, and laid out in no time
     return int(std::clamp<qsizetype>(childNodes.size() - children.size(), 0, Portion));
 }
 
-void CatalogStructureItem::loadMore()
+void CatalogStructureItem::addRows(int count)
 {
-    const int more = nextPortion();
-    children.reserve(children.size() + more);
-    for (int i = 0; i < more; ++i)
-        children +=
-            new CatalogStructureItem(this, int(children.size()), childNodes.at(children.size()));
-    if (children.size() == childNodes.size())
-        childNodes.clear();
+    children.resize(children.size() + count);
+}
+
+CatalogStructureItem *CatalogStructureItem::child(int at)
+{
+    CatalogStructureItem *&item = children[at];
+    if (!item)
+        item = new CatalogStructureItem(this, at, childNodes.at(at));
+    return item;
 }

@@ -16,18 +16,19 @@ struct CatalogStructureItem
     /// Frees all items below.
     ~CatalogStructureItem();
 
-    /// Asks the node for its children, once, and makes the first of them.
+    /// Asks the node for its children, once; the first of them are rows then.
     void loadChildren();
-    /// How many more are made at once; 0: all are there.
+    /// How many more become rows at once; 0: all are.
     [[nodiscard]] int nextPortion() const;
-    /// Makes them.
-    void loadMore();
+    /// So many more become rows.
+    void addRows(int count);
+    /// Of a row that is there; made when it is wanted for the first time.
+    [[nodiscard]] CatalogStructureItem *child(int at);
 
     CatalogStructureItem *parent; ///< null on the root item
     int row;                      ///< index among the parent's children
     boost::shared_ptr<CatalogStructureNodeI> node;
-    QList<CatalogStructureItem *> children; ///< owned; empty until childrenLoaded
-    /// Of a directory with very many: all of them, as long as there are not that many children.
-    QList<boost::shared_ptr<CatalogStructureNodeI>> childNodes;
+    QList<CatalogStructureItem *> children; ///< owned; null where nobody wanted one yet
+    QList<boost::shared_ptr<CatalogStructureNodeI>> childNodes; ///< more than rows, if very many
     bool childrenLoaded = false;
 };

@@ -53,10 +53,10 @@ CatalogStructureModel::~CatalogStructureModel()
 
 QModelIndex CatalogStructureModel::index(int row, int column, const QModelIndex &parent) const
 {
-    const CatalogStructureItem *item = d->loadedItemOf(parent);
+    CatalogStructureItem *const item = d->loadedItemOf(parent);
     if (row < 0 || row >= item->children.size())
         return QModelIndex();
-    return createIndex(row, column, item->children.at(row));
+    return createIndex(row, column, item->child(row));
 }
 
 QModelIndex CatalogStructureModel::parent(const QModelIndex &index) const
@@ -85,19 +85,32 @@ bool CatalogStructureModel::canFetchMore(const QModelIndex &parent) const
 
 void CatalogStructureModel::fetchMore(const QModelIndex &parent)
 {
-    if (!canFetchMore(parent))
-        return;
+    if (canFetchMore(parent))
+        insertNext(d->itemOf(parent)->nextPortion(), parent);
+}
+
+void CatalogStructureModel::fetchRow(int row, const QModelIndex &parent)
+{
+    const CatalogStructureItem *const item = d->loadedItemOf(parent);
+    if (row >= item->children.size() && row < item->childNodes.size() && canFetchMore(parent))
+        insertNext(row + 1 - int(item->children.size()), parent);
+}
+
+void CatalogStructureModel::insertNext(int count, const QModelIndex &parent)
+{
     CatalogStructureItem *const item = d->itemOf(parent);
     const int first = int(item->children.size());
     const QScopedValueRollback inserting(d->isInserting, true); // whoever hears of it may ask
-    beginInsertRows(parent, first, first + item->nextPortion() - 1);
-    item->loadMore();
+    beginInsertRows(parent, first, first + count - 1);
+    item->addRows(count);
     endInsertRows();
 }
 
 bool CatalogStructureModel::hasChildren(const QModelIndex &parent) const
 {
     const CatalogStructureItem *const item = d->itemOf(parent);
+    if (item->node && isProject(*item->node)) // a view asks of each row that it has
+        return false;
     if (!item->childrenLoaded && dynamic_cast<const FilledNodeI *>(item->node.get()))
         return true;
     return rowCount(parent) > 0;
@@ -135,8 +148,8 @@ void CatalogStructureModel::invalidateNodes(CatalogStructureItem *item)
         return;
     }
     item->loadChildren();
-    for (CatalogStructureItem *child : std::as_const(item->children))
-        invalidateNodes(child);
+    for (int row = 0; row < item->children.size(); ++row)
+        invalidateNodes(item->child(row));
     for (qsizetype i = item->children.size(); i < item->childNodes.size(); ++i)
         invalidateWithAllBelow(item->childNodes.at(i));
     if (item->node)
@@ -151,6 +164,12 @@ const CatalogStructureItem &CatalogStructureModel::rootItem() const
 const CatalogStructureNodeI &CatalogStructureModel::nodeAt(const QModelIndex &index) const
 {
     return *d->itemOf(index)->node;
+}
+
+const CatalogStructureNodeI &CatalogStructureModel::childAt(int row,
+                                                            const QModelIndex &parent) const
+{
+    return *d->itemOf(parent)->childNodes.at(row);
 }
 
 boost::shared_ptr<CatalogStructureNodeI> CatalogStructureModel::nodeFrom(const QVariant &value)

@@ -32,16 +32,20 @@ public:
     [[nodiscard]] QModelIndex parent(const QModelIndex &index) const override;
     [[nodiscard]] int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     [[nodiscard]] int columnCount(const QModelIndex &parent = QModelIndex()) const override;
-    /// Loads them to know, but for a FilledNodeI.
+    /// Loads them to know, but for a FilledNodeI and for projects, which have none.
     [[nodiscard]] bool hasChildren(const QModelIndex &parent = QModelIndex()) const override;
     [[nodiscard]] bool canFetchMore(const QModelIndex &parent) const override;
     void fetchMore(const QModelIndex &parent) override;
+    /// Until there is this row, all at once; what a view does with a row is left to the view.
+    void fetchRow(int row, const QModelIndex &parent);
     [[nodiscard]] QVariant data(const QModelIndex &index,
                                 int role = Qt::DisplayRole) const override;
 
     /// What is there of the tree.
     [[nodiscard]] const CatalogStructureItem &rootItem() const;
     [[nodiscard]] const CatalogStructureNodeI &nodeAt(const QModelIndex &index) const;
+    /// Of a row, without an index of it.
+    [[nodiscard]] const CatalogStructureNodeI &childAt(int row, const QModelIndex &parent) const;
 
     /// Makes all nodes from \a item down drop what they remember of their state; null begins at the
     /// root. A root that is a StateTreeI does it by itself and loads nothing; else the nodes are
@@ -53,5 +57,7 @@ public:
     [[nodiscard]] static boost::shared_ptr<CatalogStructureNodeI> nodeFrom(const QVariant &value);
 
 private:
+    void insertNext(int count, const QModelIndex &parent);
+
     CatalogStructureModelPrivate *const d;
 };

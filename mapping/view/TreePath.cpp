@@ -1,14 +1,19 @@
 #include "TreePath.h"
 
+#include "CatalogStructureItem.h"
 #include "CatalogStructureModel.h"
 
 #include <mapping/data/CatalogNodeType.h>
 #include <mapping/data/CatalogStructureNodeI.h>
 
-#include <QAbstractItemModel>
+#include <QAbstractProxyModel>
 #include <QTreeView>
 
+#include <algorithm>
+
 namespace {
+
+using Node = boost::shared_ptr<CatalogStructureNodeI>;
 
 /// What is looked for; an empty version stands for any.
 struct Project
@@ -17,48 +22,78 @@ struct Project
     QString version;
 };
 
-bool isProject(const QModelIndex &index, const Project &project)
+bool isProject(const CatalogStructureNodeI &node, const Project &project)
 {
-    const auto node =
-        CatalogStructureModel::nodeFrom(index.data(CatalogStructureModel::StructureNodeRole));
-    return node && node->getNodeType() == CatalogNodeType::Project &&
-           node->getPath() == project.path &&
-           (project.version.isEmpty() || node->getMapping().getSourceVersion() == project.version);
+    return node.getPath() == project.path && node.getNodeType() == CatalogNodeType::Project &&
+           (project.version.isEmpty() || node.getMapping().getSourceVersion() == project.version);
 }
 
-/// Fetches rows as far as it takes.
-bool hasRow(QAbstractItemModel *model, int row, const QModelIndex &parent)
+/// Looks for nodes, most of which are no rows yet.
+class Search
 {
-    while (row >= model->rowCount(parent) && model->canFetchMore(parent))
-        model->fetchMore(parent);
-    return row < model->rowCount(parent);
-}
-
-QModelIndex childNamed(QAbstractItemModel *model, const QModelIndex &parent, const QString &name)
-{
-    for (int row = 0; hasRow(model, row, parent); ++row) {
-        const QModelIndex child = model->index(row, 0, parent);
-        if (child.data().toString() == name && model->hasChildren(child))
-            return child;
+public:
+    explicit Search(QAbstractItemModel *model)
+        : m_proxy(qobject_cast<QAbstractProxyModel *>(model))
+        , m_tree(qobject_cast<CatalogStructureModel *>(m_proxy ? m_proxy->sourceModel() : model))
+    {
+        toTop();
     }
-    return {};
-}
 
-QModelIndex findBelow(QAbstractItemModel *model, const QModelIndex &parent, const Project &project,
-                      bool deep)
-{
-    for (int row = 0; hasRow(model, row, parent); ++row) {
-        const QModelIndex child = model->index(row, 0, parent);
-        if (isProject(child, project))
-            return child;
-        if (!deep)
-            continue;
-        const QModelIndex found = findBelow(model, child, project, true);
-        if (found.isValid())
-            return found;
+    void toTop()
+    {
+        m_rows.clear();
+        m_node = m_tree ? m_tree->rootItem().node : Node();
     }
-    return {};
-}
+    /// To the directory of this name in the one reached so far.
+    bool enter(const QString &name)
+    {
+        const QList<Node> children = m_node ? m_node->getChildren() : QList<Node>();
+        const auto found = std::ranges::find_if(children, [&name](const Node &child) {
+            return child->getName() == name && !child->getChildren().isEmpty();
+        });
+        if (found == children.end())
+            return false;
+        m_rows += int(found - children.begin());
+        m_node = *found;
+        return true;
+    }
+    /// Of the node reached so far; not valid if it is the root or hidden.
+    [[nodiscard]] QModelIndex index() const
+    {
+        QModelIndex index;
+        for (const int row : m_rows) {
+            m_tree->fetchRow(row, index);
+            index = m_tree->index(row, 0, index);
+        }
+        return m_proxy ? m_proxy->mapFromSource(index) : index;
+    }
+    /// In the directory reached so far, or anywhere below it.
+    QModelIndex find(const Project &project, bool deep)
+    {
+        if (!m_node)
+            return {};
+        const Node directory = m_node;
+        const QList<Node> children = directory->getChildren();
+        QModelIndex found;
+        for (int row = 0; row < children.size() && !found.isValid(); ++row) {
+            m_rows += row;
+            m_node = children.at(row);
+            if (isProject(*m_node, project))
+                found = index();
+            else if (deep)
+                found = find(project, true);
+            m_rows.removeLast();
+        }
+        m_node = directory;
+        return found;
+    }
+
+private:
+    const QAbstractProxyModel *const m_proxy;
+    CatalogStructureModel *const m_tree;
+    Node m_node;
+    QList<int> m_rows; ///< on the way to it
+};
 
 void noteExpanded(const QTreeView &tree, const QModelIndex &parent, const QString &path,
                   QStringList &paths)
@@ -85,14 +120,11 @@ QStringList TreePath::expanded(const QTreeView &tree)
 void TreePath::expand(QTreeView &tree, const QStringList &paths)
 {
     for (const QString &path : paths) {
-        QModelIndex index;
+        Search search(tree.model());
         const QStringList names = path.split('/');
-        for (const QString &name : names) {
-            index = childNamed(tree.model(), index, name);
-            if (!index.isValid())
-                break;
-        }
-        if (index.isValid())
+        if (!std::ranges::all_of(names, [&](const QString &name) { return search.enter(name); }))
+            continue;
+        if (const QModelIndex index = search.index(); index.isValid())
             tree.expand(index);
     }
 }
@@ -101,14 +133,12 @@ QModelIndex TreePath::find(QAbstractItemModel *model, const QString &sourcePath,
                            const QString &sourceVersion)
 {
     const Project project{sourcePath, sourceVersion};
-    QModelIndex parent;
+    Search search(model);
     const QStringList names = sourcePath.split('/').mid(0, sourcePath.count('/'));
-    for (const QString &name : names) {
-        const QModelIndex child = childNamed(model, parent, name);
-        if (!child.isValid())
-            break;
-        parent = child;
-    }
-    const QModelIndex found = findBelow(model, parent, project, false);
-    return found.isValid() ? found : findBelow(model, QModelIndex(), project, true);
+    (void)std::ranges::all_of(names, [&](const QString &name) { return search.enter(name); });
+    const QModelIndex found = search.find(project, false);
+    if (found.isValid())
+        return found;
+    search.toTop();
+    return search.find(project, true);
 }

@@ -183,11 +183,13 @@ private Q_SLOTS:
 
     void childrenOfRows()
     {
-        const CatalogStructureModel model(sampleTree());
+        const TestNode::Ptr root = sampleTree();
+        const CatalogStructureModel model(root);
         QVERIFY(model.hasChildren());
         QVERIFY(model.hasChildren(model.index(0, 0)));
         QVERIFY(!model.hasChildren(model.index(1, 0)));
         QVERIFY(!model.hasChildren(model.index(2, 0)));
+        QCOMPARE(root->children[2]->asked, 0); // a project has none
         QCOMPARE(model.rowCount(model.index(0, 0)), 2);
         QCOMPARE(model.rowCount(model.index(1, 0)), 0);
     }

@@ -3,11 +3,13 @@
 
 #include <mapping/data/ReleaseMappingHandler.h>
 #include <mapping/view/CatalogFilterModel.h>
+#include <mapping/view/CatalogStructureItem.h>
 #include <mapping/view/CatalogStructureModel.h>
 #include <mapping/view/RowsInSight.h>
 #include <mapping/view/TreePath.h>
 
 #include <QAbstractItemModelTester>
+#include <QSignalSpy>
 #include <QTest>
 #include <QTreeView>
 
@@ -79,7 +81,9 @@ private Q_SLOTS:
     void comeAsTheViewScrolls();
     void modelsStaySound();
     void areFoundBeforeTheyAreThere();
+    void aFarOneTakesNoneOfTheOthers();
     void areFilteredBeforeTheyAreThere();
+    void areDecidedOnInTurns();
 };
 
 void tst_RowsInSight::comeAsTheViewScrolls()
@@ -136,6 +140,25 @@ void tst_RowsInSight::areFoundBeforeTheyAreThere()
     QVERIFY(!TreePath::find(&tree.filter, "cat/large/gone.prj", QString()).isValid());
 }
 
+/// Whatever lies between is a number of rows and nothing else, until a view lays it out.
+void tst_RowsInSight::aFarOneTakesNoneOfTheOthers()
+{
+    Tree tree;
+    QSignalSpy inserted(&tree.model, &QAbstractItemModel::rowsInserted);
+    const QModelIndex found =
+        TreePath::find(&tree.filter, "cat/large/" + nameOf(Projects - 2), QString());
+    QCOMPARE(found.row(), Projects - 2);
+    QCOMPARE(inserted.size(), 1);
+    const QList<CatalogStructureItem *> items =
+        tree.model.rootItem().children.at(0)->children.at(0)->children;
+    QCOMPARE(items.size(), Projects - 1);
+    QVERIFY(items.size() - items.count(nullptr) < 10);
+    tree.view.expand(tree.large());
+    tree.view.scrollTo(found);
+    QTRY_VERIFY(tree.view.visualRect(found).isValid());
+    QCOMPARE(tree.filter.index(2000, 0, tree.large()).data().toString(), nameOf(2000));
+}
+
 /// Alone in the filter, and nothing of the first rows is in it.
 void tst_RowsInSight::areFilteredBeforeTheyAreThere()
 {
@@ -150,6 +173,25 @@ void tst_RowsInSight::areFilteredBeforeTheyAreThere()
     const QModelIndex only = tree.filter.index(0, 0, tree.large());
     QCOMPARE(only.data().toString(), nameOf(Projects - 2));
     QTRY_VERIFY(tree.view.visualRect(only).isValid());
+}
+
+/// All of them, so that none is left for the turn in which the filter shows.
+void tst_RowsInSight::areDecidedOnInTurns()
+{
+    Tree tree;
+    const QString last = "cat/large/" + nameOf(Projects - 1);
+    (void)TreePath::find(&tree.filter, last, QString());
+    tree.view.expand(tree.large());
+    QCOMPARE(tree.filter.rowCount(tree.large()), Projects);
+    int asked = 0;
+    tree.filter.hostFilter = [&](const PrjMappingC &mapping) {
+        ++asked;
+        return mapping.getSourcePath() == last;
+    };
+    tree.filter.invalidate();
+    tree.filter.finish();
+    QCOMPARE(tree.filter.rowCount(tree.large()), 1);
+    QCOMPARE(asked, Projects + 1);
 }
 
 QTEST_MAIN(tst_RowsInSight)
