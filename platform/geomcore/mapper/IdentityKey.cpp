@@ -54,15 +54,14 @@ void IdentityKey::bindKeyVariables(const BoundTarget &target)
     std::sort(sorted.begin(), sorted.end());
     if (keys.empty() || sorted != sourceKeys)
         return;
+    m_table = target.table();
     m_variables = keys;
-    m_sourceColumns = columns;
-    m_index = target.table()->lineIndex(keys);
 }
 
 std::vector<int> IdentityKey::rows(const LineInput &line, const TargetValues &values,
                                    int limit) const
 {
-    if (m_index)
+    if (byKeyVariables())
         return rowsByKey(values, limit);
     if (!m_designations)
         return {};
@@ -84,6 +83,8 @@ std::vector<int> IdentityKey::rowsByKey(const TargetValues &values, int limit) c
             return {};
         keys.emplace_back(text, VKTab::CompareMode::Number, '.', false);
     }
+    if (!m_index)
+        m_index = m_table->lineIndex(m_variables);
     std::vector<int> rows;
     for (int row = m_index->find(keys); row >= 0 && int(rows.size()) < limit;
          row = m_index->nextOf(row))

@@ -171,7 +171,7 @@ bool LinePlan::isKey(const BoundTarget &target, bool hasSourceName, size_t place
     if (table.data().descriptor().primaryKey.contains(table.variables()[variable].name))
         return true;
     // A first column that looks like a key may be a measure as well, or that of another thing.
-    return hasSourceName && target.identity().index() &&
+    return hasSourceName && target.identity().byKeyVariables() &&
            table.keyVariables()->front() == int(variable) && target.isText(int(variable));
 }
 
