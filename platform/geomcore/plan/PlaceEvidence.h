@@ -1,6 +1,10 @@
 #pragma once
 
+#include <geomcore/VelkGeomCoreGlobal.h>
+
 #include <array>
+#include <cstddef>
+#include <cstdint>
 #include <vector>
 
 namespace Plan {
@@ -9,7 +13,7 @@ namespace Plan {
 /// nearest lines above and below whose partners are known suggest two places; how near to these
 /// the partners of known lines stand is learned from them. In a table that was sorted anew they do
 /// not, and the place says nothing.
-class PlaceEvidence
+class VELKGEOMCORE_EXPORT PlaceEvidence
 {
 public:
     /// \a partners: by source row the row of its partner, or -1.
@@ -35,10 +39,22 @@ private:
     using Kinds = std::array<double, KindCount>;
     [[nodiscard]] Kinds densities(int sourceRow, int targetRow) const;
     [[nodiscard]] double near(int distance) const;
+    /// The nearest row above \a row with a partner, or -1; the nearest one below, or their number.
+    [[nodiscard]] int above(int row) const;
+    [[nodiscard]] int below(int row) const;
+    /// Rows with a partner, one of \a step.
+    [[nodiscard]] std::vector<int> knownRows(size_t step) const;
 
     std::vector<int> m_partners;
-    std::vector<int> m_above; ///< By source row: the nearest one with a partner, or -1.
-    std::vector<int> m_below; ///< Likewise, or their number.
+    /// Nearly all rows of a large table have a partner, and few are asked for: a set of them is
+    /// looked at, and beyond a word of it what is known of all words.
+    struct Rows
+    {
+        std::uint64_t known = 0; ///< A bit for each with a partner.
+        int above = -1;          ///< The nearest known row of the words before,
+        int below = 0;           ///< and of those behind.
+    };
+    std::vector<Rows> m_words;
     int m_targetRows;
     Kinds m_shares{0.25, 0.25, 0.25, 0.25};
     double m_decay = 0.5;       ///< From one row to the next.
