@@ -2,12 +2,15 @@
 #include <geomcore/mapper/CellNumbering.h>
 #include <geomcore/plan/CandidateLists.h>
 #include <geomcore/plan/LineChoice.h>
+#include <geomcore/plan/PlaceEvidence.h>
 #include <geomcore/plan/SoftAssignment.h>
 #include <geomcore/plan/SparseAssignment.h>
 
 #include <QList>
 #include <QTest>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <random>
 
@@ -89,6 +92,9 @@ private Q_SLOTS:
     void numbersDoNotDependOnThreads();
     void tokensOfNumbersAreShared();
     void frequentValuesCount();
+    void longListsAddNothingNew();
+    void neighboursShowPlaces_data();
+    void neighboursShowPlaces();
     void refilledBlockLeavesOthers();
     void probabilitiesAreSpread();
     void onlyWhatCountsIsAssigned();
@@ -218,6 +224,89 @@ void tst_PlanParts::frequentValuesCount()
     // Twice log(8000) against log(16) and ten times log(4).
     QCOMPARE(int(found.rows.size()), CandidateLists::MaxRows);
     QVERIFY(!found.isFarAhead);
+}
+
+/// What a long list alone would bring is behind as many rows as are taken: these are the same as if
+/// all were counted.
+void tst_PlanParts::longListsAddNothingNew()
+{
+    constexpr int Rows = 9000;
+    std::mt19937 random(11);
+    PlanTables tables;
+    tables.variableCount = 3;
+    tables.values.resize(3);
+    PlanTarget target;
+    target.variables = {0, 1, 2};
+    target.keys = {0, 0, 0};
+    target.lines = CellMatrix(1, 3);
+    target.rows = CellMatrix(size_t(Rows), 3);
+    const std::array<unsigned, 3> kinds{170, 60, 20};
+    std::array<int, 3> lists{};
+    for (size_t place = 0; place < 3; ++place) {
+        for (int row = 0; row < Rows; ++row) {
+            const std::string text = std::to_string(random() % kinds[place]);
+            target.rows.set(size_t(row), place, tables.values[place].number(text, '.'));
+        }
+        target.lines.set(0, place, target.rows.at(5, place));
+        for (int row = 0; row < Rows; ++row)
+            lists[place] += target.rows.at(size_t(row), place) == target.lines.at(0, place) ? 1 : 0;
+    }
+    for (int row = 0; row < Rows; ++row)
+        target.openRows.push_back(row);
+    QVERIFY(lists[0] > CandidateLists::MaxRows && lists[0] + lists[1] + lists[2] <= 1024);
+    std::vector<std::pair<double, int>> expected;
+    for (int row = 0; row < Rows; ++row) {
+        double votes = 0;
+        for (size_t place = 0; place < 3; ++place) {
+            if (target.rows.at(size_t(row), place) == target.lines.at(0, place))
+                votes += std::log(double(Rows) / lists[place]);
+        }
+        expected.emplace_back(-votes, row);
+    }
+    std::sort(expected.begin(), expected.end());
+    std::vector<int> rows;
+    for (int i = 0; i < CandidateLists::MaxRows; ++i)
+        rows.push_back(expected[size_t(i)].second);
+    std::sort(rows.begin(), rows.end());
+    tables.targets.push_back(std::move(target));
+    const CandidateLists candidates(tables, tables.targets.front());
+    QCOMPARE(candidates.find(0).rows, rows);
+}
+
+void tst_PlanParts::neighboursShowPlaces_data()
+{
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<int>("of");
+    QTest::newRow("none") << 100 << 0;
+    QTest::newRow("one in seven") << 1000 << 7;
+    QTest::newRow("nearly all") << 640 << 1;
+    QTest::newRow("one in hundreds") << 5003 << 400;
+}
+
+/// The nearest rows with a partner, however far, across words and at both ends.
+void tst_PlanParts::neighboursShowPlaces()
+{
+    QFETCH(const int, rows);
+    QFETCH(const int, of);
+    std::mt19937 random(3);
+    std::vector<int> partners;
+    for (int row = 0; row < rows; ++row) {
+        const bool isKnown = of == 1 ? random() % 20 != 0 : of > 0 && random() % unsigned(of) == 0;
+        partners.push_back(isKnown ? int(random() % 10'000) : -1);
+    }
+    const PlaceEvidence evidence(partners, 10'000);
+    for (int row = 0; row < rows; ++row) {
+        int above = row - 1;
+        while (above >= 0 && partners[size_t(above)] < 0)
+            --above;
+        int below = row + 1;
+        while (below < rows && partners[size_t(below)] < 0)
+            ++below;
+        const PlaceEvidence::Places places = evidence.places(row);
+        QCOMPARE(places.fromAbove, (above < 0 ? -1 : partners[size_t(above)]) + row - above);
+        QCOMPARE(places.fromBelow,
+                 (below == rows ? 10'000 : partners[size_t(below)]) - (below - row));
+    }
 }
 
 void tst_PlanParts::refilledBlockLeavesOthers()

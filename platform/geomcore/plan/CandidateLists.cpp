@@ -1,7 +1,5 @@
 #include "CandidateLists.h"
 
-#include "RowVotes.h"
-
 #include <core/parallel/WorkerPool.h>
 
 #include <algorithm>
@@ -20,6 +18,19 @@ static_assert(CandidateLists::MaxWalked <= RowVotes::MaxRows);
 /// say nothing, it must be ahead as well.
 constexpr double FarAhead = 10;
 constexpr double AheadBeyondKeys = 0;
+
+/// Whether as many rows as are taken are ahead of all that are not yet seen, however much these
+/// have of what is \a left. Asked before lists that are long for the rows that there are.
+bool hasEnough(const std::vector<RowVotes::Votes> &rows, double left, size_t listSize)
+{
+    if (rows.size() < size_t(CandidateLists::MaxRows) || listSize < rows.size())
+        return false;
+    // By a hair more, for sums of the same in another order.
+    const auto isAhead = [least = left * (1 + 1e-9)](const RowVotes::Votes &votes) {
+        return votes.all > least;
+    };
+    return std::ranges::count_if(rows, isAhead) >= CandidateLists::MaxRows;
+}
 
 } // namespace
 
@@ -101,7 +112,7 @@ void CandidateLists::findLists(size_t line, std::vector<List> &lists) const
         if (size == 0)
             return false;
         const double weight = weightOf(size);
-        lists.push_back({rows, size, weight, leads ? weight : 0, isKey, lists.size()});
+        lists.push_back({rows, size, weight, leads ? weight : 0, isKey, lists.size(), -1, 0});
         return true;
     };
     for (size_t place = 0; place < m_places.size(); ++place) {
@@ -111,6 +122,10 @@ void CandidateLists::findLists(size_t line, std::vector<List> &lists) const
         const Place &at = m_places[place];
         const bool isKey = m_target.keys[place] != 0;
         const bool isThere = add(at, size_t(value), isKey, true);
+        if (isThere) {
+            lists.back().variable = int(place);
+            lists.back().value = value;
+        }
         const CellValues &values = m_tables.values[size_t(m_target.variables[place])];
         for (const int token : values.value(value).distinct)
             add(at, at.values + size_t(token), isKey, !isThere);
@@ -126,6 +141,32 @@ double CandidateLists::weightOf(size_t size) const
                                     : std::log(double(m_target.openRows.size()) / double(size));
 }
 
+/// Of the rows that are there it is faster to ask for their values than to look for those of a long
+/// list among them.
+void CandidateLists::vote(const List &list, bool onlyThere, RowVotes &votes,
+                          RowVotes::Votes &best) const
+{
+    if (onlyThere && list.variable >= 0) {
+        const RowVotes::Votes *ahead = nullptr; // the first of the list, if several have as much
+        for (RowVotes::Votes &row : votes.rows()) {
+            if (m_target.rows.at(size_t(row.row), size_t(list.variable)) != list.value)
+                continue;
+            RowVotes::add(row, list.weight, list.lead, list.isKey);
+            if (!ahead || row.all > ahead->all || (row.all == ahead->all && row.row < ahead->row))
+                ahead = &row;
+        }
+        best = ahead && ahead->all > best.all ? *ahead : best;
+        return;
+    }
+    for (const int row : list.rows) {
+        const RowVotes::Votes *const now =
+            onlyThere ? votes.addTo(row, list.weight, list.lead, list.isKey)
+                      : &votes.add(row, list.weight, list.lead, list.isKey);
+        if (now && now->all > best.all)
+            best = *now;
+    }
+}
+
 CandidateLists::Found CandidateLists::find(size_t line) const
 {
     const size_t count = m_target.openRows.size();
@@ -135,18 +176,23 @@ CandidateLists::Found CandidateLists::find(size_t line) const
         std::iota(all.rows.begin(), all.rows.end(), 0);
         return all;
     }
-    thread_local std::vector<List> lists;
+    thread_local std::vector<List> keptLists; // of lines before, for its room
+    std::vector<List> &lists = keptLists;
     findLists(line, lists);
     // What lists that are not yet walked can still add.
     RowVotes::Votes left;
+    size_t walked = 0;
     for (const List &list : lists) {
+        walked += list.size;
+        left.all += walked <= MaxWalked ? list.weight : 0;
         left.lead += list.lead;
         left.beyondKeys += list.isKey ? 0 : list.lead;
     }
-    thread_local RowVotes votes;
+    thread_local RowVotes keptVotes;
+    RowVotes &votes = keptVotes;
     votes.clear();
     RowVotes::Votes best;
-    size_t walked = 0;
+    walked = 0;
     Found result;
     for (const List &list : lists) {
         result.isFarAhead =
@@ -154,13 +200,11 @@ CandidateLists::Found CandidateLists::find(size_t line) const
         if (result.isFarAhead || walked + list.size > MaxWalked)
             break;
         walked += list.size;
+        const bool onlyThere = hasEnough(votes.rows(), left.all, list.size);
+        left.all -= list.weight;
         left.lead -= list.lead;
         left.beyondKeys -= list.isKey ? 0 : list.lead;
-        for (const int row : list.rows) {
-            const RowVotes::Votes &now = votes.add(row, list.weight, list.lead, list.isKey);
-            if (now.all > best.all)
-                best = now;
-        }
+        vote(list, onlyThere, votes, best);
     }
     std::vector<RowVotes::Votes> &found = votes.rows();
     const auto isBetter = [](const RowVotes::Votes &a, const RowVotes::Votes &b) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "PlanTables.h"
+#include "RowVotes.h"
 
 #include <geomcore/VelkGeomCoreGlobal.h>
 
@@ -51,12 +52,17 @@ private:
         double weight = 0;
         double lead = 0; ///< The same, but 0 for tokens of a value that some row has as a whole.
         bool isKey = false;
-        size_t place = 0; ///< Among those of the line.
+        size_t place = 0;  ///< Among those of the line.
+        int variable = -1; ///< Place of the variable of whose value it is the list;
+        int value = 0;     ///< none if it is that of a token.
     };
     [[nodiscard]] double weightOf(size_t size) const;
     void fill(size_t place);
     /// From the rarest on.
     void findLists(size_t line, std::vector<List> &lists) const;
+    /// \a onlyThere: for rows that have votes already; others cannot come among those that are
+    /// taken.
+    void vote(const List &list, bool onlyThere, RowVotes &votes, RowVotes::Votes &best) const;
     template<class Take>
     void forEachList(size_t place, Take take) const;
 

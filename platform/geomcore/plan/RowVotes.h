@@ -23,15 +23,23 @@ public:
     /// At most MaxRows different rows until clear().
     Votes &add(int row, double weight, double lead, bool isKey)
     {
-        size_t slot = (size_t(row) * 0x9e3779b9U >> 7) % m_slots.size();
-        while (m_slots[slot] >= 0 && m_votes[size_t(m_slots[slot])].row != row)
-            slot = (slot + 1) % m_slots.size();
+        const size_t slot = slotOf(row);
         if (m_slots[slot] < 0) {
             m_slots[slot] = int(m_votes.size());
             m_used.push_back(slot);
             m_votes.push_back({row, 0, 0, 0});
         }
-        Votes &votes = m_votes[size_t(m_slots[slot])];
+        return add(m_votes[size_t(m_slots[slot])], weight, lead, isKey);
+    }
+    /// As above for a row that is there; else nothing happens. Null if so.
+    [[nodiscard]] const Votes *addTo(int row, double weight, double lead, bool isKey)
+    {
+        const size_t slot = slotOf(row);
+        return m_slots[slot] < 0 ? nullptr
+                                 : &add(m_votes[size_t(m_slots[slot])], weight, lead, isKey);
+    }
+    static Votes &add(Votes &votes, double weight, double lead, bool isKey)
+    {
         votes.all += weight;
         votes.lead += lead;
         votes.beyondKeys += isKey ? 0 : lead;
@@ -51,6 +59,13 @@ public:
     RowVotes() { m_slots.fill(-1); }
 
 private:
+    [[nodiscard]] size_t slotOf(int row) const
+    {
+        size_t slot = (size_t(row) * 0x9e3779b9U >> 7) % m_slots.size();
+        while (m_slots[slot] >= 0 && m_votes[size_t(m_slots[slot])].row != row)
+            slot = (slot + 1) % m_slots.size();
+        return slot;
+    }
     std::array<int, size_t(2 * MaxRows)> m_slots;
     std::vector<size_t> m_used;
     std::vector<Votes> m_votes;
