@@ -9,8 +9,6 @@ namespace Plan {
 
 namespace {
 
-/// So many numbers say as much about what is near as the distance alone.
-constexpr double FewNumbers = 8;
 /// A key is unique among more lines than those of a small table.
 constexpr int LinesOfKey = 100;
 /// Parts in which numbers are looked up.
@@ -69,6 +67,8 @@ void ColumnChance::finishNumbers(std::vector<std::pair<double, int>> counts)
         m_partBegins[partOf(m_numbers[i])] = int(i);
     for (size_t part = parts; part-- > 0;)
         m_partBegins[part] = std::min(m_partBegins[part], m_partBegins[part + 1]);
+    for (const int begin : m_partBegins)
+        m_partBelow.push_back(m_below[size_t(begin)]);
 }
 
 void ColumnChance::finishTokens(const std::vector<int> &counts)
@@ -115,24 +115,6 @@ double ColumnChance::nearShare(double number, double other) const
     // One of them is the other number itself, which counts half.
     const double seen = std::max(0.0, double(near) - 1) + 0.5;
     return (seen + FewNumbers * std::min(1.0, part)) / (double(numberCount()) + FewNumbers);
-}
-
-double ColumnChance::nearShareAtLeast(double number, double other) const
-{
-    const double distance = std::abs(other - number);
-    int near = 0;
-    if (!m_numbers.empty()) {
-        const auto first = size_t(m_partBegins[partOf(number - distance) + 1]);
-        const auto last = size_t(m_partBegins[partOf(number + distance)]);
-        near = last > first ? m_below[last] - m_below[first] : 0;
-    }
-    const double seen = std::max(0.0, double(near) - 1) + 0.5;
-    return seen / (double(numberCount()) + FewNumbers);
-}
-
-double ColumnChance::leastNearShare() const
-{
-    return 0.5 / (double(numberCount()) + FewNumbers);
 }
 
 } // namespace Plan

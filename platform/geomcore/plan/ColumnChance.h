@@ -3,6 +3,7 @@
 #include <geomcore/VelkGeomCoreGlobal.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
@@ -66,14 +67,26 @@ public:
     [[nodiscard]] double nearShare(double number, double other) const;
     /// At most nearShare(), and seldom much less; numbers are counted by parts, without looking one
     /// up.
-    [[nodiscard]] double nearShareAtLeast(double number, double other) const;
-    /// The least that nearShare() gives for any two numbers.
-    [[nodiscard]] double leastNearShare() const;
+    [[nodiscard]] double nearShareAtLeast(double number, double other) const
+    {
+        const double distance = std::abs(other - number);
+        int near = 0;
+        if (!m_numbers.empty()) {
+            const size_t first = partOf(number - distance) + 1;
+            const size_t last = partOf(number + distance);
+            near = last > first ? m_partBelow[last] - m_partBelow[first] : 0;
+        }
+        const double seen = std::max(0.0, double(near) - 1) + 0.5;
+        return seen / (double(numberCount()) + FewNumbers);
+    }
     [[nodiscard]] int numberCount() const { return m_below.back(); }
     /// About the logarithm of the greatest nearShare() divided by the least.
     [[nodiscard]] double nearSpan() const { return m_nearSpan; }
 
 private:
+    /// So many numbers say as much about what is near as the distance alone.
+    static constexpr double FewNumbers = 8;
+
     void finishNumbers(std::vector<std::pair<double, int>> counts);
     /// A part of the way from the least number to the greatest, with those beyond; where numbers
     /// are spread, few share one.
@@ -91,6 +104,7 @@ private:
     std::vector<TokenChance> m_tokenChances = std::vector<TokenChance>(1);
     std::vector<double> m_numbers; ///< Sorted, each once.
     std::vector<int> m_partBegins; ///< By partOf() its first number; at the end all.
+    std::vector<int> m_partBelow;  ///< By part: lines with a number of those before.
     double m_partsPerUnit = 0;
     std::vector<int> m_below{0}; ///< By number: lines with a smaller one; at the end all.
     double m_nearSpan = 0;

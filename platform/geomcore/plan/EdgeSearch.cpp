@@ -55,70 +55,86 @@ void EdgeSearch::Rows::keep(const EdgeLists &edges, size_t targets)
         rows.finish();
 }
 
-CandidateLists::Found EdgeSearch::lookedUp(size_t target, size_t line, bool isFound) const
+bool EdgeSearch::lookUp(size_t target, size_t line, bool isFound, std::vector<int> &rows) const
 {
-    if (!m_known.rows.lists.empty())
-        return m_known.rows.lists[target]->find(line);
-    const std::span<const int> kept = m_known.rows.kept[target].of(line);
-    return {{kept.begin(), kept.end()}, isFound};
+    if (m_known.rows.lists.empty()) {
+        const std::span<const int> kept = m_known.rows.kept[target].of(line);
+        rows.assign(kept.begin(), kept.end());
+        return isFound;
+    }
+    CandidateLists::Found found = m_known.rows.lists[target]->find(line);
+    rows = std::move(found.rows);
+    return found.isFarAhead;
 }
 
-void EdgeSearch::findCandidates(size_t line, bool isFound, std::vector<Candidate> &candidates) const
+void EdgeSearch::findCandidates(size_t line, bool isFound, Candidates &found) const
 {
-    candidates.clear();
-    const int sourceRow = m_known.tables.openLines[line];
+    found.all.clear();
+    found.parts.clear();
     for (size_t t = 0; t < m_known.tables.targets.size(); ++t) {
-        const PlanTarget &target = m_known.tables.targets[t];
-        if (!target.takes[line])
-            continue;
-        CandidateLists::Found found = lookedUp(t, line, isFound);
-        std::vector<int> &rows = found.rows;
-        const int around = found.isFarAhead ? 0 : AroundPlace;
-        const PlaceEvidence::Places at = m_known.places[t].places(sourceRow);
-        for (const int place : {at.fromAbove, at.fromBelow}) {
-            auto row =
-                std::lower_bound(target.openRows.begin(), target.openRows.end(), place - around);
-            for (; row != target.openRows.end() && *row <= place + around; ++row)
-                rows.push_back(int(row - target.openRows.begin()));
-        }
-        std::sort(rows.begin(), rows.end());
-        rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
-        const size_t others = candidates.size(); // of targets before
-        for (const int row : rows) {
-            Candidate candidate{{int(t), row, m_known.nodeOffsets[t] + row, 0, 0},
-                                m_known.priors[t]};
-            if (std::any_of(
-                    candidates.begin(), candidates.begin() + std::ptrdiff_t(others),
-                    [&](const Candidate &other) { return other.edge.node == candidate.edge.node; }))
-                continue;
-            candidate.rest += m_known.places[t].weight(sourceRow, target.openRows[size_t(row)]);
-            candidate.edge.weight =
-                candidate.rest +
-                m_known.evidence.atMost(target, line, size_t(row), m_known.withKeys);
-            candidates.push_back(candidate);
-        }
+        if (m_known.tables.targets[t].takes[line])
+            addRows(t, line, isFound, found);
+    }
+}
+
+void EdgeSearch::addRows(size_t t, size_t line, bool isFound, Candidates &found) const
+{
+    const PlanTarget &target = m_known.tables.targets[t];
+    const PlaceEvidence &place = m_known.places[t];
+    const int sourceRow = m_known.tables.openLines[line];
+    std::vector<int> &rows = found.rows;
+    const bool isFarAhead = lookUp(t, line, isFound, rows);
+    const int around = isFarAhead ? 0 : AroundPlace;
+    const PlaceEvidence::Places at = place.places(sourceRow);
+    for (const int suggested : {at.fromAbove, at.fromBelow}) {
+        auto row =
+            std::lower_bound(target.openRows.begin(), target.openRows.end(), suggested - around);
+        for (; row != target.openRows.end() && *row <= suggested + around; ++row)
+            rows.push_back(int(row - target.openRows.begin()));
+    }
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    const int firstNode = m_known.nodeOffsets[t];
+    std::erase_if(rows, [&](int row) { // another target of the same table has it already
+        return std::ranges::any_of(found.all, [node = firstNode + row](const Candidate &other) {
+            return other.edge.node == node;
+        });
+    });
+    size_t part = found.parts.size();
+    found.most.clear();
+    m_known.evidence.bound(target, line, rows, m_known.withKeys, found.parts, found.most);
+    for (size_t i = 0; i < rows.size(); ++i) {
+        const int row = rows[i];
+        const double rest =
+            m_known.priors[t] + place.weight(sourceRow, target.openRows[size_t(row)]);
+        found.all.push_back({{int(t), row, firstNode + row, rest + found.most[i], 0}, rest, part});
+        part += target.variables.size();
     }
 }
 
 /// In the order of what they weigh at most, so that most are seen to be far behind by that alone.
 void EdgeSearch::find(size_t line, bool isFound, EdgeLists::Block &out) const
 {
-    thread_local std::vector<Candidate> candidates;
-    findCandidates(line, isFound, candidates);
-    std::sort(candidates.begin(), candidates.end(),
+    thread_local Candidates kept; // of lines before, for its room
+    Candidates &found = kept;
+    findCandidates(line, isFound, found);
+    std::sort(found.all.begin(), found.all.end(),
               [](const Candidate &a, const Candidate &b) { return isBefore(a.edge, b.edge); });
-    thread_local std::vector<PlanEdge> edges;
+    thread_local std::vector<PlanEdge> keptEdges;
+    std::vector<PlanEdge> &edges = keptEdges;
     edges.clear();
     double least = m_known.keepsBest ? -std::numeric_limits<double>::infinity() : -FarBehind;
-    for (const Candidate &candidate : candidates) {
+    for (const Candidate &candidate : found.all) {
         PlanEdge edge = candidate.edge;
         if (edge.weight < least)
             break;
+        const PlanTarget &target = m_known.tables.targets[size_t(edge.target)];
+        const std::span parts =
+            std::span(found.parts).subspan(candidate.firstPart, target.variables.size());
         edge.weight =
-            candidate.rest + m_known.evidence.weight(m_known.tables.targets[size_t(edge.target)],
-                                                     line, size_t(edge.row),
+            candidate.rest + m_known.evidence.weight(target, line, size_t(edge.row),
                                                      ownWeight(m_known.learned, line, edge.node),
-                                                     m_known.withKeys, least - candidate.rest);
+                                                     parts, least - candidate.rest);
         if (edge.weight < least)
             continue;
         edges.insert(std::upper_bound(edges.begin(), edges.end(), edge, isBefore), edge);

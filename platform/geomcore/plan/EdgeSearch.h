@@ -60,10 +60,22 @@ private:
     {
         PlanEdge edge;
         double rest = 0;
+        size_t firstPart = 0; ///< Of what its variables give at most.
+    };
+    /// Those of a line, the rows of one target after those of another.
+    struct Candidates
+    {
+        std::vector<Candidate> all;
+        std::vector<PairEvidence::Part> parts;
+        std::vector<int> rows;    ///< Of the target that is looked at,
+        std::vector<double> most; ///< and what their variables give at most.
     };
     /// The rows to look at, each once.
-    void findCandidates(size_t line, bool isFound, std::vector<Candidate> &candidates) const;
-    [[nodiscard]] CandidateLists::Found lookedUp(size_t target, size_t line, bool isFound) const;
+    void findCandidates(size_t line, bool isFound, Candidates &found) const;
+    void addRows(size_t target, size_t line, bool isFound, Candidates &found) const;
+    /// Rows that have something in common with the line; true if one is far ahead of all others.
+    [[nodiscard]] bool lookUp(size_t target, size_t line, bool isFound,
+                              std::vector<int> &rows) const;
 
     const Known m_known;
 };

@@ -5,6 +5,7 @@
 #include <bit>
 #include <cmath>
 #include <numbers>
+#include <optional>
 
 namespace Plan {
 
@@ -64,7 +65,6 @@ PairEvidence::PlaceWeights PairEvidence::weightsOf(const PlanTarget &target, siz
     weights.without = std::log((1 - rates.gained) / missing);
     weights.bothThere = std::log((1 - rates.lost) / (1 - missing));
     weights.change = rates.way(Way::Change) * m_changes.mostLikely(target.variables[place]);
-    weights.near = rates.way(Way::Near) / (chance.leastNearShare() * chance.nearSpan());
     // Few lines look at few rows.
     const bool isMany = target.openRows.size() > CountsKept;
     for (size_t count = 0; isMany && count < CountsKept; ++count)
@@ -74,45 +74,78 @@ PairEvidence::PlaceWeights PairEvidence::weightsOf(const PlanTarget &target, siz
     return weights;
 }
 
-PairEvidence::Part PairEvidence::atMost(const PlanTarget &target, size_t place, int oldValue,
-                                        int newValue, Bound bound) const
+void PairEvidence::bound(const PlanTarget &target, size_t line, std::span<const int> rows,
+                         bool withKeys, std::vector<Part> &parts, std::vector<double> &sums) const
 {
-    const PlaceWeights &at = weights(target, place);
-    if (oldValue == CellValues::NoValue)
-        return {newValue == CellValues::NoValue ? at.without : at.gained, Part::Known, false};
-    if (newValue == CellValues::NoValue)
-        return {at.lost, Part::Known, false};
-    const int variable = target.variables[place];
-    const VariableRates &rates = m_rates[size_t(variable)];
-    const double share = target.chances[place].share(newValue);
-    const double other = rates.way(Way::Other);
-    if (oldValue == newValue) {
-        const double same = rates.way(Way::Same) / share;
-        return {logAtMost(same + other) + at.bothThere, Part::Same, same > other};
+    const size_t count = target.variables.size();
+    const size_t before = parts.size();
+    parts.resize(before + rows.size() * count);
+    const std::span<Part> added = std::span(parts).subspan(before);
+    for (size_t place = 0; place < count && !rows.empty(); ++place) {
+        if (!withKeys && target.keys[place])
+            continue;
+        const int oldValue = target.lines.at(line, place);
+        if (oldValue != CellValues::NoValue) {
+            boundPlace(target, place, oldValue, rows, added.subspan(place));
+            continue;
+        }
+        const PlaceWeights &at = weights(target, place);
+        for (size_t i = 0; i < rows.size(); ++i) {
+            const bool without = target.rows.at(size_t(rows[i]), place) == CellValues::NoValue;
+            added[i * count + place].weight = without ? at.without : at.gained;
+        }
     }
-    const CellValues &values = m_tables.values[size_t(variable)];
-    double ratio = other + at.change / share;
-    if (values.isNumber(oldValue) && values.isNumber(newValue))
-        ratio += bound == Bound::Rough
-                     ? at.near
-                     : rates.way(Way::Near) *
-                           nearRatioAtMost(values, target.chances[place], oldValue, newValue);
-    else if (bound == Bound::Rough ||
-             haveCommon(values.value(oldValue).distinct, values.value(newValue).distinct))
-        ratio += rates.way(Way::Alike) / share;
-    return {logAtMost(ratio) + at.bothThere, Part::Differs, false};
+    for (size_t i = 0; i < rows.size(); ++i) {
+        double sum = 0;
+        for (const Part &part : added.subspan(i * count, count))
+            sum += part.weight;
+        sums.push_back(sum);
+    }
 }
 
-double PairEvidence::atMost(const PlanTarget &target, size_t line, size_t row, bool withKeys) const
+void PairEvidence::boundPlace(const PlanTarget &target, size_t place, int oldValue,
+                              std::span<const int> rows, std::span<Part> parts) const
 {
-    double sum = 0;
-    for (size_t place = 0; place < target.variables.size(); ++place) {
-        if (withKeys || !target.keys[place])
-            sum += atMost(target, place, target.lines.at(line, place), target.rows.at(row, place),
-                          Bound::Rough)
-                       .weight;
+    const PlaceWeights &at = weights(target, place);
+    const ColumnChance &chance = target.chances[place];
+    const CellValues &values = m_tables.values[size_t(target.variables[place])];
+    const VariableRates &rates = m_rates[size_t(target.variables[place])];
+    const bool isNumber = values.isNumber(oldValue);
+    const double number = isNumber ? values.numberOf(oldValue) : 0;
+    const CellValues::Value old = values.value(oldValue);
+    std::optional<Part> equal; // the same for all rows
+    const double nearest = rates.way(Way::Near) / chance.nearSpan();
+    for (size_t i = 0; i < rows.size(); ++i) {
+        Part &part = parts[i * target.variables.size()];
+        const int newValue = target.rows.at(size_t(rows[i]), place);
+        if (newValue == CellValues::NoValue) {
+            part.weight = at.lost;
+            continue;
+        }
+        if (newValue == oldValue) {
+            if (!equal)
+                equal = same(target, place, newValue);
+            part = *equal;
+            continue;
+        }
+        double ratio = rates.way(Way::Other);
+        if (at.change > 0)
+            ratio += at.change / chance.share(newValue);
+        if (isNumber && values.isNumber(newValue)) {
+            const double other = values.numberOf(newValue);
+            ratio += number * other > 0 ? nearest / chance.nearShareAtLeast(number, other) : 0;
+        } else if (haveCommon(old.distinct, values.value(newValue).distinct)) {
+            ratio += rates.way(Way::Alike) / chance.share(newValue);
+        }
+        part = {logAtMost(ratio) + at.bothThere, false, false};
     }
-    return sum;
+}
+
+PairEvidence::Part PairEvidence::same(const PlanTarget &target, size_t place, int value) const
+{
+    const VariableRates &rates = m_rates[size_t(target.variables[place])];
+    const double ratio = rates.way(Way::Same) / target.chances[place].share(value);
+    return {sameWeight(target, place, value), true, ratio > rates.way(Way::Other)};
 }
 
 double PairEvidence::nearRatio(const CellValues &values, const ColumnChance &chance, int oldValue,
@@ -126,15 +159,6 @@ double PairEvidence::nearRatio(const CellValues &values, const ColumnChance &cha
         return 0;
     // The share of numbers as near by chance is even in 0 to 1; between partners its logarithm is.
     return 1 / (chance.nearShare(a, b) * chance.nearSpan());
-}
-
-/// Of two numbers.
-double PairEvidence::nearRatioAtMost(const CellValues &values, const ColumnChance &chance,
-                                     int oldValue, int newValue) const
-{
-    const double a = values.numberOf(oldValue);
-    const double b = values.numberOf(newValue);
-    return a * b > 0 ? 1 / (chance.nearShareAtLeast(a, b) * chance.nearSpan()) : 0;
 }
 
 double PairEvidence::alikeRatio(const CellValues &values, const ColumnChance &chance,
@@ -239,29 +263,20 @@ CellEvidence PairEvidence::cell(const PlanTarget &target, size_t line, size_t ro
 }
 
 double PairEvidence::weight(const PlanTarget &target, size_t line, size_t row, double own,
-                            bool withKeys, double least) const
+                            std::span<Part> parts, double least) const
 {
-    // By place, first what it gives at most, then what it gives.
-    thread_local std::vector<Part> parts;
-    parts.assign(target.variables.size(), {});
     double most = 0;
     bool hasCommon = false;
-    for (size_t place = 0; place < parts.size(); ++place) {
-        if (!withKeys && target.keys[place])
-            continue;
-        parts[place] = atMost(target, place, target.lines.at(line, place),
-                              target.rows.at(row, place), Bound::Close);
-        if (parts[place].kind == Part::Same)
-            parts[place].weight = sameWeight(target, place, target.rows.at(row, place));
-        most += parts[place].weight;
-        hasCommon = hasCommon || parts[place].isCommon;
+    for (const Part &part : parts) {
+        most += part.weight;
+        hasCommon = hasCommon || part.isCommon;
     }
     // Those first that may give most: it takes few of them to see that a row is no candidate.
     double nearest = 0;
     while (most >= least) {
         size_t loosest = parts.size();
         for (size_t place = 0; place < parts.size(); ++place) {
-            if (parts[place].kind == Part::Differs &&
+            if (!parts[place].isKnown &&
                 (loosest == parts.size() || parts[place].weight > parts[loosest].weight))
                 loosest = place;
         }
@@ -272,7 +287,7 @@ double PairEvidence::weight(const PlanTarget &target, size_t line, size_t row, d
                                      target.rows.at(row, loosest), own, evidence);
         const double weight = std::log(ratio) + weights(target, loosest).bothThere;
         most += weight - parts[loosest].weight;
-        parts[loosest] = {weight, Part::Known, false};
+        parts[loosest] = {weight, true, false};
         const auto &ways = evidence.ways;
         hasCommon =
             hasCommon || ways[int(Way::Change)] / ratio + ways[int(Way::Alike)] / ratio > 0.5;

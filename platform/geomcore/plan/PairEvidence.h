@@ -7,7 +7,7 @@
 
 #include <geomcore/VelkGeomCoreGlobal.h>
 
-#include <cstdint>
+#include <span>
 #include <vector>
 
 namespace Plan {
@@ -32,14 +32,24 @@ public:
     /// \a own is what the pair itself has added to the changes.
     [[nodiscard]] CellEvidence cell(const PlanTarget &target, size_t line, size_t row, size_t place,
                                     double own) const;
-    /// Sum of the weights over all variables, or over those that are no keys. If it is sure to be
-    /// less than \a least, something less than that is the answer: most rows differ in so much that
-    /// a few variables are enough to tell.
+    /// What a variable gives in a pair, as far as it is known.
+    struct Part
+    {
+        double weight = 0;
+        bool isKnown = true;   ///< Else two values differ, and this is the most that they give.
+        bool isCommon = false; ///< They are the same, and that hardly happens by chance.
+    };
+    /// Appends those of a line and some rows, row by row in the order of the target's variables,
+    /// and to \a sums what each row gives at most. What is left out, as keys are without \a
+    /// withKeys, gives nothing. Looks at the rows variable by variable: values are far from each
+    /// other.
+    void bound(const PlanTarget &target, size_t line, std::span<const int> rows, bool withKeys,
+               std::vector<Part> &parts, std::vector<double> &sums) const;
+    /// Sum of the weights of all \a parts, which were bounded. If it is sure to be less than \a
+    /// least, something less than that is the answer: most rows differ in so much that a few
+    /// variables are enough to tell.
     [[nodiscard]] double weight(const PlanTarget &target, size_t line, size_t row, double own,
-                                bool withKeys, double least) const;
-    /// At least what weight() gives, from what is the same alone.
-    [[nodiscard]] double atMost(const PlanTarget &target, size_t line, size_t row,
-                                bool withKeys) const;
+                                std::span<Part> parts, double least) const;
     /// Adds what the pair shows of the rates of the variable in this place, with its probability.
     void count(const PlanTarget &target, size_t place, const PlanEdge &edge, size_t line,
                double own, RateCounts &seen) const;
@@ -50,7 +60,7 @@ public:
 
 private:
     /// What cell() gives where no two values are to be compared, and the most that two different
-    /// ones give as a change and as numbers.
+    /// ones give as a change.
     struct PlaceWeights
     {
         double gained = 0;
@@ -58,7 +68,6 @@ private:
         double without = 0;
         double bothThere = 0;
         double change = 0; ///< To be divided by the share of the new value.
-        double near = 0;
         std::vector<double>
             same; ///< For the same value, by how many lines have it, if they are few.
     };
@@ -72,26 +81,16 @@ private:
     /// together than by chance; the sum.
     double compare(const PlanTarget &target, size_t place, int oldValue, int newValue, double own,
                    CellEvidence &evidence) const;
-    struct Part
-    {
-        enum Kind { Known, Same, Differs }; ///< The weight is at least what it is but for Known.
-        double weight = 0;
-        Kind kind = Known;
-        bool isCommon = false; ///< It is the same, and that hardly happens by chance.
-    };
-    /// How close to what cell() gives.
-    enum class Bound : std::uint8_t { Rough, Close };
-    /// What cell() gives, or gives at most, without comparing.
-    [[nodiscard]] Part atMost(const PlanTarget &target, size_t place, int oldValue, int newValue,
-                              Bound bound) const;
+    /// Of the rows in one variable, which has a value in the line.
+    void boundPlace(const PlanTarget &target, size_t place, int oldValue, std::span<const int> rows,
+                    std::span<Part> parts) const;
+    [[nodiscard]] Part same(const PlanTarget &target, size_t place, int value) const;
     [[nodiscard]] double alikeRatio(const CellValues &values, const ColumnChance &chance,
                                     const VariableRates &rates, int oldValue, int newValue) const;
     void countTokens(const CellValues &values, const ColumnChance &chance, int oldValue,
                      int newValue, double weight, RateCounts &seen) const;
     [[nodiscard]] double nearRatio(const CellValues &values, const ColumnChance &chance,
                                    int oldValue, int newValue) const;
-    [[nodiscard]] double nearRatioAtMost(const CellValues &values, const ColumnChance &chance,
-                                         int oldValue, int newValue) const;
 
     const PlanTables &m_tables;
     const std::vector<VariableRates> &m_rates;
