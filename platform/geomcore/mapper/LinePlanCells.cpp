@@ -18,7 +18,7 @@ namespace {
 /// Rows of a target's table from which it is learned how often values occur.
 constexpr int MaxSampled = 20'000;
 /// So many open lines and rows are many: their variables are numbered in two passes.
-constexpr size_t ManyLines = 20'000;
+constexpr size_t ManyLines = 100'000;
 
 static_assert(MaxSampled <= Plan::ColumnChance::MaxLines);
 
