@@ -17,8 +17,9 @@ namespace {
 
 /// Rows of a target's table from which it is learned how often values occur.
 constexpr int MaxSampled = 20'000;
-/// So many open lines and rows are many: their variables are numbered in two passes.
-constexpr size_t ManyLines = 100'000;
+/// So many open lines and rows are many: their variables are numbered in two passes, unless they
+/// are a small part of the tables.
+constexpr size_t ManyLines = 20'000;
 
 static_assert(MaxSampled <= Plan::ColumnChance::MaxLines);
 
@@ -62,14 +63,18 @@ void LinePlan::takeLearned(const LearnedValues &learned, const QString &name, in
 }
 
 /// Numbering the values of a variable takes several times the room that these take once they are
-/// numbered, so that it is not done for all variables of a large table at once.
+/// numbered, so that it is not done for all variables at once where most of a large table is open.
 int LinePlan::variablesAtOnce() const
 {
     size_t lines = m_tables.openLines.size();
-    for (const Plan::PlanTarget &target : m_tables.targets)
+    auto all = size_t(m_tables.sourceRows);
+    for (const Plan::PlanTarget &target : m_tables.targets) {
         lines += target.openRows.size();
-    const int all = m_tables.variableCount;
-    return std::max(1, lines < ManyLines ? all : (all + 1) / 2);
+        all += size_t(target.rowCount);
+    }
+    const int variables = m_tables.variableCount;
+    const bool isMuch = lines >= ManyLines && lines > all / 4;
+    return std::max(1, isMuch ? (variables + 1) / 2 : variables);
 }
 
 void LinePlan::fillTargets(const LearnedValues &learned)
