@@ -93,6 +93,7 @@ private Q_SLOTS:
     void tokensOfNumbersAreShared();
     void frequentValuesCount();
     void longListsAddNothingNew();
+    void rowsFarBehindAreLeftOut();
     void neighboursShowPlaces_data();
     void neighboursShowPlaces();
     void refilledBlockLeavesOthers();
@@ -271,6 +272,36 @@ void tst_PlanParts::longListsAddNothingNew()
     tables.targets.push_back(std::move(target));
     const CandidateLists candidates(tables, tables.targets.front());
     QCOMPARE(candidates.find(0).rows, rows);
+}
+
+/// A row that has nearly all in common with a line leaves those that have one value without a
+/// chance.
+void tst_PlanParts::rowsFarBehindAreLeftOut()
+{
+    constexpr size_t Rows = 9000;
+    constexpr size_t Variables = 5;
+    PlanTables tables;
+    tables.variableCount = int(Variables);
+    tables.values.resize(Variables);
+    PlanTarget target;
+    target.lines = CellMatrix(1, Variables);
+    target.rows = CellMatrix(Rows, Variables);
+    target.keys.assign(Variables, 0);
+    for (size_t v = 0; v < Variables; ++v) {
+        target.variables.push_back(int(v));
+        for (size_t row = 0; row < Rows; ++row) {
+            // Of the first variable two rows have a value, of each other three, and never the same.
+            const size_t number = v == 0 ? row / 2 : row % (Rows / 3 - v);
+            target.rows.set(row, v, tables.values[v].number(std::to_string(number), '.'));
+        }
+        target.lines.set(0, v, target.rows.at(1700, v));
+    }
+    for (size_t row = 0; row < Rows; ++row)
+        target.openRows.push_back(int(row));
+    tables.targets.push_back(std::move(target));
+    const CandidateLists::Found found = CandidateLists(tables, tables.targets.front()).find(0);
+    QVERIFY(found.isFarAhead);
+    QCOMPARE(found.rows, std::vector<int>{1700});
 }
 
 void tst_PlanParts::neighboursShowPlaces_data()

@@ -207,6 +207,11 @@ CandidateLists::Found CandidateLists::find(size_t line) const
         vote(list, onlyThere, votes, best);
     }
     std::vector<RowVotes::Votes> &found = votes.rows();
+    if (result.isFarAhead) // of those that are seen as well
+        std::erase_if(found, [&](const RowVotes::Votes &row) {
+            return best.lead - row.lead - left.lead > FarAhead &&
+                   best.beyondKeys - row.beyondKeys - left.beyondKeys > AheadBeyondKeys;
+        });
     const auto isBetter = [](const RowVotes::Votes &a, const RowVotes::Votes &b) {
         return a.all != b.all ? a.all > b.all : a.row < b.row;
     };

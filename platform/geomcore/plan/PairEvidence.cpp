@@ -12,7 +12,7 @@ namespace Plan {
 namespace {
 
 /// Values that so many lines have are looked up, and not worked out each time.
-constexpr size_t CountsKept = 64;
+constexpr size_t CountsKept = 2048;
 
 /// Of sorted numbers.
 bool haveCommon(std::span<const int> a, std::span<const int> b)
@@ -66,8 +66,8 @@ PairEvidence::PlaceWeights PairEvidence::weightsOf(const PlanTarget &target, siz
     weights.bothThere = std::log((1 - rates.lost) / (1 - missing));
     weights.change = rates.way(Way::Change) * m_changes.mostLikely(target.variables[place]);
     // Few lines look at few rows.
-    const bool isMany = target.openRows.size() > CountsKept;
-    for (size_t count = 0; isMany && count < CountsKept; ++count)
+    const size_t kept = std::min(CountsKept, target.openRows.size() / 8);
+    for (size_t count = 0; count < kept; ++count)
         weights.same.push_back(
             std::log(rates.way(Way::Same) / chance.shareOf(int(count)) + rates.way(Way::Other)) +
             weights.bothThere);
@@ -81,6 +81,7 @@ void PairEvidence::bound(const PlanTarget &target, size_t line, std::span<const 
     const size_t before = parts.size();
     parts.resize(before + rows.size() * count);
     const std::span<Part> added = std::span(parts).subspan(before);
+    fetch(target, rows);
     for (size_t place = 0; place < count && !rows.empty(); ++place) {
         if (!withKeys && target.keys[place])
             continue;
@@ -100,6 +101,18 @@ void PairEvidence::bound(const PlanTarget &target, size_t line, std::span<const 
         for (const Part &part : added.subspan(i * count, count))
             sum += part.weight;
         sums.push_back(sum);
+    }
+}
+
+/// Values of many lines are far from each other: all that are asked for are fetched at once.
+void PairEvidence::fetch(const PlanTarget &target, std::span<const int> rows) const
+{
+    for (const int row : rows) {
+        for (size_t place = 0; place < target.variables.size(); ++place) {
+            const int value = target.rows.at(size_t(row), place);
+            m_tables.values[size_t(target.variables[place])].fetch(value);
+            target.chances[place].fetch(value);
+        }
     }
 }
 

@@ -81,6 +81,7 @@ private:
     /// together than by chance; the sum.
     double compare(const PlanTarget &target, size_t place, int oldValue, int newValue, double own,
                    CellEvidence &evidence) const;
+    void fetch(const PlanTarget &target, std::span<const int> rows) const;
     /// Of the rows in one variable, which has a value in the line.
     void boundPlace(const PlanTarget &target, size_t place, int oldValue, std::span<const int> rows,
                     std::span<Part> parts) const;
