@@ -81,6 +81,26 @@ private Q_SLOTS:
         QVERIFY(dialog.height() > dialog.screen()->availableSize().height() / 2);
     }
 
+    /// As high as the screen, or over a window at its upper edge.
+    void titlesAreInSight()
+    {
+        const PApplication host{PRefPtr<PConfig>()};
+        QWidget parent;
+        const QRect screen = parent.screen()->availableGeometry();
+        for (const int height : {screen.height() - 60, 300}) {
+            parent.setGeometry(screen.x(), screen.y(), 600, 120);
+            parent.show();
+            QDialog dialog(&parent);
+            dialog.setObjectName("dialog");
+            dialog.resize(400, height);
+            PApplication::setupWindow(&dialog);
+            dialog.show();
+            QVERIFY2(dialog.y() >= screen.y() + 30, qPrintable(QString::number(dialog.y())));
+            QVERIFY(dialog.geometry().bottom() <= screen.bottom());
+            QCOMPARE(dialog.height(), height);
+        }
+    }
+
     void textsOfAnotherLanguageHaveRoom()
     {
         const QTemporaryDir dir;

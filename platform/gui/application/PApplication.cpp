@@ -3,12 +3,14 @@
 #include <core/message/PMessage.h>
 
 #include <QDir>
+#include <QEvent>
 #include <QFile>
 #include <QLayout>
 #include <QScreen>
 #include <QUiLoader>
 #include <QWidget>
 
+#include <algorithm>
 #include <memory>
 
 namespace {
@@ -39,6 +41,33 @@ void logForm(const QString &form, const QString &cause)
         PString::translate("Die Maske %1 kann nicht geladen werden: %2", "VelkGui")
             .arg(form, cause));
 }
+
+constexpr int titleHeight = 40; ///< of a window, about: it is not known before it is shown
+
+/// A dialog that is about as high as the screen has its title above it where Qt puts it over the
+/// middle of its parent, for that knows nothing of titles.
+class TitleInSight : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        auto *const window = qobject_cast<QWidget *>(object);
+        if (event->type() != QEvent::Show || event->spontaneous() || !window->parentWidget() ||
+            window->testAttribute(Qt::WA_Moved))
+            return false;
+        const QRect screen = window->screen()->availableGeometry();
+        const QRect over = window->parentWidget()->window()->frameGeometry();
+        const QSize size = window->size();
+        const int top = over.center().y() - size.height() / 2 - titleHeight;
+        if (top < screen.top() + titleHeight)
+            window->move(std::clamp(over.center().x() - size.width() / 2, screen.left(),
+                                    std::max(screen.left(), screen.right() - size.width())),
+                         screen.top() + titleHeight);
+        return false;
+    }
+};
 
 } // namespace
 
@@ -95,9 +124,9 @@ void PApplication::setupWindow(QWidget *window)
             window->resize(
                 window->size().expandedTo({0, layout->totalHeightForWidth(window->width())}));
     } else {
-        constexpr int Title = 40; // needs room too
         window->resize(
-            window->size().boundedTo(window->screen()->availableSize() - QSize(0, Title)));
+            window->size().boundedTo(window->screen()->availableSize() - QSize(0, titleHeight)));
+        window->installEventFilter(new TitleInSight(window));
     }
     if (window->metaObject()->indexOfMethod("restoreState(QByteArray)") < 0)
         return;
