@@ -7,6 +7,17 @@ class tst_countText : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void shares()
+    {
+        const QLocale german(QLocale::German);
+        QCOMPARE(percentText(1, german), "100 %");
+        QCOMPARE(percentText(0.9999, german), "99 %");
+        QCOMPARE(percentText(0.07, QLocale::c()), "7 %");
+        QCOMPARE(boundText(0.0495, german), "5,0");
+        QCOMPARE(boundText(0.04901, QLocale::c()), "5.0");
+        QCOMPARE(boundText(0.049, QLocale::c()), "4.9");
+    }
+
     void groupsDigits_data()
     {
         QTest::addColumn<QLocale>("locale");

@@ -50,10 +50,10 @@ private Q_SLOTS:
         HtmlPage page({});
         page.begin({}, {});
         page.beginTable();
-        page.beginRow();
+        page.beginHead();
         page.heads({"<a>"});
         page.numberHeads({"<n>"});
-        page.endRow();
+        page.endHead();
         page.rows(1, 2, [&](std::size_t) {
             page.cell("<b>");
             page.number(7);
@@ -63,8 +63,8 @@ private Q_SLOTS:
         page.endTable();
         QCOMPARE(bodyOf(page),
                  QString("<table border=\"1\" cellspacing=\"0\" cellpadding=\"3\">\n"
-                         "<tr><th align=\"left\">&lt;a&gt;</th>"
-                         "<th class=\"n\" align=\"right\">&lt;n&gt;</th></tr>\n"
+                         "<thead><tr><th align=\"left\">&lt;a&gt;</th>"
+                         "<th class=\"n\" align=\"right\">&lt;n&gt;</th></tr></thead>\n"
                          "<tr><td>&lt;b&gt;</td><td class=\"n\" align=\"right\">7</td>"
                          "<td class=\"n\" align=\"right\">&lt;8&gt;</td>"
                          "<td colspan=\"2\"></td></tr>\n</table>\n"));

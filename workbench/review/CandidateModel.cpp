@@ -2,6 +2,8 @@
 
 #include "PatternText.h"
 
+#include <core/text/countText.h>
+
 #include <QFont>
 
 CandidateModel::CandidateModel(QObject *parent)
@@ -42,7 +44,7 @@ QString CandidateModel::text(int row, int column) const
     if (row == m_candidates.candidates.size()) {
         switch (column) {
         case Probability:
-            return PatternText::percent(m_candidates.noSuccessor);
+            return percentText(m_candidates.noSuccessor);
         case Line:
             return tr("kein Nachfolger");
         default:
@@ -54,7 +56,7 @@ QString CandidateModel::text(int row, int column) const
     case Key:
         return QString::number(row + 1);
     case Probability:
-        return PatternText::percent(candidate.probability);
+        return percentText(candidate.probability);
     case Line:
         return candidate.targetPath.section(u'/', -1) + u':' +
                QString::number(candidate.lineId.value(0));

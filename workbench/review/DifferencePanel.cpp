@@ -90,8 +90,7 @@ void DifferencePanel::show(const LineExplanation &explanation)
     if (!assigned)
         head += tr("Ohne Ziel. %1").arg(explanation.candidates.explanation);
     else if (assigned->probability > 0)
-        head +=
-            PatternText::percent(assigned->probability) + QStringLiteral(": ") + assigned->reason;
+        head += percentText(assigned->probability) + QStringLiteral(": ") + assigned->reason;
     else if (candidates.isEmpty())
         head += explanation.isConfirmed ? tr("Bestätigt.") : tr("Sicher zugeordnet.");
     else

@@ -121,7 +121,7 @@ QString PatternModel::text(const Row &row, int column) const
 {
     if (column == Changes)
         return PatternText::of(*m_patterns, row.pattern);
-    return column == Probability ? PatternText::percent(row.probability)
+    return column == Probability ? percentText(row.probability)
                                  : countText(value(row, column).toInt());
 }
 

@@ -3,8 +3,6 @@
 #include <QCoreApplication>
 #include <QStringList>
 
-#include <cmath>
-
 namespace PatternText {
 
 VelkRelease::ValueChange::Words words()
@@ -62,11 +60,6 @@ QString of(const AgreedReplacement &replacement)
     change.factor = replacement.isNumeric() ? replacement.factor.toDouble() : 1;
     change.offset = replacement.offset.toDouble();
     return change.text(words());
-}
-
-QString percent(double share)
-{
-    return QString::number(int(std::floor(share * 100 + 1e-9))) + QStringLiteral(" %");
 }
 
 } // namespace PatternText

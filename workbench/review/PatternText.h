@@ -15,7 +15,5 @@ namespace PatternText {
 [[nodiscard]] VelkRelease::ValueChange::Words words();
 /// What lines without a successor have in common.
 [[nodiscard]] VelkRelease::GoneGroup::Words goneWords();
-/// "93 %"; never 100 % for less.
-[[nodiscard]] QString percent(double share);
 
 } // namespace PatternText

@@ -104,6 +104,7 @@ VelkRelease::ReportForm form(const QLocale &locale)
     form.number = [locale](int count) {
         return countText(count, locale);
     };
+    form.locale = locale;
     form.language = locale.bcp47Name();
     return form;
 }

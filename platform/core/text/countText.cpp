@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QMutex>
 
+#include <cmath>
 #include <map>
 
 namespace {
@@ -28,6 +29,16 @@ QString sourceForm(const char *text, const char *context, int count)
 QString countText(qint64 count, const QLocale &locale)
 {
     return locale.toString(count);
+}
+
+QString percentText(double share, const QLocale &locale)
+{
+    return locale.toString(int(std::floor(share * 100 + 1e-9))) + QStringLiteral(" %");
+}
+
+QString boundText(double share, const QLocale &locale)
+{
+    return locale.toString(std::ceil(share * 1000) / 10, 'f', 1);
 }
 
 QString translateCount(const char *text, const char *context, int count)

@@ -74,6 +74,17 @@ void HtmlPage::endTable()
     m_html += QStringLiteral("</table>\n");
 }
 
+void HtmlPage::beginHead()
+{
+    m_html += QStringLiteral("<thead>");
+    beginRow();
+}
+
+void HtmlPage::endHead()
+{
+    m_html += QStringLiteral("</tr></thead>\n");
+}
+
 void HtmlPage::beginRow()
 {
     m_html += QStringLiteral("<tr>");

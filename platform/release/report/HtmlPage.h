@@ -40,6 +40,9 @@ public:
 
     void beginTable();
     void endTable();
+    /// A row of heads, which stands on each page that the table goes on to.
+    void beginHead();
+    void endHead();
     void beginRow();
     void endRow();
     void heads(const QStringList &texts);

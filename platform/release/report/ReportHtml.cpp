@@ -2,7 +2,7 @@
 
 #include "HtmlPage.h"
 
-#include <cmath>
+#include <core/text/countText.h>
 
 namespace VelkRelease {
 
@@ -85,11 +85,11 @@ void HtmlWriter::beginSection(ReportText head, const QList<ReportText> &columns,
 {
     m_page.heading(text(head));
     m_page.beginTable();
-    m_page.beginRow();
+    m_page.beginHead();
     m_page.heads(texts(columns));
     m_page.numberHeads(texts(numbers));
     m_page.heads(texts(last));
-    m_page.endRow();
+    m_page.endHead();
 }
 
 void HtmlWriter::writeHead()
@@ -190,7 +190,7 @@ void HtmlWriter::writePattern(int pattern)
     m_page.cell(patternText(pattern));
     m_page.number(numbers.lines);
     m_page.number(numbers.projects);
-    m_page.number(QString::number(numbers.probability, 'f', 2));
+    m_page.number(percentText(numbers.probability, m_form.locale));
 }
 
 void HtmlWriter::writeExamples(int pattern)
@@ -256,9 +256,7 @@ void HtmlWriter::writeSamples()
         m_page.number(sample.lines);
         m_page.number(sample.judged);
         m_page.number(sample.right);
-        // Rounded up, or it would promise too much.
-        m_page.number(sample.bound ? QString::number(std::ceil(*sample.bound * 1000) / 10, 'f', 1) +
-                                         QStringLiteral(" %")
+        m_page.number(sample.bound ? boundText(*sample.bound, m_form.locale) + QStringLiteral(" %")
                                    : text(ReportText::Refused));
         m_page.cell(placesText(sample.drawn));
     });

@@ -2,6 +2,8 @@
 
 #include "ReleaseReport.h"
 
+#include <QLocale>
+
 namespace VelkRelease {
 
 /// The texts of a report, in the language of whoever makes it.
@@ -73,6 +75,7 @@ struct ReportForm
     std::function<QString(int)> number = [](int count) {
         return QString::number(count);
     };
+    QLocale locale = QLocale::c();           ///< of shares
     QString language = QStringLiteral("en"); ///< a BCP 47 tag
     int mostRows = -1;                       ///< of a list of lines, patterns or decisions; -1: all
 };

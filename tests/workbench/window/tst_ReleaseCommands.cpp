@@ -33,6 +33,9 @@
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTextDocument>
+#include <QTextFrame>
+#include <QTextTable>
 
 namespace {
 
@@ -202,7 +205,22 @@ void tst_ReleaseCommands::report()
     QVERIFY(html.contains("<td>" + EditLock::self().user.toHtmlEscaped() +
                           "</td><td>&lt;Schritt &amp; Tat&gt;</td>"));
     QVERIFY(html.contains("<td>anna</td><td class=\"n\" align=\"right\">345</td>"));
-    QVERIFY(html.contains("5.0 %"));
+    // Shares are written as the language does.
+    QVERIFY(html.contains(">5,0 %<"));
+    QVERIFY(html.contains(">99 %<"));
+    QVERIFY(!html.contains(">1.00<"));
+    // Long tables go on over several pages, with their heads on each.
+    QTextDocument page;
+    page.setHtml(html);
+    int tables = 0;
+    for (QTextFrame *const frame : page.rootFrame()->childFrames()) {
+        const auto *const table = qobject_cast<QTextTable *>(frame);
+        if (table && table->columns() > 2) {
+            QCOMPARE(table->format().headerRowCount(), 1);
+            ++tables;
+        }
+    }
+    QVERIFY(tables > 4);
 }
 
 void tst_ReleaseCommands::tellsOfEveryTable()

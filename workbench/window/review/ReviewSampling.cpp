@@ -13,7 +13,6 @@
 
 #include <QInputDialog>
 #include <QListView>
-#include <QLocale>
 #include <QRandomGenerator>
 #include <QStyle>
 
@@ -26,12 +25,6 @@ namespace {
 
 constexpr int UsualLines = 59; // fewer than 5 % wrong with 95 % certainty
 constexpr double Certainty = 0.95;
-
-QString boundText(double bound)
-{
-    // Rounded up, or it would promise too much.
-    return QLocale::c().toString(std::ceil(bound * 1000) / 10, 'f', 1);
-}
 
 } // namespace
 
