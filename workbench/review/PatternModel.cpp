@@ -17,10 +17,9 @@ void PatternModel::setPatterns(const VelkRelease::DifferencePatterns *patterns)
     beginResetModel();
     m_patterns = patterns;
     m_rows.clear();
-    if (patterns) {
-        for (const int pattern : rankedPatterns())
-            m_rows.push_back(rowFor(pattern));
-    }
+    m_order = patterns ? rankedPatterns() : std::vector<int>();
+    for (const int pattern : m_order)
+        m_rows.push_back(rowFor(pattern));
     endResetModel();
 }
 
@@ -40,20 +39,32 @@ void PatternModel::update()
                                {Qt::DisplayRole, ValueRole, Qt::ToolTipRole});
         }
     }
-    // What undo brought back, or what another proposal made.
     std::vector<int> known;
     known.reserve(m_rows.size());
     for (const Row &row : m_rows)
         known.push_back(row.pattern);
     std::sort(known.begin(), known.end());
-    for (const int pattern : rankedPatterns()) {
-        if (std::binary_search(known.begin(), known.end(), pattern))
-            continue;
-        const int at = int(m_rows.size());
-        beginInsertRows({}, at, at);
-        m_rows.push_back(rowFor(pattern));
-        endInsertRows();
+    // From the last one on, so that the one behind has its place.
+    const std::vector<int> ranked = rankedPatterns();
+    for (std::size_t i = ranked.size(); i-- > 0;) {
+        if (!std::binary_search(known.begin(), known.end(), ranked[i]))
+            insertRow(ranked[i], i + 1 < ranked.size() ? ranked[i + 1] : -1);
     }
+}
+
+/// What undo brought back stands where it stood; what another proposal made, before the one that
+/// comes behind it by its lines.
+void PatternModel::insertRow(int pattern, int behind)
+{
+    auto place = std::find(m_order.begin(), m_order.end(), pattern);
+    if (place == m_order.end())
+        place = m_order.insert(std::find(m_order.begin(), m_order.end(), behind), pattern);
+    std::size_t at = 0;
+    for (auto before = m_order.begin(); before != place && at < m_rows.size(); ++before)
+        at += m_rows[at].pattern == *before ? 1 : 0;
+    beginInsertRows({}, int(at), int(at));
+    m_rows.insert(m_rows.begin() + std::ptrdiff_t(at), rowFor(pattern));
+    endInsertRows();
 }
 
 /// Those without a successor come last.

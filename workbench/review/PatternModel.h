@@ -12,7 +12,7 @@ class DifferencePatterns;
 /// The difference patterns that have open lines, one a row, behind them those of lines without a
 /// successor. The order is that of the lines when
 /// the patterns were made and stays until they are made anew, so that no row moves away under the
-/// hand; rows whose last line is decided go.
+/// hand; rows whose last line is decided go, and come back to their place if that is undone.
 class PatternModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -54,6 +54,7 @@ private:
 
         friend bool operator==(const Row &, const Row &) = default;
     };
+    void insertRow(int pattern, int behind);
     [[nodiscard]] std::vector<int> rankedPatterns() const;
     [[nodiscard]] Row rowFor(int pattern) const;
     [[nodiscard]] QString text(const Row &row, int column) const;
@@ -62,4 +63,5 @@ private:
 
     const VelkRelease::DifferencePatterns *m_patterns = nullptr;
     std::vector<Row> m_rows;
+    std::vector<int> m_order; ///< all patterns that had a row, as the rows stand
 };

@@ -91,6 +91,7 @@ class tst_ReviewModels : public QObject
 private Q_SLOTS:
     void patterns();
     void patternsFollowDecisions();
+    void patternsComeBackToTheirPlace();
     void goneGroupsComeLast();
     void differences();
     void candidates();
@@ -146,6 +147,38 @@ void tst_ReviewModels::patternsFollowDecisions()
     QCOMPARE(model.rowCount(), 3);
     QCOMPARE(model.lineCount(), 6);
     QCOMPARE(reset.count(), 0);
+}
+
+/// A row that went comes back to where it stood, though it has fewer lines than the next by then.
+void tst_ReviewModels::patternsComeBackToTheirPlace()
+{
+    DifferencePatterns patterns = samplePatterns();
+    PatternModel model;
+    const QAbstractItemModelTester tester(&model,
+                                          QAbstractItemModelTester::FailureReportingMode::QtTest);
+    model.setPatterns(&patterns);
+    const QString all = textOf(model);
+    const auto confirm = [&](int project, QList<int> lines) {
+        PrjMappingC mapping = proposed(project == 0 ? "a.prj" : "b.prj", project == 0 ? 4 : 2);
+        mapping.changeTarget(0, [&](PrjMappingTargetC &target) {
+            for (const int line : std::as_const(lines))
+                target.addLineId(line, line, PRJMAPPING::Verified, QString());
+        });
+        patterns.setMapping(project, mapping);
+        model.update();
+    };
+    confirm(0, {1, 2});
+    confirm(1, {1});
+    QCOMPARE(textOf(model), "W: u → v|2|2|99 %|0\nW: Wert fehlt|1|1|90 %|0");
+    confirm(1, {});
+    QCOMPARE(textOf(model), "W: x → y|1|1|100 %|0\nW: u → v|2|2|99 %|0\nW: Wert fehlt|1|1|90 %|0");
+    confirm(0, {1, 2, 4});
+    confirm(1, {1, 2});
+    QCOMPARE(textOf(model), "W: Wert fehlt|1|1|90 %|0");
+    // All at once.
+    confirm(0, {});
+    confirm(1, {});
+    QCOMPARE(textOf(model), all);
 }
 
 /// Even where they have more lines. The sum is that of both.
