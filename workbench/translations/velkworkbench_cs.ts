@@ -1349,6 +1349,10 @@ Otevřete „%1“ a zvolte „%2“, aby byly zase vidět všechny projekty.</t
         <source>Die Taste %1 hat jetzt %2.</source>
         <translation>Klávesu %1 má teď %2.</translation>
     </message>
+    <message>
+        <source>Nichts gefunden</source>
+        <translation>Nic nenalezeno</translation>
+    </message>
 </context>
 <context>
     <name>LegendDialog</name>

@@ -1322,6 +1322,10 @@ Vælg en anden fil.</translation>
         <source>Die Taste %1 hat jetzt %2.</source>
         <translation>Tasten %1 hører nu til %2.</translation>
     </message>
+    <message>
+        <source>Nichts gefunden</source>
+        <translation>Intet fundet</translation>
+    </message>
 </context>
 <context>
     <name>LegendDialog</name>

@@ -1322,6 +1322,10 @@ Open “%1” and choose “%2” to see all projects again.</translation>
         <source>Die Taste %1 hat jetzt %2.</source>
         <translation>%2 has the key %1 now.</translation>
     </message>
+    <message>
+        <source>Nichts gefunden</source>
+        <translation>Nothing found</translation>
+    </message>
 </context>
 <context>
     <name>LegendDialog</name>

@@ -1322,6 +1322,10 @@ Abra «%1» y elija «%2» para volver a ver todos los proyectos.</translation>
         <source>Die Taste %1 hat jetzt %2.</source>
         <translation>La tecla %1 la tiene ahora %2.</translation>
     </message>
+    <message>
+        <source>Nichts gefunden</source>
+        <translation>No se encontró nada</translation>
+    </message>
 </context>
 <context>
     <name>LegendDialog</name>

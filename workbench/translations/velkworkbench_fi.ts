@@ -1322,6 +1322,10 @@ Avaa ”%1” ja valitse ”%2”, niin kaikki projektit näkyvät taas.</transl
         <source>Die Taste %1 hat jetzt %2.</source>
         <translation>Näppäin %1 on nyt komennolla %2.</translation>
     </message>
+    <message>
+        <source>Nichts gefunden</source>
+        <translation>Mitään ei löytynyt</translation>
+    </message>
 </context>
 <context>
     <name>LegendDialog</name>

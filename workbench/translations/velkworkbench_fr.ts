@@ -1322,6 +1322,10 @@ Ouvrez « %1 » et choisissez « %2 » pour revoir tous les projets.</translatio
         <source>Die Taste %1 hat jetzt %2.</source>
         <translation>La touche %1 appartient maintenant à %2.</translation>
     </message>
+    <message>
+        <source>Nichts gefunden</source>
+        <translation>Rien trouvé</translation>
+    </message>
 </context>
 <context>
     <name>LegendDialog</name>

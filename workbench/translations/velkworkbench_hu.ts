@@ -1295,6 +1295,10 @@ Nyissa meg ezt: „%1”, és válassza ezt: „%2”, hogy újra minden projekt
         <source>Die Taste %1 hat jetzt %2.</source>
         <translation>A(z) %1 billentyű most ehhez tartozik: %2.</translation>
     </message>
+    <message>
+        <source>Nichts gefunden</source>
+        <translation>Nincs találat</translation>
+    </message>
 </context>
 <context>
     <name>LegendDialog</name>

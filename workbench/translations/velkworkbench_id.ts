@@ -1295,6 +1295,10 @@ Buka “%1” dan pilih “%2” untuk melihat semua proyek lagi.</translation>
         <source>Die Taste %1 hat jetzt %2.</source>
         <translation>Tombol %1 kini milik %2.</translation>
     </message>
+    <message>
+        <source>Nichts gefunden</source>
+        <translation>Tidak ada yang ditemukan</translation>
+    </message>
 </context>
 <context>
     <name>LegendDialog</name>

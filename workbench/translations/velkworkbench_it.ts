@@ -1322,6 +1322,10 @@ Aprire «%1» e scegliere «%2» per rivedere tutti i progetti.</translation>
         <source>Die Taste %1 hat jetzt %2.</source>
         <translation>Il tasto %1 ora appartiene a %2.</translation>
     </message>
+    <message>
+        <source>Nichts gefunden</source>
+        <translation>Nessun risultato</translation>
+    </message>
 </context>
 <context>
     <name>LegendDialog</name>

@@ -1295,6 +1295,10 @@ Bitte eine andere Datei wählen.</source>
         <source>Die Taste %1 hat jetzt %2.</source>
         <translation>キー %1 は %2 のものになりました。</translation>
     </message>
+    <message>
+        <source>Nichts gefunden</source>
+        <translation>何も見つかりません</translation>
+    </message>
 </context>
 <context>
     <name>LegendDialog</name>

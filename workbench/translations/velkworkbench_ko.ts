@@ -1295,6 +1295,10 @@ Bitte eine andere Datei wählen.</source>
         <source>Die Taste %1 hat jetzt %2.</source>
         <translation>이제 키 %1은(는) %2의 것입니다.</translation>
     </message>
+    <message>
+        <source>Nichts gefunden</source>
+        <translation>찾은 것이 없습니다</translation>
+    </message>
 </context>
 <context>
     <name>LegendDialog</name>

@@ -1322,6 +1322,10 @@ Velg en annen fil.</translation>
         <source>Die Taste %1 hat jetzt %2.</source>
         <translation>Tasten %1 tilhører nå %2.</translation>
     </message>
+    <message>
+        <source>Nichts gefunden</source>
+        <translation>Ingenting funnet</translation>
+    </message>
 </context>
 <context>
     <name>LegendDialog</name>

@@ -1349,6 +1349,10 @@ Aby znów zobaczyć wszystkie projekty, otwórz „%1” i wybierz „%2”.</tr
         <source>Die Taste %1 hat jetzt %2.</source>
         <translation>Klawisz %1 ma teraz %2.</translation>
     </message>
+    <message>
+        <source>Nichts gefunden</source>
+        <translation>Nic nie znaleziono</translation>
+    </message>
 </context>
 <context>
     <name>LegendDialog</name>

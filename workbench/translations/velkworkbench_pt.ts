@@ -1322,6 +1322,10 @@ Abra «%1» e escolha «%2» para voltar a ver todos os projetos.</translation>
         <source>Die Taste %1 hat jetzt %2.</source>
         <translation>A tecla %1 é agora de %2.</translation>
     </message>
+    <message>
+        <source>Nichts gefunden</source>
+        <translation>Nada encontrado</translation>
+    </message>
 </context>
 <context>
     <name>LegendDialog</name>

@@ -1349,6 +1349,10 @@ Bitte eine andere Datei wählen.</source>
         <source>Die Taste %1 hat jetzt %2.</source>
         <translation>Клавиша %1 теперь у %2.</translation>
     </message>
+    <message>
+        <source>Nichts gefunden</source>
+        <translation>Ничего не найдено</translation>
+    </message>
 </context>
 <context>
     <name>LegendDialog</name>

@@ -1376,6 +1376,10 @@ Odprite »%1« in izberite »%2«, da bodo spet vidni vsi projekti.</translation
         <source>Die Taste %1 hat jetzt %2.</source>
         <translation>Tipko %1 ima zdaj %2.</translation>
     </message>
+    <message>
+        <source>Nichts gefunden</source>
+        <translation>Nič ni najdeno</translation>
+    </message>
 </context>
 <context>
     <name>LegendDialog</name>

@@ -1322,6 +1322,10 @@ Välj en annan fil.</translation>
         <source>Die Taste %1 hat jetzt %2.</source>
         <translation>Tangenten %1 hör nu till %2.</translation>
     </message>
+    <message>
+        <source>Nichts gefunden</source>
+        <translation>Inget hittades</translation>
+    </message>
 </context>
 <context>
     <name>LegendDialog</name>

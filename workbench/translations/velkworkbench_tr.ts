@@ -1295,6 +1295,10 @@ Tüm projeleri yeniden görmek için “%1” komutunu açın ve “%2” seçen
         <source>Die Taste %1 hat jetzt %2.</source>
         <translation>%1 tuşu şimdi şuna ait: %2.</translation>
     </message>
+    <message>
+        <source>Nichts gefunden</source>
+        <translation>Hiçbir şey bulunamadı</translation>
+    </message>
 </context>
 <context>
     <name>LegendDialog</name>

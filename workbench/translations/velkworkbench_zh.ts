@@ -1295,6 +1295,10 @@ Bitte eine andere Datei wählen.</source>
         <source>Die Taste %1 hat jetzt %2.</source>
         <translation>按键 %1 现在属于 %2。</translation>
     </message>
+    <message>
+        <source>Nichts gefunden</source>
+        <translation>未找到任何内容</translation>
+    </message>
 </context>
 <context>
     <name>LegendDialog</name>

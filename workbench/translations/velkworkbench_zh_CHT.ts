@@ -1295,6 +1295,10 @@ Bitte eine andere Datei wählen.</source>
         <source>Die Taste %1 hat jetzt %2.</source>
         <translation>按鍵 %1 現在屬於 %2。</translation>
     </message>
+    <message>
+        <source>Nichts gefunden</source>
+        <translation>找不到任何內容</translation>
+    </message>
 </context>
 <context>
     <name>LegendDialog</name>

@@ -82,6 +82,7 @@ private Q_SLOTS:
     void keyFieldIsLeftBackwards();
     void keyNamesAreDifferent();
     void keysAreFiltered();
+    void escapeLeavesTheKeyField();
 
 private:
     void start();
@@ -673,6 +674,31 @@ void tst_Locator::keysAreFiltered()
     filter->clear();
     QTest::keyClicks(filter, "ctrl+g");
     QCOMPARE(shown(), QStringList{"Gehe zu Zeile"});
+    // No key goes to a command that is not in sight.
+    QTest::keyClicks(filter, "xyz");
+    QCOMPARE(shown(), QStringList());
+    QVERIFY(!list->currentItem());
+    QVERIFY(!dialog.findChild<QKeySequenceEdit *>("key")->isEnabled());
+    QCOMPARE(dialog.findChild<QLabel *>("keysTitle")->text(), QString("Nichts gefunden"));
+    filter->clear();
+    QTest::keyClicks(filter, "zeile gehe");
+    QCOMPARE(list->currentItem()->text(0), QString("Gehe zu Zeile"));
+    QVERIFY(dialog.findChild<QKeySequenceEdit *>("key")->isEnabled());
+}
+
+void tst_Locator::escapeLeavesTheKeyField()
+{
+    start();
+    KeysDialog dialog(
+        {}, [this](const QString &id) { return m_fixture->window->keyedActions()->nameOf(id); },
+        nullptr);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    auto *const edit = dialog.findChild<QKeySequenceEdit *>("key");
+    edit->setFocus();
+    QTest::keyClick(edit, Qt::Key_Escape);
+    QVERIFY(!dialog.isVisible());
+    QCOMPARE(dialog.result(), int(QDialog::Rejected));
 }
 
 QTEST_MAIN(tst_Locator)

@@ -145,7 +145,8 @@ void KeysDialog::filter()
         if (!first && !item->isHidden())
             first = item;
     }
-    if (first && m_list->currentItem() && m_list->currentItem()->isHidden())
+    // No key is given to a command that nobody sees.
+    if (!m_list->currentItem() || m_list->currentItem()->isHidden())
         m_list->setCurrentItem(first);
 }
 
@@ -165,8 +166,8 @@ void KeysDialog::showCommand()
     const QString id = currentId();
     const QSignalBlocker quiet(m_key);
     m_key->setKeySequence(PCommandKeys::instance().keysWith(m_choice).value(id).value(0));
-    m_title->setText(id.isEmpty() ? QString() : m_nameOf(id));
-    m_key->setAccessibleName(tr("Taste für %1").arg(m_nameOf(id)));
+    m_title->setText(id.isEmpty() ? tr("Nichts gefunden") : m_nameOf(id));
+    m_key->setAccessibleName(id.isEmpty() ? tr("Taste") : tr("Taste für %1").arg(m_nameOf(id)));
     for (QWidget *const part : {static_cast<QWidget *>(m_key), static_cast<QWidget *>(m_standard),
                                 static_cast<QWidget *>(m_none)})
         part->setEnabled(!id.isEmpty());
@@ -174,9 +175,14 @@ void KeysDialog::showCommand()
 }
 
 /// The field waits for more strokes before it tells the first one, and forgets its key as soon as
-/// Shift goes down, with which one leaves it backwards.
+/// Shift goes down, with which one leaves it backwards. Escape is no key for commands.
 bool KeysDialog::eventFilter(QObject *object, QEvent *event)
 {
+    if (object == m_key && event->type() == QEvent::KeyPress &&
+        static_cast<const QKeyEvent *>(event)->matches(QKeySequence::Cancel)) {
+        reject();
+        return true;
+    }
     if (object == m_key && event->type() == QEvent::KeyPress &&
         isModifier(static_cast<const QKeyEvent *>(event)->key()))
         return true;
