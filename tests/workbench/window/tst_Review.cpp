@@ -1,5 +1,6 @@
 #include "ReviewFixture.h"
 
+#include <workbench/window/message/LogWindow.h>
 #include <workbench/window/message/ReasonDialog.h>
 #include <workbench/window/review/ReviewCommands.h>
 #include <workbench/window/settings/WorkbenchSettings.h>
@@ -8,6 +9,7 @@
 #include <release/history/DecisionHistory.h>
 
 #include <QAbstractItemModelTester>
+#include <QAction>
 #include <QComboBox>
 #include <QDockWidget>
 #include <QHeaderView>
@@ -38,6 +40,7 @@ private Q_SLOTS:
     void leastSureFirst();
     void differencesOfTheLineInSight();
     void severalLinesAsPairs();
+    void differencesComeToTheFront();
     void candidateByKey();
     void explanationFollowsDecisions();
     void followsTheDocument();
@@ -363,6 +366,31 @@ void tst_Review::differencesOfTheLineInSight()
                 .startsWith(seals + ':' + QString::number(fixture.here().line));
         },
         10000));
+}
+
+/// Behind another one of its tabs nobody sees it.
+void tst_Review::differencesComeToTheFront()
+{
+    ReviewFixture fixture;
+    fixture.press(Qt::Key_F7, Qt::ShiftModifier);
+    auto *const panel = static_cast<QDockWidget *>(fixture.review()->panel());
+    LogWindow *const log = fixture.window->log();
+    log->show();
+    fixture.window->tabifyDockWidget(log, panel);
+    log->raise();
+    QTRY_VERIFY(panel->visibleRegion().isEmpty());
+    fixture.press(Qt::Key_F7, Qt::ShiftModifier);
+    QTRY_VERIFY(!panel->visibleRegion().isEmpty());
+    fixture.press(Qt::Key_F7, Qt::ShiftModifier);
+    QVERIFY(panel->isHidden());
+    QTRY_VERIFY(!log->visibleRegion().isEmpty());
+    fixture.press(Qt::Key_F7, Qt::ShiftModifier);
+    QTRY_VERIFY(!panel->visibleRegion().isEmpty());
+    // By the menu, too.
+    log->hide();
+    QTest::qWait(20);
+    log->toggleViewAction()->trigger();
+    QTRY_VERIFY(!log->visibleRegion().isEmpty());
 }
 
 void tst_Review::candidateByKey()

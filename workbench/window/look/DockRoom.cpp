@@ -1,5 +1,6 @@
 #include "DockRoom.h"
 
+#include <QAction>
 #include <QDockWidget>
 #include <QMainWindow>
 
@@ -23,6 +24,10 @@ void DockRoom::add(QDockWidget *dock, double part)
                 giveRoom(dock);
         },
         Qt::QueuedConnection);
+    connect(dock->toggleViewAction(), &QAction::triggered, dock, [dock](bool isShown) {
+        if (isShown)
+            dock->raise(); // not behind the others of its tabs
+    });
 }
 
 void DockRoom::giveRoom(QDockWidget *shown)

@@ -85,7 +85,11 @@ void ReviewCommands::showPatterns()
 
 void ReviewCommands::showDifferences()
 {
-    m_panel->setVisible(m_panel->isHidden());
+    // Behind another one of its tabs nobody sees it.
+    const bool isSeen = !m_panel->isHidden() && !m_panel->visibleRegion().isEmpty();
+    m_panel->setVisible(!isSeen);
+    if (!isSeen)
+        m_panel->raise();
 }
 
 void ReviewCommands::choosePattern(int pattern)
