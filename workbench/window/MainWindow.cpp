@@ -241,6 +241,8 @@ void MainWindow::updateCounter()
     if (m_filters->work()->isActive() && m_filters->work()->asksForMore()) {
         const FilterWork::Numbers numbers = m_filters->work()->numbers();
         m_status->setFilteredLines(numbers.lines, numbers.projects);
+    } else if (const OpenLines *const chosen = m_lines->chosenLines()) {
+        m_status->setFilteredLines(chosen->count(), chosen->projectCount());
     } else {
         m_status->setOpenLines(open.count(), open.projectCount());
     }

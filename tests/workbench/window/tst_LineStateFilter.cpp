@@ -18,6 +18,7 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QLabel>
 #include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -206,7 +207,14 @@ void tst_LineStateFilter::linesAndProjectsOfAState()
     QVERIFY(editor->selectLine(toCheck.section(',', 0, 0).toInt()));
     fixture.press(Qt::Key_V);
     QCOMPARE(shownLines(fixture), toCheck);
+    // The counter tells of them, too.
+    const auto *const counter = fixture.window->findChild<QLabel *>("statusOpen");
+    const int left = fixture.window->lines()->openLines().countOf(OpenLines::ToCheck);
+    QTRY_COMPARE(
+        counter->text(),
+        QString("Filter: <a href=\"next\">%1 Zeilen</a> in %2 Projekten").arg(left).arg(expected));
     click(fixture, "stateToCheck");
+    QTRY_VERIFY(counter->text().startsWith("Offen: "));
     QCOMPARE(shownLines(fixture), all);
     QCOMPARE(projectCount(fixture), projects);
     click(fixture, "stateToCheck");
@@ -374,6 +382,7 @@ void tst_LineStateFilter::whatIsToldOfATableGoesWithIt()
     click(fixture, "stateNotFound");
     const QString told = fixture.window->status()->note();
     QVERIFY2(told.startsWith("Hier ist keine"), qPrintable(told));
+    fixture.window->editor()->focusLines();
     fixture.press(key);
     QCOMPARE(fixture.window->editor()->currentPath() == equal, isStill);
     QCOMPARE(fixture.window->status()->note() == told, isStill);

@@ -23,6 +23,8 @@ public:
     ~LineCommands() override;
 
     [[nodiscard]] const OpenLines &openLines() const { return m_open; }
+    /// Those of the kinds that the user wants to see; null: of all.
+    [[nodiscard]] const OpenLines *chosenLines() const { return m_kinds ? &m_chosen : nullptr; }
 
     void goNext();
     void goPrevious();
