@@ -1,5 +1,7 @@
 #include "Inks.h"
 
+#include <QLabel>
+
 bool Inks::isDark(const QPalette &palette, QPalette::ColorRole ground)
 {
     return palette.color(ground).lightness() < 128;
@@ -34,4 +36,15 @@ QColor Inks::differenceGround(const QPalette &palette)
 QColor Inks::differenceText(const QPalette &palette)
 {
     return isDark(palette) ? Qt::white : Qt::black;
+}
+
+void Inks::rewriteLinks(const QWidget *parent)
+{
+    for (QLabel *const label : parent->findChildren<QLabel *>()) {
+        const QString text = label->text();
+        if (!text.contains(QLatin1String("<a ")))
+            continue;
+        label->setText(QString()); // the same one again changes nothing
+        label->setText(text);
+    }
 }

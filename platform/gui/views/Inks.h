@@ -5,6 +5,10 @@
 #include <QColor>
 #include <QPalette>
 
+QT_BEGIN_NAMESPACE
+class QWidget;
+QT_END_NAMESPACE
+
 /// Colours that mean something, each for a light and for a dark ground, with a contrast of at least
 /// 4.5 to it. None may be the only thing that tells.
 namespace Inks {
@@ -27,5 +31,8 @@ enum class Ink {
 /// Whether the colour of that role is dark.
 [[nodiscard]] VELKGUI_EXPORT bool isDark(const QPalette &palette,
                                          QPalette::ColorRole ground = QPalette::Base);
+/// Links in labels keep the colour that they were written in: those below \a parent get the one of
+/// now.
+VELKGUI_EXPORT void rewriteLinks(const QWidget *parent);
 
 } // namespace Inks

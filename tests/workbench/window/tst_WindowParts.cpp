@@ -23,6 +23,7 @@
 #include <QDialog>
 #include <QFile>
 #include <QHBoxLayout>
+#include <QImage>
 #include <QLabel>
 #include <QMainWindow>
 #include <QPlainTextEdit>
@@ -34,6 +35,7 @@
 #include <QTest>
 #include <QTextBlock>
 #include <QToolButton>
+#include <QToolTip>
 
 #include <thread>
 
@@ -192,16 +194,57 @@ private Q_SLOTS:
     void themesAreLightDarkOrOfHighContrast()
     {
         const QPalette before = QApplication::palette();
+        const QPalette tips = QToolTip::palette();
+        ApplicationTheme::setColours("system");
+        const QPalette desktop = QApplication::palette();
         ApplicationTheme::setColours("dark");
-        const QPalette dark = QApplication::palette();
-        QVERIFY(dark.color(QPalette::Window).lightness() < 128);
-        ApplicationTheme::setColours("system"); // as the desktop has it: nothing of ours
-        QCOMPARE(QApplication::palette(), dark);
+        QVERIFY(QApplication::palette().color(QPalette::Window).lightness() < 128);
+        ApplicationTheme::setColours("system"); // nothing of ours is left
+        QCOMPARE(QApplication::palette(), desktop);
+        QCOMPARE(QToolTip::palette(), tips);
         ApplicationTheme::setColours("contrast");
         QCOMPARE(QApplication::palette().color(QPalette::Window), QColor(Qt::black));
         QCOMPARE(QApplication::palette().color(QPalette::Text), QColor(Qt::white));
         ApplicationTheme::setColours("light");
         QVERIFY(QApplication::palette().color(QPalette::Window).lightness() > 128);
+        QApplication::setPalette(before);
+    }
+
+    /// Dark blue cannot be read on black.
+    void linksFollowTheColours()
+    {
+        const QPalette before = QApplication::palette();
+        ApplicationTheme::setColours("light");
+        StatusArea status(nullptr);
+        WelcomePage welcome({}, nullptr);
+        welcome.setRecentFiles({"/d/m.json"});
+        status.setOpenLines(3, 2);
+        status.showNote("done", true);
+        status.resize(700, 30);
+        status.show();
+        welcome.show();
+        const auto inks = [](const QWidget &parent) {
+            QApplication::processEvents();
+            const QColor link = QApplication::palette().color(QPalette::Link);
+            QList<bool> shown;
+            for (QLabel *const label : parent.findChildren<QLabel *>()) {
+                if (!label->text().contains("<a "))
+                    continue;
+                const QImage image = label->grab().toImage();
+                bool isShown = false;
+                for (int y = 0; y < image.height(); ++y) {
+                    for (int x = 0; x < image.width(); ++x)
+                        isShown |= image.pixelColor(x, y).rgb() == link.rgb();
+                }
+                shown << isShown;
+            }
+            return shown;
+        };
+        for (const char *const theme : {"light", "dark", "contrast", "light"}) {
+            ApplicationTheme::setColours(theme);
+            QCOMPARE(inks(status), QList<bool>({true, true}));
+            QCOMPARE(inks(welcome), QList<bool>({true}));
+        }
         QApplication::setPalette(before);
     }
 

@@ -1,5 +1,7 @@
 #include "WelcomePage.h"
 
+#include <gui/views/Inks.h>
+
 #include <QAction>
 #include <QEvent>
 #include <QFileInfo>
@@ -88,4 +90,6 @@ void WelcomePage::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange)
         retranslate();
+    else if (event->type() == QEvent::PaletteChange)
+        Inks::rewriteLinks(this);
 }

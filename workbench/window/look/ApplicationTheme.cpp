@@ -58,13 +58,17 @@ QPalette paletteOf(const Colours &colours)
 
 void ApplicationTheme::setColours(const QString &theme)
 {
+    static const QPalette desktopTips = QToolTip::palette();
     const bool isOwn = names().contains(theme);
     const bool highContrast = theme == "contrast";
     QApplication::setStyle(new WorkbenchStyle(highContrast ? WorkbenchStyle::HighContrast
                                               : isOwn      ? WorkbenchStyle::Own
                                                            : WorkbenchStyle::Desktop));
-    if (!isOwn)
+    if (!isOwn) {
+        QApplication::setPalette(QPalette());
+        QToolTip::setPalette(desktopTips);
         return;
+    }
     const QPalette palette = paletteOf(highContrast      ? contrastColours
                                        : theme == "dark" ? darkColours
                                                          : lightColours);

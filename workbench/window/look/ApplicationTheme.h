@@ -6,7 +6,7 @@
 class ApplicationTheme
 {
 public:
-    /// One of names(); anything else keeps the desktop's colours.
+    /// One of names(); anything else stands for the desktop's colours.
     static void setColours(const QString &theme);
     /// "light", "dark" and "contrast", white on black with every edge drawn.
     [[nodiscard]] static QStringList names();

@@ -2,6 +2,8 @@
 
 #include "StatusProgress.h"
 
+#include <gui/views/Inks.h>
+
 #include <QEvent>
 #include <QLabel>
 
@@ -122,7 +124,8 @@ void StatusArea::retranslate()
 void StatusArea::changeEvent(QEvent *event)
 {
     QStatusBar::changeEvent(event);
-    // A link keeps the colour that it was written in.
-    if (event->type() == QEvent::LanguageChange || event->type() == QEvent::PaletteChange)
+    if (event->type() == QEvent::LanguageChange)
         retranslate();
+    else if (event->type() == QEvent::PaletteChange)
+        Inks::rewriteLinks(this);
 }
