@@ -4,6 +4,7 @@
 
 #include <core/text/PString.h>
 #include <gui/views/ButtonBarDelegate.h>
+#include <gui/views/ElidedLabel.h>
 #include <gui/views/PButtonHeaderView.h>
 
 #include <QApplication>
@@ -73,10 +74,8 @@ void TargetMappingWidget::buildHeader()
         addHeaderButton("downButton", QIcon(QStringLiteral(":/bitmaps/assistant/arrow_down.png")),
                         PString::translate("Zielprojekt nach unten verschieben", "VelkLinkDbGui"));
     headerLayout->addWidget(new QLabel(PString::translate("Projektpfad:", "VelkLinkDbGui"), this));
-    pathLabel = new QLabel(this);
+    pathLabel = new ElidedLabel(Qt::ElideMiddle, this);
     pathLabel->setObjectName(QStringLiteral("pathLabel"));
-    // A long path is cut and stands in the tool tip; it must not widen the column.
-    pathLabel->setMinimumWidth(1);
     headerLayout->addWidget(pathLabel);
     headerLayout->addSpacerItem(
         new QSpacerItem(0, 0, QSizePolicy::Expanding, QSizePolicy::Minimum));

@@ -7,6 +7,7 @@
 #include <geomcore/table/Content.h>
 #include <geomcoregui/table/VkTableView.h>
 #include <gui/views/ElidedCheckBox.h>
+#include <gui/views/ElidedLabel.h>
 
 #include <QHBoxLayout>
 #include <QIcon>
@@ -24,7 +25,8 @@ TablePane::TablePane(const QString &side, QWidget *parent)
     const QString path = PString::translate("Pfad:", "VelkLinkDbGui");
     const QString designation = PString::translate("Normbezeichnung", "VelkLinkDbGui");
     const QString number = PString::translate("Normnummer", "VelkLinkDbGui");
-    m_path = createLabel(side + QStringLiteral("PathLabel"), path);
+    m_path =
+        nameLabel(new ElidedLabel(Qt::ElideMiddle, this), side + QStringLiteral("PathLabel"), path);
     m_designation = nameLabel(new DesignationLabel(this), side + QStringLiteral("DesignationLabel"),
                               designation);
     m_number = createLabel(side + QStringLiteral("NumberLabel"), number);

@@ -7,6 +7,7 @@
 #include <geomcoregui/table/VkTableModel.h>
 #include <geomcoregui/table/VkTableView.h>
 #include <gui/application/PApplication.h>
+#include <gui/views/ElidedLabel.h>
 
 #include <QAction>
 #include <QApplication>
@@ -202,6 +203,15 @@ void tst_TableChoices::hitsAreTold()
     // It makes nothing wider.
     QCOMPARE(m_view->minimumSizeHint().width(), narrow);
     QCOMPARE(hits()->toolTip(), hits()->text());
+    // Cut with dots, not in the middle of a letter.
+    const auto *const label = static_cast<const ElidedLabel *>(hits());
+    m_view->resize(700, m_view->height());
+    QTRY_COMPARE(label->shownText(), label->text());
+    m_view->resize(120, m_view->height());
+    QTRY_VERIFY2(label->shownText().endsWith(u'…'), qPrintable(label->shownText()));
+    QLabel cut(label->shownText(), hits()->parentWidget());
+    cut.resize(label->size());
+    QCOMPARE(hits()->grab().toImage(), cut.grab().toImage());
     m_view->showFilterBar(false);
     QVERIFY(hits()->isHidden());
 }

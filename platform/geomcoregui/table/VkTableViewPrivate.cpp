@@ -17,6 +17,7 @@
 #include <geomcore/table/TableData.h>
 #include <gui/application/PApplication.h>
 #include <gui/application/PCommandKeys.h>
+#include <gui/views/ElidedLabel.h>
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -66,7 +67,7 @@ VkTableViewPrivate::VkTableViewPrivate(VkTableView *view)
     , filterBar(new TableFilterBar(grid, model, view))
     , findBar(new TableFindBar(grid, model, view))
     , empty(new EmptyTableLabel(grid, model))
-    , hits(new QLabel(view))
+    , hits(new ElidedLabel(Qt::ElideRight, view))
 {
     title->setObjectName(QStringLiteral("tableTitle"));
     title->setTextFormat(Qt::PlainText);
@@ -77,8 +78,6 @@ VkTableViewPrivate::VkTableViewPrivate(VkTableView *view)
     columnOrder = new TableColumnOrder(grid, model);
     widths->setOrder(columnOrder);
     hits->setObjectName(QStringLiteral("filterHits"));
-    hits->setTextFormat(Qt::PlainText);
-    hits->setMinimumWidth(1); // a sentence must not make the table wider
     hits->hide();
     grid->installEventFilter(this);
     q->setFocusProxy(grid);
