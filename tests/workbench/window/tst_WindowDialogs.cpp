@@ -10,6 +10,7 @@
 #include <workbench/window/document/RecoveryDialog.h>
 #include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/MainWindow.h>
+#include <workbench/window/message/Question.h>
 #include <workbench/window/settings/WorkbenchSettings.h>
 
 #include <QAction>
@@ -38,6 +39,23 @@ class tst_WindowDialogs : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    /// A frame would cut it, with short texts, or long ones that wrap early.
+    void titlesOfQuestionsAreWhole()
+    {
+        QWidget parent;
+        for (const char *const text : {"x", "/a/long/path/that/is/broken/where/it/can/be"}) {
+            ModalScript script;
+            script.then([&](QWidget *box) {
+                const QString title =
+                    box->windowTitle() + " — " + QGuiApplication::applicationDisplayName();
+                QVERIFY(box->width() > box->fontMetrics().horizontalAdvance(title) + 100);
+                box->close();
+            });
+            Question::tell(&parent, "x", text);
+            QVERIFY(script.isDone());
+        }
+    }
+
     void rootsAreChecked_data()
     {
         QTest::addColumn<QString>("source");

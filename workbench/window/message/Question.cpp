@@ -1,5 +1,7 @@
 #include "Question.h"
 
+#include <QGridLayout>
+#include <QGuiApplication>
 #include <QPushButton>
 
 namespace {
@@ -67,8 +69,22 @@ void Question::addAnswer(Answer answer, const QString &text)
     m_answers.append({answer, button});
 }
 
+/// Frames cut a title that is wider than what is in the window.
+void Question::makeRoomForTitle()
+{
+    constexpr int FrameButtons = 160;
+    const QString title =
+        m_box.windowTitle() + QStringLiteral(" — ") + QGuiApplication::applicationDisplayName();
+    auto *const grid = qobject_cast<QGridLayout *>(m_box.layout());
+    if (grid)
+        grid->addItem(
+            new QSpacerItem(m_box.fontMetrics().horizontalAdvance(title) + FrameButtons, 0),
+            grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 Question::Answer Question::ask()
 {
+    makeRoomForTitle();
     m_box.exec();
     for (const auto &[answer, button] : std::as_const(m_answers)) {
         if (m_box.clickedButton() == button)

@@ -32,6 +32,8 @@ public:
                      QMessageBox::Icon icon = QMessageBox::Warning);
 
 private:
+    void makeRoomForTitle();
+
     QMessageBox m_box;
     QList<QPair<Answer, QPushButton *>> m_answers;
 };
