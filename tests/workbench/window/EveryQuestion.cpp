@@ -25,6 +25,7 @@
 #include <QFile>
 #include <QPointer>
 #include <QPushButton>
+#include <QToolBar>
 #include <QTreeWidget>
 
 namespace {
@@ -44,6 +45,17 @@ void ask(const std::function<void()> &act, const Look &look)
     });
     act();
     QTRY_VERIFY(script.isDone());
+}
+
+/// The button of the tool bars.
+void clickTool(const WindowFixture &fixture, const char *action)
+{
+    QAction *const wanted = PApplicationPool::instance().action(action);
+    QWidget *button = nullptr;
+    for (const QToolBar *const bar : fixture.window->findChildren<QToolBar *>())
+        button = bar->widgetForAction(wanted) ? bar->widgetForAction(wanted) : button;
+    QVERIFY(button);
+    QTest::mouseClick(button, Qt::LeftButton);
 }
 
 MappingDocument &document(const WindowFixture &fixture)
@@ -114,12 +126,12 @@ void showConflicts(WindowFixture &fixture, const Look &look)
         look(merged);
         merged->close();
     });
-    QVERIFY(!fixture.window->desk()->save());
+    fixture.press(Qt::Key_S, Qt::ControlModifier);
     QTRY_VERIFY(script.isDone());
     QVERIFY(fixture.window->editor()->goTo({{Screws, {}, {}}, 1}));
     QApplication::processEvents();
     ask([&] { fixture.press(Qt::Key_1, Qt::ControlModifier); }, look);
-    ask([&] { QVERIFY(!fixture.window->desk()->save()); }, look);
+    ask([&] { fixture.press(Qt::Key_S, Qt::ControlModifier); }, look);
     discard(fixture);
 }
 
@@ -172,7 +184,7 @@ void showDoubt(WindowFixture &fixture, const Look &look)
     (void)openCopy(fixture, Screws);
     const ReviewWork *const work = fixture.window->review()->work();
     if (!work->isWanted())
-        fixture.action("reviewPatterns")->trigger();
+        fixture.press(Qt::Key_F7);
     QVERIFY(QTest::qWaitFor([work] { return work->hasPatterns() && !work->isReading(); }, 20'000));
     QApplication::processEvents();
     auto *const list = fixture.window->findChild<QTreeView *>("PatternList");
@@ -201,7 +213,7 @@ void showLinks(WindowFixture &fixture, const Look &look)
         "sqlite:" + fixture.directory.filePath(QString("question%1.db").arg(++databases));
     fixture.settings->setValues(values);
     QTRY_COMPARE(fixture.window->linkDb()->state(), LinkDbHost::Connected);
-    PApplicationPool::instance().action("CallLinkMgr")->trigger();
+    clickTool(fixture, "CallLinkMgr");
     const QPointer<LinkListDialog> links = fixture.window->findChild<LinkListDialog *>();
     QVERIFY(links);
     const auto click = [&](const char *button) {
@@ -222,7 +234,7 @@ void showLinks(WindowFixture &fixture, const Look &look)
     click("restore");
     links->close();
     QApplication::processEvents();
-    PApplicationPool::instance().action("CallLinkMgr")->trigger();
+    clickTool(fixture, "CallLinkMgr");
     const QPointer<LinkListDialog> again = fixture.window->findChild<LinkListDialog *>();
     auto *const list = again->findChild<QTreeWidget *>("links");
     QCOMPARE(list->topLevelItemCount(), 1);
@@ -239,7 +251,7 @@ void showNoMail(WindowFixture &fixture, const Look &look)
 {
     (void)openCopy(fixture, Screws);
     QVERIFY(fixture.window->editor()->selectLine(3));
-    ask([] { PApplicationPool::instance().action("LinkDbSendMail")->trigger(); }, look);
+    ask([&] { clickTool(fixture, "LinkDbSendMail"); }, look);
     discard(fixture);
 }
 
