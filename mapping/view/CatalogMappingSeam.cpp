@@ -56,7 +56,10 @@ bool CatalogMappingWidget::selectLine(int line)
 
 void CatalogMappingWidget::focusLines()
 {
-    d->tableWidget->focusLines();
+    if (d->tableWidget->sourceView()->isEnabled())
+        d->tableWidget->focusLines();
+    else
+        d->treeView->setFocus(Qt::OtherFocusReason); // no project is open
 }
 
 void CatalogMappingWidget::focusOtherTable()

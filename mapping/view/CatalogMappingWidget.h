@@ -79,7 +79,7 @@ public:
     /// A filter that hides the line is taken away, if it is one by states or lines. False if the
     /// table does not have it.
     bool selectLine(int line);
-    /// The keys go to the source table.
+    /// The keys go to the source table, or to the tree if no project is selected.
     void focusLines();
     /// The keys go to the target table if the source table has them, else to the source table. A
     /// table without a selected line gets a current one, which selects nothing.

@@ -4,6 +4,7 @@
 #include <core/access/AddressedFiles.h>
 #include <core/message/PMessage.h>
 #include <geomcore/records/MappingFile.h>
+#include <geomcoregui/table/VkTableView.h>
 #include <mapping/view/CatalogMappingWidget.h>
 #include <workbench/session/document/CatalogRootMemory.h>
 #include <workbench/session/document/MappingDocument.h>
@@ -465,6 +466,8 @@ private Q_SLOTS:
         QPointer<TourOverlay> watched(tour);
         QTest::keyClick(tour, Qt::Key_Return);
         QTRY_VERIFY(!watched);
+        // The keys go to the lines, not to the messages.
+        QCOMPARE(fixture.window->focusWidget(), fixture.sourceView()->grid());
         QVERIFY(fixture.window->close());
         fixture.closeWindow();
         fixture.makeWindow();

@@ -59,6 +59,7 @@ TourOverlay::TourOverlay(const QList<Step> &steps, QWidget *window)
     connect(m_back, &QPushButton::clicked, this, &TourOverlay::back);
     connect(skipButton, &QPushButton::clicked, this, &TourOverlay::skip);
     window->installEventFilter(this);
+    m_formerFocus = window->focusWidget();
     setGeometry(window->rect());
     showStep(0);
     show();
@@ -84,6 +85,8 @@ void TourOverlay::skip()
 {
     Q_EMIT ended();
     close();
+    if (m_formerFocus)
+        m_formerFocus->setFocus(Qt::OtherFocusReason);
 }
 
 void TourOverlay::showStep(int step)

@@ -48,6 +48,7 @@ private:
     [[nodiscard]] QRect shownPart() const;
 
     const QList<Step> m_steps;
+    QPointer<QWidget> m_formerFocus; ///< has the keys again at the end
     int m_step = 0;
     QWidget *const m_bubble;
     QLabel *const m_title;
