@@ -17,6 +17,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QToolTip>
+#include <QTreeView>
 
 namespace {
 
@@ -62,6 +63,56 @@ private Q_SLOTS:
         // A key for each line, a step of its own each.
         QCOMPARE(fixture.confirmedLines(), before + 10);
         QCOMPARE(fixture.window->desk()->document()->undoTexts().size(), 10);
+    }
+
+    void undoLeadsBackToTheLine()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        EditorArea *const editor = fixture.window->editor();
+        QVERIFY(editor->goTo({{din933, {}, {}}, 3}));
+        fixture.press(Qt::Key_V);
+        QVERIFY(editor->currentLine() != 3);
+        // From another project too, and forward as well.
+        QVERIFY(editor->selectProject(QStringLiteral("standardparts/bearings/din625.prj")));
+        fixture.press(Qt::Key_Z, Qt::ControlModifier);
+        QTRY_COMPARE(editor->currentLine(), 3);
+        QCOMPARE(editor->currentPath(), din933);
+        QVERIFY(editor->selectLine(7));
+        fixture.press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QTRY_COMPARE(editor->currentLine(), 3);
+        // Lines that are selected together stay so.
+        fixture.press(Qt::Key_Down, Qt::ShiftModifier);
+        QCOMPARE(editor->selectedLines(), QList<int>({3, 4}));
+        fixture.press(Qt::Key_Z, Qt::ControlModifier);
+        QTest::qWait(50);
+        QCOMPARE(editor->selectedLines(), QList<int>({3, 4}));
+        // A filter that hides the line stays.
+        QVERIFY(editor->selectLine(7));
+        QTest::keyClick(fixture.sourceView()->grid(), Qt::Key_F,
+                        Qt::ControlModifier | Qt::ShiftModifier);
+        auto *const edit =
+            fixture.sourceView()->findChild<QWidget *>("filterBar")->findChild<QLineEdit *>();
+        QTest::keyClicks(edit, "=M10");
+        QTRY_VERIFY(editor->shown().isFiltered);
+        QCOMPARE(editor->shown().rowOf(3), -1);
+        fixture.sourceView()->grid()->setFocus();
+        fixture.press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QTRY_COMPARE(fixture.confirmedLines(), 1);
+        QTest::qWait(50);
+        QCOMPARE(editor->shown().rowOf(3), -1);
+    }
+
+    /// Not in the messages, which take no keys.
+    void aReleaseThatIsOpenedFirstHasTheKeysInItsTree()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        auto *const tree =
+            fixture.window->editor()->findChild<QTreeView *>(QStringLiteral("treeView"));
+        QVERIFY(tree);
+        QCOMPARE(fixture.window->editor()->currentPath(), QString());
+        QCOMPARE(QApplication::focusWidget(), tree);
     }
 
     void keysStayInTheTableWhenAllIsReadAnew()
@@ -222,7 +273,34 @@ private Q_SLOTS:
         fixture.press(Qt::Key_F1, Qt::ShiftModifier);
         QCOMPARE(QToolTip::text(), wanted);
         QVERIFY2(wanted.contains("muss bestätigt oder korrigiert"), qPrintable(wanted));
-        QToolTip::hideText();
+        // It goes with the line that it is about.
+        fixture.press(Qt::Key_V);
+        QTRY_VERIFY(!QToolTip::isVisible());
+        QVERIFY(fixture.window->editor()->currentLine() != 3);
+    }
+
+    /// A tip that opens under the mouse, wherever that was left, goes as soon as it is entered.
+    void reasonsDoNotOpenUnderTheMouse()
+    {
+        WindowFixture fixture;
+        fixture.open(fixture.mappingFile());
+        QVERIFY(fixture.window->editor()->goTo({{din933, {}, {}}, 3}));
+        const QAbstractItemView *const grid = fixture.sourceView()->grid();
+        const QRect cell = grid->visualRect(grid->currentIndex());
+        const QPoint below = grid->viewport()->mapToGlobal(cell.bottomLeft());
+        for (const QPoint offset : {QPoint(20, 40), QPoint(-5, 25), QPoint(500, 300)}) {
+            QCursor::setPos(below + offset);
+            QCOMPARE(QCursor::pos(), below + offset);
+            fixture.press(Qt::Key_F1, Qt::ShiftModifier);
+            const QWidget *tip = nullptr;
+            for (const QWidget *const each : QApplication::topLevelWidgets())
+                tip = each->inherits("QTipLabel") && each->isVisible() ? each : tip;
+            QVERIFY(tip);
+            QVERIFY(!tip->geometry().contains(QCursor::pos()));
+            const QRect room = tip->geometry().adjusted(-600, -400, 600, 400);
+            QVERIFY(room.contains(below)); // and near to what it is about
+            QToolTip::hideText();
+        }
     }
 
     void hintsOfButtonsCanBeReadByKeyboard()

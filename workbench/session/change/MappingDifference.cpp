@@ -137,6 +137,16 @@ bool MappingDifference::onlyMarksConflicts() const
     return any;
 }
 
+int MappingDifference::firstLine() const
+{
+    int first = -1;
+    for (const TargetPair &target : targets) {
+        if (!target.lines.empty() && (first < 0 || target.lines.front().line < first))
+            first = target.lines.front().line;
+    }
+    return first;
+}
+
 std::optional<PrjMappingC> MappingDifference::applied(const PrjMappingC &before) const
 {
     if (before.isValid() != validBefore ||

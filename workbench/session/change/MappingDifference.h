@@ -37,6 +37,8 @@ public:
     [[nodiscard]] bool keepsTargets() const;
     /// Nothing but lines that got a conflict mark.
     [[nodiscard]] bool onlyMarksConflicts() const;
+    /// Of the lines that differ; -1 if none does.
+    [[nodiscard]] int firstLine() const;
 
     /// Makes the later state of the earlier one. Nothing if \a before is not what the difference
     /// was taken from, as far as it touches it.

@@ -227,8 +227,9 @@ Q_SIGNALS:
     /// Follows stepDone(), for what the user should hear of.
     void noticeRaised(const ChangeNotice &notice);
     /// The project's node should be selected anew, for its mapping changed behind the editor: after
-    /// undo, redo and changes of the host's own, once for each project of the step.
-    void reselectRequested(const ProjectId &project);
+    /// undo, redo and changes of the host's own, once for each project of the step. \a line is the
+    /// first one that undo or redo changed; -1: none.
+    void reselectRequested(const ProjectId &project, int line = -1);
     /// There is another tree: the editor must be made anew with createHandler().
     void releaseReplaced();
     void saved();

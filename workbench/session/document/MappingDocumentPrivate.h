@@ -94,7 +94,7 @@ private:
     void store(const PrjMappingC &mapping, const PrjMappingC &before);
     void noteAndApply(const ReleaseMappingC &before, const ReleaseMappingC &after);
     void show(PreparedRelease &&prepared);
-    void applyMove(const StepMove &move);
+    QList<int> applyMove(const StepMove &move);
     [[nodiscard]] bool planStep(int index, ReleaseMappingC &standing, StepPlan &plan) const;
     void passOvertaken();
     void invalidateNodes(const QString &sourcePath) const;

@@ -175,7 +175,7 @@ bool MappingDocumentPrivate::moveStep(int index)
     if (!move.fits())
         return false;
     steps.beginMove();
-    applyMove(move);
+    const QList<int> firstLines = applyMove(move);
     if (back)
         history.noteUndone(index);
     else
@@ -189,28 +189,38 @@ bool MappingDocumentPrivate::moveStep(int index)
     told.lines = step.lines.value_or(0);
     steps.journalStep(told.text, back ? Origin::Undo : Origin::Redo, step.key);
     tellStep(told);
-    for (const MappingChangePair &change : std::as_const(told.changes))
+    for (qsizetype i = 0; i < told.changes.size(); ++i) {
+        const MappingChangePair &change = told.changes[i];
         Q_EMIT q->reselectRequested(
-            ProjectId::of(change.after.isValid() ? change.after : change.before));
+            ProjectId::of(change.after.isValid() ? change.after : change.before),
+            firstLines.value(i, -1));
+    }
     return true;
 }
 
 /// Writes the older or newer records back. A record that came or went, or whose table version
-/// changed, cannot be replaced in place: then the release is another one.
-void MappingDocumentPrivate::applyMove(const StepMove &move)
+/// changed, cannot be replaced in place: then the release is another one. Gives the first line of
+/// each change.
+QList<int> MappingDocumentPrivate::applyMove(const StepMove &move)
 {
     if (move.changesRelease()) {
         const ReleaseComparison compared = compare(release(), move.result(), steps.number());
         PreparedRelease prepared = prepare(move.result());
         writeJournal(compared);
         show(std::move(prepared));
-        return;
+        return {};
     }
+    QList<int> firstLines;
+    firstLines.reserve(move.changes().size());
     for (const MappingChangePair &change : move.changes()) {
-        steps.journalDifference(change.before, change.after);
+        const MappingDifference difference =
+            MappingDifference::between(change.before, change.after);
+        steps.journal(difference);
+        firstLines.append(difference.firstLine());
         store(change.after, change.before);
         invalidateNodes(change.after.getSourcePath());
     }
+    return firstLines;
 }
 
 /// Undo leads to no step of a former session whose work was replaced by other means since.

@@ -218,11 +218,6 @@ bool StepRecorder::summarise(Pending &done, const ReleaseMappingC &now, Finished
     return onlyMarks;
 }
 
-void StepRecorder::journalDifference(const PrjMappingC &before, const PrjMappingC &after)
-{
-    journal(MappingDifference::between(before, after));
-}
-
 void StepRecorder::journal(const MappingDifference &difference)
 {
     if (!difference.isEmpty())

@@ -82,7 +82,7 @@ public:
     [[nodiscard]] int nextNumber() const { return m_pending.changed ? m_step : m_step + 1; }
     /// Begins undo, redo or recovery: what follows has a number of its own.
     void beginMove() { ++m_step; }
-    void journalDifference(const PrjMappingC &before, const PrjMappingC &after);
+    void journal(const MappingDifference &difference);
     /// A portion of a comparison.
     void journalRows(const QByteArray &rows) { m_journal.appendRows(rows); }
     void flushJournal() { (void)m_journal.flush(); }
@@ -121,7 +121,6 @@ private:
     void writeOpening(const Opening &opening);
     void noteFile(const char *kind, const QByteArray &fileHash);
     void noteFirst();
-    void journal(const MappingDifference &difference);
     void gather(const PrjMappingC &before, const PrjMappingC &after);
     [[nodiscard]] bool summarise(Pending &done, const ReleaseMappingC &now, Finished &result) const;
 

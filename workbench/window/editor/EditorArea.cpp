@@ -13,6 +13,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <chrono>
 #include <memory>
 #include <utility>
@@ -294,27 +295,42 @@ void EditorArea::onProjectShown()
     Q_EMIT projectSelected();
 }
 
-void EditorArea::showChange(const ProjectId &project)
+void EditorArea::showChange(const ProjectId &project, int line)
 {
     if (m_changed.isEmpty())
         QTimer::singleShot(0, this, &EditorArea::showChanges);
-    if (!m_changed.contains(project))
-        m_changed += project;
+    const auto known = std::ranges::find(m_changed, project, &LineRef::project);
+    if (known == m_changed.end())
+        m_changed += {project, line};
+    else
+        known->line = line;
 }
 
 void EditorArea::showChanges()
 {
-    const QList<ProjectId> changed = std::exchange(m_changed, {});
+    const QList<LineRef> changed = std::exchange(m_changed, {});
     if (!m_editor || !m_document || changed.isEmpty())
         return;
     paintLater();
     const ProjectId current = currentProject();
-    const bool showsCurrent = changed.contains(current);
-    if (!showsCurrent && changed.size() == 1 &&
-        !goToProject(changed.first().path, changed.first().version))
+    const auto found = std::ranges::find(changed, current, &LineRef::project);
+    const LineRef &shown = found == changed.end() ? changed.first() : *found;
+    if (found == changed.end() && changed.size() == 1 &&
+        !goToProject(shown.project.path, shown.project.version))
         return rebuild();
     // Of all others only sums are to be seen, and they come along with any.
-    m_editor->showMapping(m_document->mapping(showsCurrent ? current : changed.first()));
+    m_editor->showMapping(m_document->mapping(shown.project));
+    m_changedLine = shown;
+    QTimer::singleShot(0, this, &EditorArea::showChangedLine);
+}
+
+/// In a turn of its own.
+void EditorArea::showChangedLine()
+{
+    const LineRef line = std::exchange(m_changedLine, {});
+    if (line.isValid() && line.project == currentProject() &&
+        !selectedLines().contains(line.line) && m_editor->rowOfLine(line.line) >= 0)
+        selectLine(line.line);
 }
 
 QList<int> EditorArea::selectedLines() const
@@ -337,6 +353,7 @@ bool EditorArea::goTo(const LineRef &ref)
     if (!m_editor || !ref.isValid())
         return false;
     showChanges(); // later they would lead back to where they are
+    m_changedLine = {};
     if (ref.project != currentProject() && !goToProject(ref.project.path, ref.project.version))
         return false;
     if (!selectLine(ref.line))

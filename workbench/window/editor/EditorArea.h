@@ -50,15 +50,15 @@ public:
     /// As selectProject(), and its first line that needs a decision, or else its first one, is
     /// selected and has the keys.
     bool showProject(const QString &sourcePath);
-    /// The keys go to the source table.
+    /// The keys go to the source table, or to the tree if no project is selected.
     void focusLines();
     /// What this turn of the event loop changes is laid out in it and painted in the next one, so
     /// that neither of them takes long.
     void paintLater();
     /// The project's mapping changed behind the editor, which shows it soon. The selected one is
     /// shown in place; it is only opened anew if more than its lines changed. Another single one is
-    /// selected.
-    void showChange(const ProjectId &project);
+    /// selected. So is \a line, unless it is -1, is selected already among others, or is hidden.
+    void showChange(const ProjectId &project, int line = -1);
 
     /// Shows only lines of these kinds and only projects that have any; none stands for all.
     void setLineKinds(OpenLines::Kinds kinds);
@@ -126,6 +126,7 @@ private:
     void make();
     void onLoopWaits();
     void showChanges();
+    void showChangedLine();
     void filterProjects();
     void filterLines();
     /// For a table without a line in the filter, and for a tree without a project.
@@ -143,8 +144,9 @@ private:
     QByteArray m_state;
     OpenLines::Kinds m_kinds; ///< none: lines of all kinds are shown
     LineRemarks m_remarks;
-    LineChoice m_choice;        ///< empty: no choice
-    QList<ProjectId> m_changed; ///< that showChanges() has still to show
+    LineChoice m_choice;      ///< empty: no choice
+    QList<LineRef> m_changed; ///< that showChanges() has still to show
+    LineRef m_changedLine;    ///< that showChangedLine() has
     QTimer *const m_paint;
     bool m_paintsAfterTurn = false; ///< when the loop waits
 };

@@ -183,13 +183,7 @@ void StepListDialog::goToLine()
     if (step < 0)
         return;
     const StepChanges changes = m_document->steps().at(step).allChanges();
-    for (const MappingDifference &change : changes.mappings) {
-        int first = -1;
-        for (const MappingDifference::TargetPair &target : change.targets) {
-            if (!target.lines.empty() && (first < 0 || target.lines.front().line < first))
-                first = target.lines.front().line;
-        }
-        Q_EMIT lineWanted(change.project.path, first);
-        return;
-    }
+    if (!changes.mappings.empty())
+        Q_EMIT lineWanted(changes.mappings.front().project.path,
+                          changes.mappings.front().firstLine());
 }
