@@ -91,7 +91,8 @@ bool CatalogFilterModel::hasChildren(const QModelIndex &parent) const
 
 Qt::ItemFlags CatalogFilterModel::flags(const QModelIndex &index) const
 {
-    return QAbstractItemModel::flags(index); // as the source, whose row is not made for that
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): as the source's, whose row is not made for that
+    return QAbstractItemModel::flags(index);
 }
 
 void CatalogFilterModel::fetchMore(const QModelIndex &parent)

@@ -79,7 +79,7 @@ public:
 
     static Ptr directory(const QString &name, const QList<Ptr> &children)
     {
-        const Ptr node = boost::make_shared<FilledTestNode>(1, name);
+        Ptr node = boost::make_shared<FilledTestNode>(1, name);
         node->children = children;
         return node;
     }
