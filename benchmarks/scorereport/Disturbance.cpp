@@ -70,14 +70,14 @@ void changeColumn(SampleSet &set, Random &random, bool numbers, Change change)
     }
 }
 
-/// The column of texts that most tables have, in all of them.
+/// The column of numbers, or of texts, that most tables have, in all of them.
 template<class Change>
-void changeCommonColumn(SampleSet &set, Random &random, Change change)
+void changeCommonColumn(SampleSet &set, Random &random, bool numbers, Change change)
 {
     std::map<std::string, int> tables;
     int most = 0;
     for (const SampleTable &table : std::as_const(set.news)) {
-        for (const size_t column : columnsOf(table, false))
+        for (const size_t column : columnsOf(table, numbers))
             most = std::max(most, ++tables[table.names[column]]);
     }
     std::erase_if(tables, [most](const auto &entry) { return entry.second < most; });
@@ -85,7 +85,7 @@ void changeCommonColumn(SampleSet &set, Random &random, Change change)
         return;
     const std::string name = std::next(tables.begin(), long(pick(random, tables.size())))->first;
     for (SampleTable &table : set.news) {
-        for (const size_t column : columnsOf(table, false)) {
+        for (const size_t column : columnsOf(table, numbers)) {
             for (Line &line : table.lines) {
                 if (table.names[column] == name && !line[column].empty())
                     line[column] = change(line[column]);
@@ -117,7 +117,7 @@ void replaceToken(SampleSet &set, Random &random)
 
 void replaceTokenInAll(SampleSet &set, Random &random)
 {
-    changeCommonColumn(set, random, withOtherToken);
+    changeCommonColumn(set, random, false, withOtherToken);
 }
 
 void reword(SampleSet &set, Random &random)
@@ -127,27 +127,44 @@ void reword(SampleSet &set, Random &random)
 
 void rewordInAll(SampleSet &set, Random &random)
 {
-    changeCommonColumn(set, random, reworded);
+    changeCommonColumn(set, random, false, reworded);
+}
+
+/// The first number in a text twice as large.
+std::string scaled(const std::string &text)
+{
+    const size_t begin = text.find_first_of("0123456789");
+    if (begin == std::string::npos)
+        return text;
+    const size_t end = text.find_first_not_of("0123456789.", begin);
+    const std::string number = text.substr(begin, end - begin);
+    return text.substr(0, begin) + numberText(2 * std::atof(number.c_str())) +
+           (end == std::string::npos ? std::string() : text.substr(end));
+}
+
+std::string inOtherUnit(const std::string &text)
+{
+    return isNumber(text) ? numberText(std::atof(text.c_str()) / 25.4) : text;
 }
 
 void scaleInTexts(SampleSet &set, Random &random)
 {
-    changeColumn(set, random, false, [](const std::string &text) {
-        const size_t begin = text.find_first_of("0123456789");
-        if (begin == std::string::npos)
-            return text;
-        const size_t end = text.find_first_not_of("0123456789.", begin);
-        const std::string number = text.substr(begin, end - begin);
-        return text.substr(0, begin) + numberText(2 * std::atof(number.c_str())) +
-               (end == std::string::npos ? std::string() : text.substr(end));
-    });
+    changeColumn(set, random, false, scaled);
+}
+
+void scaleInTextsOfAll(SampleSet &set, Random &random)
+{
+    changeCommonColumn(set, random, false, scaled);
 }
 
 void changeUnit(SampleSet &set, Random &random)
 {
-    changeColumn(set, random, true, [](const std::string &text) {
-        return isNumber(text) ? numberText(std::atof(text.c_str()) / 25.4) : text;
-    });
+    changeColumn(set, random, true, inOtherUnit);
+}
+
+void changeUnitInAll(SampleSet &set, Random &random)
+{
+    changeCommonColumn(set, random, true, inOtherUnit);
 }
 
 void emptyValues(SampleSet &set, Random &random)
@@ -310,6 +327,8 @@ std::vector<Disturbance> Disturbance::all()
         {"column reworded, in all tables", rewordInAll},
         {"numbers in texts scaled", scaleInTexts},
         {"unit changed", changeUnit},
+        {"numbers in texts scaled, in all tables", scaleInTextsOfAll},
+        {"unit changed, in all tables", changeUnitInAll},
         {"values emptied", emptyValues},
         {"column renamed", renameColumn},
         {"fifth removed", removeLines},
@@ -327,6 +346,12 @@ std::vector<Disturbance> Disturbance::all()
          [](SampleSet &set, Random &random) {
              replaceToken(set, random);
              changeUnit(set, random);
+             removeLines(set, random);
+         }},
+        {"token and unit in all tables, removed",
+         [](SampleSet &set, Random &random) {
+             replaceTokenInAll(set, random);
+             changeUnitInAll(set, random);
              removeLines(set, random);
          }},
     };
