@@ -250,6 +250,13 @@ private Q_SLOTS:
     "after": "S235JR",
     "supports": 7,
     "cases": 9
+   },
+   {
+    "variable": "k",
+    "factor": "0.03937",
+    "offset": "0",
+    "supports": 6,
+    "cases": 7
    }
   ],)";
         QByteArray bytes = Sound;
@@ -258,7 +265,8 @@ private Q_SLOTS:
         QString error;
         QVERIFY2(file.parse(bytes, QString(), &error), qPrintable(error));
         ReleaseMappingC release = file.release("2022");
-        const QList<LearnedReplacement> learned{{"Werkstoff", "St37-2", "S235JR", 7, 9}};
+        const QList<LearnedReplacement> learned{{"Werkstoff", "St37-2", "S235JR", 7, 9},
+                                                {"k", {}, {}, 6, 7, "0.03937", "0"}};
         QCOMPARE(release.getLearned(), learned);
         QCOMPARE(release.head().getLearned(), learned);
         QCOMPARE(release.getMappingState(), MappingFile(file).release("2022").getMappingState());
@@ -270,6 +278,15 @@ private Q_SLOTS:
         QByteArray wrong = bytes;
         QVERIFY(!MappingFile().parse(wrong.replace("\"cases\": 9", "\"cases\": 6"), {}, &error));
         QVERIFY2(error.contains("learned[0] must not have more \"supports\""), qPrintable(error));
+        // Texts or numbers, and a number is written as one.
+        for (const auto &[from, to] :
+             {std::pair("0.03937", "x"), std::pair("\"offset\": \"0\",", ""),
+              std::pair("\"after\": \"S235JR\",", ""),
+              std::pair("\"offset\": \"0\",", "\"offset\": \"0\", \"after\": \"\",")}) {
+            wrong = bytes;
+            QVERIFY(!MappingFile().parse(wrong.replace(from, to), {}, &error));
+            QVERIFY2(error.contains("texts as \"before\" and \"after\" or"), qPrintable(error));
+        }
     }
     void replacementHoldsInItsFolder_data()
     {

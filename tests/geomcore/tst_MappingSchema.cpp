@@ -169,6 +169,17 @@ private Q_SLOTS:
                 false);
         learned("learned of negative cases",
                 R"({"variable":"A","before":"7","after":"8","supports":0,"cases":-1})", false);
+        learned("learned of numbers",
+                R"({"variable":"A","factor":"2","offset":"-1e3","supports":2,"cases":2})", true);
+        learned("learned of numbers without offset",
+                R"({"variable":"A","factor":"2","supports":2,"cases":2})", false);
+        learned("learned of no number",
+                R"({"variable":"A","factor":"x","offset":"0","supports":2,"cases":2})", false);
+        learned("learned of texts and numbers",
+                R"({"variable":"A","before":"7","after":"8","factor":"2","offset":"0",)"
+                R"("supports":2,"cases":2})",
+                false);
+        learned("learned of neither", R"({"variable":"A","supports":2,"cases":2})", false);
         learned("learned of no variable", R"({"before":"7","after":"8","supports":2,"cases":2})",
                 false);
         const auto replacement = [](const char *name, const char *text, bool good) {

@@ -49,6 +49,30 @@ QStringList told(const ReleaseMappingC &release)
     return texts;
 }
 
+/// What is learned, with one thread and with four; "differs" if that is not the same.
+QString learnedOnce(const Releases &releases)
+{
+    QStringList found;
+    for (const int threads : {1, 4}) {
+        WorkerPool::instance().setThreads(threads);
+        ReleaseMappingBuilder builder(releases.input());
+        QStringList texts;
+        if (builder.build() != Outcome::Complete)
+            texts << "not complete";
+        for (const LearnedReplacement &learned : builder.release().getLearned()) {
+            QString change = learned.variable + ' ' + learned.before + ' ' + learned.after;
+            if (learned.isNumeric())
+                change = '*' + learned.factor + '+' + learned.offset;
+            texts << QStringLiteral("%1 %2 of %3")
+                         .arg(change, QString::number(learned.supports),
+                              QString::number(learned.cases));
+        }
+        found << texts.join("; ");
+    }
+    WorkerPool::instance().setThreads(0);
+    return found[0] == found[1] ? found[0] : QStringLiteral("differs");
+}
+
 } // namespace
 
 class tst_ReleaseMappingBuilder : public QObject
@@ -81,6 +105,10 @@ private Q_SLOTS:
     void emptyCatalog();
     void learnsFromItsProjects_data();
     void learnsFromItsProjects();
+    void learnsNumbersOfItsProjects_data();
+    void learnsNumbersOfItsProjects();
+    void learnsWhereColumnsChanged_data();
+    void learnsWhereColumnsChanged();
     void learnsFromOneTargetOnly();
     void cancelled();
     void buildsTwice();
@@ -451,21 +479,84 @@ void tst_ReleaseMappingBuilder::learnsFromItsProjects()
         releases.source.add("a/bolt" + QString::number(project), before);
         releases.target.add("a/bolt" + QString::number(project), after);
     }
-    QStringList found;
-    for (const int threads : {1, 4}) {
-        WorkerPool::instance().setThreads(threads);
-        ReleaseMappingBuilder builder(releases.input());
-        QCOMPARE(builder.build(), Outcome::Complete);
-        QStringList texts;
-        for (const LearnedReplacement &learned : builder.release().getLearned())
-            texts << QStringLiteral("%1 %2 %3 %4 of %5")
-                         .arg(learned.variable, learned.before, learned.after,
-                              QString::number(learned.supports), QString::number(learned.cases));
-        found << texts.join("; ");
+    QTEST(learnedOnce(releases), "learned");
+}
+
+void tst_ReleaseMappingBuilder::learnsNumbersOfItsProjects_data()
+{
+    QTest::addColumn<QString>("coats"); // of each project's lines, old>new
+    QTest::addColumn<QString>("learned");
+    const auto row = [](const char *name, const char *coats, const char *learned) {
+        QTest::newRow(name) << QString(coats) << QString(learned);
+    };
+    row("factor", "1>25.4,2>50.8|3>76.2", "*25.4+0 3 of 3");
+    row("rounded factor", "1>0.03937008|3>0.1181102", "*0.03937+0 2 of 2");
+    row("factor in texts", "M1x9>M25.4x9|M3x8>M76.2x8", "*25.4+0 2 of 2");
+    row("factor of zero", "0>0,1>25.4|3>76.2", "*25.4+0 2 of 2");
+    row("factor, numbers that stay", "1>25.4|3>76.2|5>5,6>6", "");
+    row("difference", "1>5|7>11", "*1+4 2 of 2");
+    row("in one project", "1>25.4,2>50.8|5>6", "");
+    row("a project counts as four lines", "1>25.4,2>50.8,3>76.2,4>101.6,5>127,6>152.4|7>177.8",
+        "*25.4+0 5 of 5");
+    row("numbers that stay in some", "1>25.4,2>50.8|3>76.2|8>8", "*25.4+0 3 of 4");
+    row("no number", "1>25.4|3>76.2|x>x,y>y", "*25.4+0 2 of 2");
+    row("neither", "1>5|7>14", "");
+}
+
+/// Each line is as it was but for its coat, and no two projects have the same coats.
+void tst_ReleaseMappingBuilder::learnsNumbersOfItsProjects()
+{
+    QFETCH(QString, coats);
+    Releases releases;
+    int line = 0;
+    int project = 0;
+    for (const QString &its : coats.split('|')) {
+        QByteArray before = "size,s,coat";
+        QByteArray after = before;
+        for (const QString &coat : its.split(',')) {
+            ++line;
+            const QByteArray size =
+                ";M" + QByteArray::number(line) + ',' + QByteArray::number(7 * line) + ',';
+            before += size + coat.section('>', 0, 0).toUtf8();
+            after += size + coat.section('>', 1, 1).toUtf8();
+        }
+        const QString name = "a/bolt" + QString::number(++project);
+        releases.source.add(name, before);
+        releases.target.add(name, after);
     }
-    WorkerPool::instance().setThreads(0);
-    QTEST(found[0], "learned");
-    QCOMPARE(found[1], found[0]);
+    QTEST(learnedOnce(releases), "learned");
+}
+
+/// Where nearly every line has another value in some variables, the others tell which it is.
+void tst_ReleaseMappingBuilder::learnsWhereColumnsChanged_data()
+{
+    QTest::addColumn<QByteArray>("others"); // of the second new line of each project
+    QTest::addColumn<QString>("learned");
+    QTest::newRow("others stay") << QByteArray("M2,12,22,32") << "coat zn A2K 4 of 4; *2+0 4 of 4";
+    QTest::newRow("one line is like another") << QByteArray("M1,11,21,31") << "";
+    QTest::newRow("one line is another")
+        << QByteArray("M8,12,22,32") << "coat zn A2K 2 of 2; *2+0 2 of 2";
+}
+
+void tst_ReleaseMappingBuilder::learnsWhereColumnsChanged()
+{
+    QFETCH(QByteArray, others);
+    Releases releases;
+    int number = 100;
+    for (const char *name : {"a/bolt", "a/nut"}) {
+        const auto next = [&](int times) {
+            return ',' + QByteArray::number(times * number) + ',';
+        };
+        QByteArray before = "size,s,k,d,l,coat;M1,11,21,31" + next(1) + "zn";
+        QByteArray after = "size,s,k,d,l,coat;M1,11,21,31" + next(2) + "A2K";
+        number += 7;
+        before += ";M2,12,22,32" + next(1) + "zn";
+        after += ';' + others + next(2) + "A2K";
+        number += 13;
+        releases.source.add(name, before);
+        releases.target.add(name, after);
+    }
+    QTEST(learnedOnce(releases), "learned");
 }
 
 /// Numbers are written with a point; where two tables can take the lines over, none says how
@@ -493,7 +584,9 @@ void tst_ReleaseMappingBuilder::learnsFromOneTargetOnly()
     ReleaseMappingBuilder builder(releases.input());
     QCOMPARE(builder.build(), Outcome::Complete);
     QCOMPARE(builder.release().mappingAt(2).countTargets(), 2);
-    const QList<LearnedReplacement> learned{{"k", "2.5", "2.75", 4, 4}};
+    const QList<LearnedReplacement> learned{{"k", {}, {}, 4, 4, "1", "0.25"},
+                                            {"k", {}, {}, 4, 4, "1.1", "0"},
+                                            {"k", "2.5", "2.75", 4, 4}};
     QCOMPARE(builder.release().getLearned(), learned);
 }
 

@@ -14,8 +14,8 @@
 namespace Mapper {
 
 /// What the projects of a release showed alike of how values are replaced, as a plan begins with
-/// it: each replacement counts like a few pairs of lines, by its share of those that had the old
-/// value. Costs nothing until a plan asks.
+/// it: each change counts like a few pairs of lines, by its share of those that could have changed
+/// so. Costs nothing until a plan asks.
 class VELKGEOMCORE_EXPORT LearnedValues
 {
 public:

@@ -48,13 +48,9 @@ double scaleOf(double number)
     return scales[size_t(above - powers.begin()) - 1];
 }
 
-/// The same for numbers that agree in four digits: values are rounded after they were converted.
 std::uint64_t roundedBits(double number)
 {
-    if (number == 0)
-        return 0;
-    const double scale = scaleOf(std::abs(number));
-    return std::bit_cast<std::uint64_t>(std::round(number * scale) / scale);
+    return number == 0 ? 0 : std::bit_cast<std::uint64_t>(roundedChange(number));
 }
 
 /// The factor between all tokens that differ, if these are numbers and have one in common.
@@ -87,6 +83,24 @@ std::uint64_t keyOf(std::uint64_t a, std::uint64_t b, std::uint64_t c, std::uint
     return key == 0 ? 1 : key;
 }
 
+double roundedChange(double number)
+{
+    if (number == 0)
+        return 0;
+    const double scale = scaleOf(std::abs(number));
+    return std::round(number * scale) / scale;
+}
+
+std::uint64_t keyOfFactor(int variable, double factor)
+{
+    return keyOf(std::uint64_t(variable), 3, roundedBits(factor), 0);
+}
+
+std::uint64_t keyOfOffset(int variable, double offset)
+{
+    return keyOf(std::uint64_t(variable), 4, roundedBits(offset), 0);
+}
+
 CellChange changeBetween(const CellValues &values, int variable, int oldValue, int newValue)
 {
     const auto v = std::uint64_t(variable);
@@ -109,12 +123,14 @@ CellChange changeBetween(const CellValues &values, int variable, int oldValue, i
     }
     if (a.size() != b.size())
         return change;
-    if (const auto factor = commonFactor(values, a, b))
-        change.keys[CellChange::Factor] = keyOf(v, 3, roundedBits(*factor), 0);
+    if (const auto factor = commonFactor(values, a, b)) {
+        change.factor = *factor;
+        change.keys[CellChange::Factor] = keyOfFactor(variable, *factor);
+    }
     if (begin + end + 1 == a.size() && values.isNumberToken(a[begin]) &&
         values.isNumberToken(b[begin])) {
-        const double offset = values.tokenNumber(b[begin]) - values.tokenNumber(a[begin]);
-        change.keys[CellChange::Offset] = keyOf(v, 4, roundedBits(offset), 0);
+        change.offset = values.tokenNumber(b[begin]) - values.tokenNumber(a[begin]);
+        change.keys[CellChange::Offset] = keyOfOffset(variable, change.offset);
     }
     return change;
 }

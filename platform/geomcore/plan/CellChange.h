@@ -1,5 +1,7 @@
 #pragma once
 
+#include <geomcore/VelkGeomCoreGlobal.h>
+
 #include <cstdint>
 #include <vector>
 
@@ -17,11 +19,20 @@ struct CellChange
     /// Tokens of the old value that the Middle is made of.
     int middleBegin = 0;
     int middleEnd = 0;
+    double factor = 0; ///< If there is such a change.
+    double offset = 0;
 };
 
 /// Both have a value, and these differ.
-[[nodiscard]] CellChange changeBetween(const CellValues &values, int variable, int oldValue,
-                                       int newValue);
+[[nodiscard]] VELKGEOMCORE_EXPORT CellChange changeBetween(const CellValues &values, int variable,
+                                                           int oldValue, int newValue);
+
+/// The keys of changes that are known by what they do.
+[[nodiscard]] std::uint64_t keyOfFactor(int variable, double factor);
+[[nodiscard]] std::uint64_t keyOfOffset(int variable, double offset);
+/// The number to four digits: values are rounded after they were converted. Those that are the same
+/// have the same key as a factor, and as an offset.
+[[nodiscard]] VELKGEOMCORE_EXPORT double roundedChange(double number);
 
 /// A number for a few numbers.
 [[nodiscard]] std::uint64_t keyOf(std::uint64_t a, std::uint64_t b, std::uint64_t c,

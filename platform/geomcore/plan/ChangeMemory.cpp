@@ -70,8 +70,7 @@ ChangeMemory::Likely ChangeMemory::likely(const CellValues &values, int variable
     const CellChange change = changeBetween(values, variable, oldValue, newValue);
     for (int kind = 0; kind < CellChange::KindCount; ++kind) {
         const std::uint64_t key = change.keys[kind];
-        const double known =
-            kind == CellChange::Whole && m_known ? m_known->pairs(variable, key) : 0;
+        const double known = key != 0 && m_known ? m_known->pairs(variable, key) : 0;
         double supports = key == 0 ? 0 : seen.changes.of(key) - own;
         if (supports <= 1e-6 && known == 0)
             continue;

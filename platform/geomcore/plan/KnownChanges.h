@@ -9,12 +9,12 @@
 
 namespace Plan {
 
-/// Replacements of whole values that other tables showed, by variable. Each counts like some pairs
+/// Changes of values that other tables showed, by variable. Each counts like some pairs
 /// of this table, so that what the table itself shows soon outweighs them.
 class KnownChanges
 {
 public:
-    /// \a key: CellChange::Whole of the two values.
+    /// \a key: that of a kind of CellChange.
     void add(int variable, std::uint64_t key, double pairs)
     {
         if (size_t(variable) >= m_variables.size())

@@ -16,6 +16,18 @@ namespace {
 
 constexpr quint64 Bit = 1;
 
+bool isDecimal(const QString &text)
+{
+    bool ok = false;
+    return std::isfinite(text.toDouble(&ok)) && ok;
+}
+
+QString changeLayout()
+{
+    return recordsText("%1 muss eine Variable nennen, dazu Texte als „before“ und „after“ oder "
+                       "Dezimalzahlen als „factor“ und „offset“");
+}
+
 } // namespace
 
 bool ReleaseBuilder::endMapping()
@@ -84,6 +96,12 @@ void ReleaseBuilder::setText(const QString &text)
     case LearnedAfter:
         m_learned.after = text;
         return;
+    case LearnedFactor:
+        m_learned.factor = text;
+        return;
+    case LearnedOffset:
+        m_learned.offset = text;
+        return;
     case SourcePath:
         return m_mapping.setSourcePath(text);
     case SourceVersion:
@@ -149,16 +167,10 @@ bool ReleaseBuilder::endReplacement()
     if (!checkComplete(Replacement))
         return false;
     const quint64 given = m_seen & (Texts | Numbers);
-    const auto isNumber = [](const QString &text) {
-        bool ok = false;
-        return std::isfinite(text.toDouble(&ok)) && ok;
-    };
     const bool numbers =
-        given == Numbers && isNumber(m_replacement.factor) && isNumber(m_replacement.offset);
+        given == Numbers && isDecimal(m_replacement.factor) && isDecimal(m_replacement.offset);
     if (m_replacement.variable.isEmpty() || (given != Texts && !numbers))
-        return fail(
-            recordsText("%1 muss eine Variable nennen, dazu Texte als „before“ und „after“ oder "
-                        "Dezimalzahlen als „factor“ und „offset“"));
+        return fail(changeLayout());
     m_replacements.append(m_replacement);
     m_place = Replacements;
     return true;
@@ -166,8 +178,15 @@ bool ReleaseBuilder::endReplacement()
 
 bool ReleaseBuilder::endLearned()
 {
+    constexpr quint64 Texts = Bit << LearnedBefore | Bit << LearnedAfter;
+    constexpr quint64 Numbers = Bit << LearnedFactor | Bit << LearnedOffset;
     if (!checkComplete(Learned))
         return false;
+    const quint64 given = m_seen & (Texts | Numbers);
+    const bool numbers =
+        given == Numbers && isDecimal(m_learned.factor) && isDecimal(m_learned.offset);
+    if (given != Texts && !numbers)
+        return fail(changeLayout());
     if (m_learned.supports > m_learned.cases)
         return fail(recordsText("%1 darf nicht mehr „supports“ als „cases“ haben"));
     m_allLearned.append(m_learned);

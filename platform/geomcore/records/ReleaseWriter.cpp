@@ -138,6 +138,18 @@ void writeMapping(JsonWriter &writer, const PrjMappingC &mapping)
     writer.endObject();
 }
 
+template<class Replacement>
+void writeChange(JsonWriter &writer, const Replacement &replacement)
+{
+    if (replacement.isNumeric()) {
+        writeText(writer, "factor", replacement.factor);
+        writeText(writer, "offset", replacement.offset);
+    } else {
+        writeText(writer, "before", replacement.before);
+        writeText(writer, "after", replacement.after);
+    }
+}
+
 /// Nothing at all without any, as files without them always looked.
 void writeReplacements(JsonWriter &writer, const QList<AgreedReplacement> &replacements)
 {
@@ -149,13 +161,7 @@ void writeReplacements(JsonWriter &writer, const QList<AgreedReplacement> &repla
         writer.beginObject();
         writeText(writer, "folder", replacement.folder);
         writeText(writer, "variable", replacement.variable);
-        if (replacement.isNumeric()) {
-            writeText(writer, "factor", replacement.factor);
-            writeText(writer, "offset", replacement.offset);
-        } else {
-            writeText(writer, "before", replacement.before);
-            writeText(writer, "after", replacement.after);
-        }
+        writeChange(writer, replacement);
         writer.endObject();
     }
     writer.endArray();
@@ -170,8 +176,7 @@ void writeLearned(JsonWriter &writer, const QList<LearnedReplacement> &learned)
     for (const LearnedReplacement &replacement : learned) {
         writer.beginObject();
         writeText(writer, "variable", replacement.variable);
-        writeText(writer, "before", replacement.before);
-        writeText(writer, "after", replacement.after);
+        writeChange(writer, replacement);
         writer.key("supports");
         writer.value(replacement.supports);
         writer.key("cases");

@@ -1,6 +1,7 @@
 #include "ReleaseMappingBuilder.h"
 
 #include "CatalogReader.h"
+#include "KnownLines.h"
 #include "learnedReplacements.h"
 #include "LineCells.h"
 #include "ParallelSteps.h"
@@ -10,6 +11,7 @@
 #include "ReleaseIndex.h"
 #include "RuleProposals.h"
 #include "SharedChanges.h"
+#include "sharedNumbers.h"
 #include "TargetOwners.h"
 #include "VariableNames.h"
 
@@ -315,15 +317,21 @@ void ReleaseMappingBuilder::Work::count(const PrjMappingC &mapping)
 
 void ReleaseMappingBuilder::Work::learn(const std::vector<std::vector<int>> &tables)
 {
-    std::vector<SharedChanges::Tables> projects(m_sources.size());
+    std::vector<KnownLines::Tables> projects(m_sources.size());
     for (size_t i = 0; i < tables.size(); ++i) {
         if (tables[i].size() == 1)
             projects[i] = {&m_sources[i].cells, &m_index.table(tables[i].front())};
     }
-    m_release.setLearned(learnedReplacements(
-        SharedChanges::of(projects), m_names,
-        [&](int i) { return m_source.read(m_sources[size_t(i)].project.path).table; },
-        [&](int i) { return m_target.read(m_index.path(tables[size_t(i)].front())).table; }));
+    const ReadTable source = [&](int i) {
+        return m_source.read(m_sources[size_t(i)].project.path).table;
+    };
+    const ReadTable target = [&](int i) {
+        return m_target.read(m_index.path(tables[size_t(i)].front())).table;
+    };
+    const std::vector<KnownLines> lines = KnownLines::of(projects);
+    m_release.setLearned(
+        mostSupported(learnedReplacements(SharedChanges::of(lines), m_names, source, target) +
+                      sharedNumbers(lines, m_names, source, target)));
 }
 
 void ReleaseMappingBuilder::Work::takeMessages()

@@ -1,14 +1,10 @@
 #include "SharedChanges.h"
 
 #include "LineCells.h"
-#include "TableMatch.h"
 
 #include <core/parallel/WorkerPool.h>
 
-#include <algorithm>
-#include <cmath>
 #include <map>
-#include <optional>
 #include <set>
 #include <utility>
 
@@ -24,53 +20,49 @@ using OldAndNew = std::pair<OldValue, quint32>;
 /// What one project shows.
 struct Shown
 {
-    std::optional<TableMatch> match;
-    std::vector<TableMatch::NearPair> pairs;
-    std::map<OldAndNew, std::pair<int, TableMatch::NearPair>> changes; ///< Lines, and the first.
+    std::map<OldAndNew, std::pair<int, const KnownLines::Pair *>>
+        changes;                   ///< Lines, and the first.
     std::map<OldValue, int> cases; ///< Of those that several projects changed alike.
 };
 
-OldValue oldValue(const SharedChanges::Tables &tables, const TableMatch &match, int row,
-                  size_t place)
+OldValue oldValue(const KnownLines &lines, int row, size_t place)
 {
-    const int column = match.sourceColumns()[place];
-    return {tables.source->variables()[size_t(column)], tables.source->cell(row, column)};
+    return {lines.variable(place),
+            lines.tables.source->cell(row, lines.match->sourceColumns()[place])};
 }
 
-Shown shownBy(const SharedChanges::Tables &tables)
+Shown shownBy(const KnownLines &lines)
 {
     Shown shown;
-    if (!tables.source || !tables.target ||
-        std::max(tables.source->rowCount(), tables.target->rowCount()) > SharedChanges::MostLines)
-        return shown;
-    shown.match.emplace(*tables.source, *tables.target);
-    shown.pairs = shown.match->nearPairs();
-    for (const TableMatch::NearPair &pair : shown.pairs) {
-        const quint32 after =
-            tables.target->cell(pair.targetRow, shown.match->targetColumns()[pair.differing]);
-        const OldValue before = oldValue(tables, *shown.match, pair.sourceRow, pair.differing);
-        ++shown.changes.try_emplace({before, after}, 0, pair).first->second.first;
+    for (const KnownLines::Pair &pair : lines.pairs) {
+        for (const size_t place : pair.differing) {
+            const quint32 after =
+                lines.tables.target->cell(pair.targetRow, lines.match->targetColumns()[place]);
+            const OldValue before = oldValue(lines, pair.sourceRow, place);
+            if (before.second != 0 && after != 0)
+                ++shown.changes.try_emplace({before, after}, 0, &pair).first->second.first;
+        }
     }
     return shown;
 }
 
 /// Lines with one of the old values, of those whose new line is known.
-void countCases(const SharedChanges::Tables &tables, Shown &shown, const std::set<OldValue> &wanted)
+void countCases(const KnownLines &lines, Shown &shown, const std::set<OldValue> &wanted)
 {
-    if (!shown.match || wanted.empty())
+    if (!lines.match || wanted.empty())
         return;
     const auto count = [&](int row) {
-        for (size_t place = 0; place < shown.match->sourceColumns().size(); ++place) {
-            const OldValue value = oldValue(tables, *shown.match, row, place);
+        for (size_t place = 0; place < lines.match->sourceColumns().size(); ++place) {
+            const OldValue value = oldValue(lines, row, place);
             if (wanted.contains(value))
                 ++shown.cases[value];
         }
     };
-    for (int row = 0; row < tables.source->rowCount(); ++row) {
-        if (shown.match->isEqual(row))
+    for (int row = 0; row < lines.tables.source->rowCount(); ++row) {
+        if (lines.match->isEqual(row))
             count(row);
     }
-    for (const TableMatch::NearPair &pair : shown.pairs)
+    for (const KnownLines::Pair &pair : lines.pairs)
         count(pair.sourceRow);
 }
 
@@ -80,35 +72,33 @@ int casesOf(const Shown &shown, const OldValue &value)
     return found == shown.cases.end() ? 0 : found->second;
 }
 
-/// Supports and cases of all projects, none of them counting for more than it may.
-SharedChanges::Change counted(const std::vector<Shown> &projects, const OldAndNew &change)
+/// What is kept of a change, if most lines that could have changed so did.
+void addCounted(const std::vector<Shown> &projects, const OldAndNew &change,
+                std::vector<SharedChanges::Change> &changes)
 {
     SharedChanges::Change result;
     result.variable = change.first.first;
-    double supports = 0;
-    double cases = 0;
+    SharedCount count;
     for (size_t i = projects.size(); i-- > 0;) {
-        const int all = casesOf(projects[i], change.first);
-        if (all == 0)
-            continue;
-        const double weight = std::min(1.0, double(SharedChanges::MostOfProject) / all);
-        cases += weight * all;
         const auto found = projects[i].changes.find(change);
-        if (found == projects[i].changes.end())
+        const bool shows = found != projects[i].changes.end();
+        count.add(shows ? found->second.first : 0, casesOf(projects[i], change.first));
+        if (!shows)
             continue;
-        supports += weight * found->second.first;
         result.project = int(i);
-        result.sourceRow = found->second.second.sourceRow;
-        result.targetRow = found->second.second.targetRow;
+        result.sourceRow = found->second.second->sourceRow;
+        result.targetRow = found->second.second->targetRow;
     }
-    result.supports = int(std::lround(supports));
-    result.cases = int(std::lround(cases));
-    return result;
+    if (!count.isMost())
+        return;
+    result.supports = count.supports();
+    result.cases = count.cases();
+    changes.push_back(result);
 }
 
 } // namespace
 
-std::vector<SharedChanges::Change> SharedChanges::of(const std::vector<Tables> &projects)
+std::vector<SharedChanges::Change> SharedChanges::of(const std::vector<KnownLines> &projects)
 {
     std::vector<Shown> shown(projects.size());
     WorkerPool::instance().run(int(projects.size()),
@@ -118,7 +108,8 @@ std::vector<SharedChanges::Change> SharedChanges::of(const std::vector<Tables> &
         for (const auto &[change, lines] : project.changes)
             ++counts[change];
     }
-    std::erase_if(counts, [](const auto &entry) { return entry.second < LeastProjects; });
+    std::erase_if(counts,
+                  [](const auto &entry) { return entry.second < SharedCount::LeastProjects; });
     std::set<OldValue> wanted;
     for (const auto &[change, count] : counts)
         wanted.insert(change.first);
@@ -126,11 +117,8 @@ std::vector<SharedChanges::Change> SharedChanges::of(const std::vector<Tables> &
         countCases(projects[size_t(i)], shown[size_t(i)], wanted);
     });
     std::vector<Change> changes;
-    for (const auto &[change, count] : counts) {
-        changes.push_back(counted(shown, change));
-        if (2 * changes.back().supports <= changes.back().cases) // the old value says more
-            changes.pop_back();
-    }
+    for (const auto &[change, count] : counts)
+        addCounted(shown, change, changes);
     return changes;
 }
 

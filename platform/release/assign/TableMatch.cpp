@@ -206,6 +206,47 @@ std::vector<TableMatch::NearPair> TableMatch::nearPairs() const
     return pairs;
 }
 
+std::vector<std::pair<int, int>> TableMatch::pairsBy(const std::vector<size_t> &places) const
+{
+    std::vector<int> sourceColumns;
+    std::vector<int> targetColumns;
+    for (const size_t place : places) {
+        sourceColumns.push_back(m_sourceColumns[place]);
+        targetColumns.push_back(m_targetColumns[place]);
+    }
+    constexpr int Several = -1;
+    const auto rowsOf = [](const LineCells &cells, const std::vector<int> &columns) {
+        std::unordered_map<quint64, int> rows;
+        for (int row = 0; row < cells.rowCount(); ++row) {
+            const auto [known, isNew] = rows.try_emplace(sumOver(cells, row, columns), row);
+            known->second = isNew ? row : Several;
+        }
+        return rows;
+    };
+    const auto mine = rowsOf(*m_source, sourceColumns);
+    const auto theirs = rowsOf(*m_target, targetColumns);
+    std::vector<std::pair<int, int>> pairs;
+    for (int row = 0; row < m_source->rowCount(); ++row) {
+        const int same = valuesIn(*m_source, row, sourceColumns);
+        if (same < 2 || 3 * same < 2 * m_source->valueCount(row))
+            continue;
+        const quint64 sum = sumOver(*m_source, row, sourceColumns);
+        const auto found = theirs.find(sum);
+        if (mine.at(sum) == row && found != theirs.end() && found->second != Several)
+            pairs.emplace_back(row, found->second);
+    }
+    return pairs;
+}
+
+double TableMatch::valueShare(size_t place) const
+{
+    const std::vector<quint32> mine = m_source->sortedValues(m_sourceColumns[place]);
+    const std::vector<quint32> theirs = m_target->sortedValues(m_targetColumns[place]);
+    const auto stays = std::ranges::count_if(
+        mine, [&](quint32 value) { return std::ranges::binary_search(theirs, value); });
+    return ratio(double(stays), double(mine.size()));
+}
+
 bool TableMatch::isRelated() const
 {
     return commonCount() >= 2 && 2 * commonCount() >= int(m_source->variables().size());

@@ -4,6 +4,7 @@
 
 #include <QtGlobal>
 
+#include <utility>
 #include <vector>
 
 namespace VelkRelease {
@@ -33,6 +34,12 @@ public:
     };
     /// In the order of the source's lines; none of fewer than three common variables.
     [[nodiscard]] std::vector<NearPair> nearPairs() const;
+    /// Lines that agree on the common variables in these places, when neither table has another
+    /// line like these, and in two values and two thirds of those of the source's line: source row
+    /// and target row, in the order of the source's lines.
+    [[nodiscard]] std::vector<std::pair<int, int>> pairsBy(const std::vector<size_t> &places) const;
+    /// Share of a common variable's values that the target has in it, whatever the lines.
+    [[nodiscard]] double valueShare(size_t place) const;
     /// Columns of the common variables.
     [[nodiscard]] const std::vector<int> &sourceColumns() const { return m_sourceColumns; }
     [[nodiscard]] const std::vector<int> &targetColumns() const { return m_targetColumns; }

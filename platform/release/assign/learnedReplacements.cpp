@@ -72,16 +72,22 @@ QList<LearnedReplacement> learnedReplacements(const std::vector<SharedChanges::C
         if (!replacement.before.isEmpty() && !replacement.after.isEmpty())
             kept.append(replacement);
     }
+    return kept;
+}
+
+QList<LearnedReplacement> mostSupported(QList<LearnedReplacement> learned)
+{
     const auto byText = [](const LearnedReplacement &a, const LearnedReplacement &b) {
-        return std::tie(a.variable, a.before, a.after) < std::tie(b.variable, b.before, b.after);
+        return std::tie(a.variable, a.before, a.after, a.factor, a.offset) <
+               std::tie(b.variable, b.before, b.after, b.factor, b.offset);
     };
-    std::sort(kept.begin(), kept.end(),
+    std::sort(learned.begin(), learned.end(),
               [&](const LearnedReplacement &a, const LearnedReplacement &b) {
                   return a.supports != b.supports ? a.supports > b.supports : byText(a, b);
               });
-    kept.resize(std::min(kept.size(), MostKept));
-    std::sort(kept.begin(), kept.end(), byText);
-    return kept;
+    learned.resize(std::min(learned.size(), MostKept));
+    std::sort(learned.begin(), learned.end(), byText);
+    return learned;
 }
 
 } // namespace VelkRelease
