@@ -437,8 +437,9 @@ void tst_StepRecorder::journalOfMoves()
     QFETCH(QString, name);
     openJournal();
     m_steps->beginMove();
-    m_steps->journalDifference(project("a.prj", {1}), project("a.prj"));
-    m_steps->journalDifference(project("a.prj"), project("a.prj")); // nothing to be written
+    m_steps->journal(MappingDifference::between(project("a.prj", {1}), project("a.prj")));
+    m_steps->journal(
+        MappingDifference::between(project("a.prj"), project("a.prj"))); // nothing to be written
     m_steps->journalStep(QStringLiteral("what"), Origin(origin));
     QCOMPARE(records(), QStringLiteral("change 1, step 1"));
     const QList<JournalReader::Step> steps = JournalReader::steps(session());

@@ -77,7 +77,7 @@ void tst_ReviewSamples::acceptedBySample()
     QVERIFY(script.isDone());
     QCOMPARE(fixture.confirmedLines(), confirmed + lines);
     QVERIFY2(fixture.document()->undoText().contains(
-                 "59 von 59 richtig, mit 95 % Sicherheit weniger als 5.0 % falsch"),
+                 "59 von 59 richtig, mit 95 % Sicherheit weniger als 5,0 % falsch"),
              qPrintable(fixture.document()->undoText()));
     const QList<PJsonValue> records = recordsOf(*fixture.document(), "sample");
     QCOMPARE(records.size(), 1);
