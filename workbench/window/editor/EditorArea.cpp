@@ -299,11 +299,8 @@ void EditorArea::showChange(const ProjectId &project, int line)
 {
     if (m_changed.isEmpty())
         QTimer::singleShot(0, this, &EditorArea::showChanges);
-    const auto known = std::ranges::find(m_changed, project, &LineRef::project);
-    if (known == m_changed.end())
-        m_changed += {project, line};
-    else
-        known->line = line;
+    m_changed.removeIf([&project](const LineRef &each) { return each.project == project; });
+    m_changed += {project, line};
 }
 
 void EditorArea::showChanges()
