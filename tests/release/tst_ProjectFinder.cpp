@@ -49,8 +49,8 @@ class tst_ProjectFinder : public QObject
 private Q_SLOTS:
     void finds_data();
     void finds();
-    void findsByColumns_data();
-    void findsByColumns();
+    void findsWithRoom_data();
+    void findsWithRoom();
     void manyProjectsWithTheSameLines();
     void longerNames();
     void searchesDoNotDisturbEachOther();
@@ -250,7 +250,7 @@ void tst_ProjectFinder::finds()
     QTEST(found, "found");
 }
 
-void tst_ProjectFinder::findsByColumns_data()
+void tst_ProjectFinder::findsWithRoom_data()
 {
     QTest::addColumn<QByteArray>("old");
     QTest::addColumn<Release>("release");
@@ -281,6 +281,18 @@ void tst_ProjectFinder::findsByColumns_data()
                    {"new/b/y.prj", half},
                    {"new/b/z.prj", half}}
         << none << QStringList{"new/b/y.prj", "new/b/z.prj"};
+    QTest::newRow("of two as good, the one in the same folder")
+        << two << Release{{"new/b/bolts.prj", half}, {"new/a/y.prj", half}} << none
+        << QStringList{"new/a/y.prj"};
+    QTest::newRow("a better one in another folder")
+        << two << Release{{"new/b/x.prj", half}, {"new/a/y.prj", "size,s;N1,3;N2,5;N3,7;N4,9;N5,1"}}
+        << none << QStringList{"new/b/x.prj"};
+    QTest::newRow("one that has lines, before one that has the columns")
+        << two
+        << Release{{"new/a/x.prj", half},
+                   {"new/b/y.prj", "size,s;M1,3;M2,5;M3,7"},
+                   {"new/b/z.prj", two}}
+        << std::vector<int>{0, 0, 5} << QStringList{"new/b/y.prj"};
     QTest::newRow("became another project")
         << two << Release{{"new/b/x.prj", half}} << std::vector<int>{5} << QStringList();
     QTest::newRow("room for half of the lines")
@@ -295,7 +307,7 @@ void tst_ProjectFinder::findsByColumns_data()
         << QStringList{"new/a/x.prj"};
 }
 
-void tst_ProjectFinder::findsByColumns()
+void tst_ProjectFinder::findsWithRoom()
 {
     QFETCH(QByteArray, old);
     QFETCH(Release, release);
@@ -311,7 +323,10 @@ void tst_ProjectFinder::findsByColumns()
     index.finish();
     QStringList found;
     const LineCells cells = cellsOf(old, names);
-    for (const int table : ProjectFinder(index).findByColumns("old/a/bolt.prj", cells, room))
+    const auto hasRoom = [&](int table) {
+        return 2 * room[size_t(table)] >= cells.rowCount();
+    };
+    for (const int table : ProjectFinder(index).findWithRoom("old/a/bolt.prj", cells, hasRoom))
         found << index.path(table);
     QTEST(found, "found");
 }

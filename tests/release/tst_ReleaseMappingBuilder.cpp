@@ -88,6 +88,8 @@ private Q_SLOTS:
     void dissolvedTable();
     void reworkedTable_data();
     void reworkedTable();
+    void fullTables_data();
+    void fullTables();
     void recordsVersionsAndDates();
     void givenDatesWin();
     void datesCompareInUtc();
@@ -218,13 +220,13 @@ void tst_ReleaseMappingBuilder::reworkedTable_data()
 {
     QTest::addColumn<QByteArray>("more"); // lines of the table that has some like it
     QTest::addColumn<QString>("expected");
-    QTest::newRow("no room") << QByteArray() << "old/a/pitch.prj: new/a/threads.prj new/b/tap.prj";
+    QTest::newRow("no room") << QByteArray() << "old/a/pitch.prj: new/a/threads.prj";
     QTest::newRow("room for half of its lines")
         << QByteArray(";M8,20;M9,22") << "old/a/pitch.prj: new/b/tap.prj";
 }
 
 /// A table whose one variable was reworded, and whose other one has another name: it is told by the
-/// values of that, before the table that only has some lines like it and had them before.
+/// values of that, and not by the table that only has some lines like it and had them before.
 void tst_ReleaseMappingBuilder::reworkedTable()
 {
     QFETCH(QByteArray, more);
@@ -237,6 +239,57 @@ void tst_ReleaseMappingBuilder::reworkedTable()
     ReleaseMappingBuilder builder(releases.input());
     QCOMPARE(builder.build(), Outcome::Complete);
     QCOMPARE(told(builder.release()), QStringList({expected, "old/b/tap.prj: new/b/tap.prj"}));
+}
+
+void tst_ReleaseMappingBuilder::fullTables_data()
+{
+    using Tables = QList<QPair<QString, QByteArray>>;
+    QTest::addColumn<Tables>("before"); // beside a/pitch
+    QTest::addColumn<Tables>("after");
+    QTest::addColumn<QString>("expected"); // what a/pitch becomes
+    // a/pitch has the lines 1 to 6.
+    const QByteArray most = "size,p;M1,3;M2,4;M3,5;M4,7;M5,8;M7,9";
+    const QByteArray some = "size,p;M2,4;M3,5;M4,7;M9,9";
+    const QByteArray others = ";M11,20;M12,21;M13,22;M14,23;M15,24;M16,25";
+    const Tables tap{{"b/tap", most}};
+
+    QTest::newRow("nobody's table")
+        << tap << Tables{{"b/tap", most}, {"c/rod", some}} << "old/a/pitch.prj: new/c/rod.prj";
+    QTest::newRow("no other table") << tap << tap << "old/a/pitch.prj: new/b/tap.prj";
+    QTest::newRow("the other has less than half of the lines")
+        << tap << Tables{{"b/tap", most}, {"c/rod", "size,p;M2,4;M3,6"}}
+        << "old/a/pitch.prj: new/b/tap.prj";
+    QTest::newRow("room for both")
+        << tap << Tables{{"b/tap", most + others}, {"c/rod", some + others + others}}
+        << "old/a/pitch.prj: new/b/tap.prj";
+    QTest::newRow("parts of a table that was split")
+        << Tables{{"b/tap", most + others}}
+        << Tables{{"b/tap-a", most}, {"b/tap-b", "size,p" + others}, {"c/rod", some}}
+        << "old/a/pitch.prj: new/c/rod.prj";
+    QTest::newRow("a nearer name became it")
+        << Tables{{"b/tapl", most}} << Tables{{"b/ta", most}, {"c/rod", some}}
+        << "old/a/pitch.prj: new/c/rod.prj";
+    QTest::newRow("no name is nearer")
+        << Tables{{"b/lam", most}} << Tables{{"b/pitc", most}, {"c/rod", some}}
+        << "old/a/pitch.prj: new/b/pitc.prj";
+}
+
+/// A table that is full of the lines of the project that became it is nothing that another one
+/// became, even if it has most of its lines.
+void tst_ReleaseMappingBuilder::fullTables()
+{
+    using Tables = QList<QPair<QString, QByteArray>>;
+    QFETCH(Tables, before);
+    QFETCH(Tables, after);
+    Releases releases;
+    releases.source.add("a/pitch", "size,p;M1,3;M2,4;M3,5;M4,7;M5,8;M6,9");
+    for (const auto &[path, table] : before)
+        releases.source.add(path, table);
+    for (const auto &[path, table] : after)
+        releases.target.add(path, table);
+    ReleaseMappingBuilder builder(releases.input());
+    QCOMPARE(builder.build(), Outcome::Complete);
+    QTEST(told(builder.release()).first(), "expected");
 }
 
 void tst_ReleaseMappingBuilder::recordsVersionsAndDates()

@@ -70,7 +70,7 @@ public:
         return m_found;
     }
 
-    std::vector<int> runByColumns(const std::vector<int> &room) const;
+    std::vector<int> runWithRoom(const ProjectFinder::HasRoom &hasRoom);
 
 private:
     [[nodiscard]] Candidate candidate(int table) const
@@ -115,10 +115,12 @@ private:
     [[nodiscard]] Candidates partsByName() const;
     [[nodiscard]] Candidates ranked(const std::vector<int> &tables) const;
     void searchRest(bool named);
-    [[nodiscard]] Candidates related(bool named) const;
+    [[nodiscard]] Candidates related(bool named,
+                                     const ProjectFinder::HasRoom &hasRoom = nullptr) const;
     void addSimilar(Candidates &candidates);
     [[nodiscard]] double chanceOf(const Candidate &candidate) const;
     void addParts(Candidates &candidates);
+    [[nodiscard]] std::vector<int> byColumns(const ProjectFinder::HasRoom &hasRoom) const;
     void addOnlyHolders(Candidates &candidates);
 
     const ReleaseIndex &m_index;
@@ -198,12 +200,12 @@ void Search::searchRest(bool named)
 /// Tables that share enough variables. If none of them has all lines, near lines count too, unless
 /// the project was found by its name: then others matter for equal lines alone, and under no
 /// other names of variables.
-Candidates Search::related(bool named) const
+Candidates Search::related(bool named, const ProjectFinder::HasRoom &hasRoom) const
 {
     Candidates candidates;
     bool complete = named;
     for (const int table : m_index.holders(m_cells, m_rest, Compared)) {
-        if (std::ranges::count(m_found, table))
+        if (std::ranges::count(m_found, table) || (hasRoom && !hasRoom(table)))
             continue;
         Candidate related = candidate(table);
         if (!related.match.isRelated()) {
@@ -281,7 +283,16 @@ void Search::addParts(Candidates &candidates)
     }
 }
 
-std::vector<int> Search::runByColumns(const std::vector<int> &room) const
+std::vector<int> Search::runWithRoom(const ProjectFinder::HasRoom &hasRoom)
+{
+    m_rest = m_allRows;
+    Candidates candidates = related(false, hasRoom);
+    addSimilar(candidates);
+    addParts(candidates);
+    return 2 * m_rest.size() > m_allRows.size() ? byColumns(hasRoom) : m_found;
+}
+
+std::vector<int> Search::byColumns(const ProjectFinder::HasRoom &hasRoom) const
 {
     const QString folder = folderInCatalog(m_path);
     std::vector<int> tables = m_index.holders(m_cells, m_allRows, Compared);
@@ -289,7 +300,7 @@ std::vector<int> Search::runByColumns(const std::vector<int> &room) const
         if (!std::ranges::count(tables, table))
             tables.push_back(table);
     }
-    std::erase_if(tables, [&](int table) { return 2 * room[size_t(table)] < m_cells.rowCount(); });
+    std::erase_if(tables, [&](int table) { return !hasRoom(table); });
     Candidates candidates;
     for (const int table : tables) {
         Candidate found = candidate(table);
@@ -304,11 +315,16 @@ std::vector<int> Search::runByColumns(const std::vector<int> &room) const
             candidates.push_back(std::move(found));
     }
     std::ranges::sort(candidates, {}, &Candidate::rank);
+    const double least = candidates.empty() ? 0 : candidates.front().score * AsGood;
+    std::erase_if(candidates, [least](const Candidate &c) { return c.score < least; });
+    const auto isNear = [&](const Candidate &c) {
+        return folderInCatalog(m_index.path(c.table)) == folder;
+    };
+    if (std::ranges::any_of(candidates, isNear))
+        std::erase_if(candidates, [&](const Candidate &c) { return !isNear(c); });
     std::vector<int> best;
-    for (const Candidate &found : candidates) {
-        if (best.size() < MaxSimilar && found.score >= candidates.front().score * AsGood)
-            best.push_back(found.table);
-    }
+    for (size_t i = 0; i < candidates.size() && i < MaxSimilar; ++i)
+        best.push_back(candidates[i].table);
     return best;
 }
 
@@ -342,10 +358,10 @@ std::vector<int> ProjectFinder::find(const QString &projectPath, const LineCells
     return Search(m_index, projectPath, cells).run();
 }
 
-std::vector<int> ProjectFinder::findByColumns(const QString &projectPath, const LineCells &cells,
-                                              const std::vector<int> &room) const
+std::vector<int> ProjectFinder::findWithRoom(const QString &projectPath, const LineCells &cells,
+                                             const HasRoom &hasRoom) const
 {
-    return Search(m_index, projectPath, cells).runByColumns(room);
+    return Search(m_index, projectPath, cells).runWithRoom(hasRoom);
 }
 
 } // namespace VelkRelease

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <vector>
 
 namespace VelkRelease {
@@ -34,12 +35,15 @@ public:
     /// 4. projects that alone in the release have lines equal to those that none of the above has.
     ///    A line whose key one of the above has was changed, not moved, and is not looked for.
     [[nodiscard]] std::vector<int> find(const QString &projectPath, const LineCells &cells) const;
-    /// For a project that has none of these: tables that have room for half of its lines, and the
-    /// values of its columns, though not in the same lines. Where some columns were reworded or
-    /// given in another unit, hardly any line is as it was. \a room: by table the lines that it
-    /// has beyond those of the projects that became it.
-    [[nodiscard]] std::vector<int> findByColumns(const QString &projectPath, const LineCells &cells,
-                                                 const std::vector<int> &room) const;
+    /// Whether a table has room for half of the project's lines, beside those of the projects that
+    /// became it.
+    using HasRoom = std::function<bool(int table)>;
+    /// For a project that has none of these, or only tables without room: those of kind 3 that have
+    /// room, if they hold half of the lines together; else tables with room that have the values of
+    /// its columns, though not in the same lines. Where some columns were reworded or given in
+    /// another unit, hardly any line is as it was.
+    [[nodiscard]] std::vector<int> findWithRoom(const QString &projectPath, const LineCells &cells,
+                                                const HasRoom &hasRoom) const;
 
 private:
     const ReleaseIndex &m_index;

@@ -12,6 +12,7 @@
 #include "RuleProposals.h"
 #include "SharedChanges.h"
 #include "sharedNumbers.h"
+#include "TableRoom.h"
 #include "TargetOwners.h"
 #include "VariableNames.h"
 
@@ -66,7 +67,6 @@ private:
     void takeMessages();
     /// By source project: the tables that can take over its lines.
     [[nodiscard]] std::vector<std::vector<int>> findTables() const;
-    void findByColumns(std::vector<std::vector<int>> &tables) const;
     [[nodiscard]] PrjMappingC mappingOf(const ReadProject &source,
                                         const std::vector<int> &tables) const;
     void addTargets(PrjMappingC &mapping, const std::vector<int> &tables) const;
@@ -175,39 +175,27 @@ std::vector<std::vector<int>> ReleaseMappingBuilder::Work::findTables() const
     const TargetOwners owners(sources, targets, found);
     std::vector<std::vector<int>> kept(m_sources.size());
     WorkerPool::instance().run(count, [&](int i) { kept[size_t(i)] = owners.withoutOthers(i); });
-    findByColumns(kept);
-    return kept;
-}
-
-/// What other projects became has no room for one of another name: where the lines that a project
-/// has in common with such a table are all that speaks for it, tables with room come before it.
-void ReleaseMappingBuilder::Work::findByColumns(std::vector<std::vector<int>> &tables) const
-{
-    std::vector<int> room;
-    room.reserve(size_t(m_index.count()));
-    for (int table = 0; table < m_index.count(); ++table)
-        room.push_back(m_index.table(table).rowCount());
-    for (size_t i = 0; i < tables.size(); ++i) {
-        if (!tables[i].empty())
-            room[size_t(tables[i].front())] -= m_sources[i].cells.rowCount();
-    }
-    WorkerPool::instance().run(int(tables.size()), [&](int i) {
-        const ReadProject &source = m_sources[size_t(i)];
-        std::vector<int> &found = tables[size_t(i)];
-        const int rows = source.cells.rowCount();
-        const bool isNamed =
-            !found.empty() &&
-            m_index.name(found.front()).startsWith(foldedName(source.project.path));
-        if (isNamed || (!found.empty() && 2 * (room[size_t(found.front())] + rows) >= rows))
+    // What other projects became has no room for one of another name.
+    const TableRoom room(sources, targets, kept);
+    WorkerPool::instance().run(count, [&](int i) {
+        std::vector<int> &tables = kept[size_t(i)];
+        if (!room.isMissing(i, tables))
             return;
+        const auto hasRoom = [&](int table) {
+            return room.isThere(i, table);
+        };
+        const ReadProject &source = m_sources[size_t(i)];
         std::vector<int> better =
-            ProjectFinder(m_index).findByColumns(source.project.path, source.cells, room);
-        for (const int table : found) {
-            if (!std::ranges::count(better, table))
+            ProjectFinder(m_index).findWithRoom(source.project.path, source.cells, hasRoom);
+        if (better.empty())
+            return;
+        for (const int table : tables) {
+            if (hasRoom(table) && !std::ranges::count(better, table))
                 better.push_back(table);
         }
-        found = std::move(better);
+        tables = std::move(better);
     });
+    return kept;
 }
 
 PrjMappingC ReleaseMappingBuilder::Work::mappingOf(const ReadProject &source,
