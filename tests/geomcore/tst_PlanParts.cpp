@@ -266,6 +266,7 @@ void tst_PlanParts::longListsAddNothingNew()
     }
     std::sort(expected.begin(), expected.end());
     std::vector<int> rows;
+    rows.reserve(size_t(CandidateLists::MaxRows));
     for (int i = 0; i < CandidateLists::MaxRows; ++i)
         rows.push_back(expected[size_t(i)].second);
     std::sort(rows.begin(), rows.end());
