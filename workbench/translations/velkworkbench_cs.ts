@@ -4153,6 +4153,10 @@ Projekt: %1
             <numerusform>%1 v %Ln projektech</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Noch keine Zeile zugeordnet</source>
+        <translation>Zatím není přiřazen žádný řádek</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>

@@ -4076,6 +4076,10 @@ Linje: %2
             <numerusform>%1 i %Ln projekter</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Noch keine Zeile zugeordnet</source>
+        <translation>Endnu ingen linje tildelt</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>

@@ -4076,6 +4076,10 @@ Line: %2
             <numerusform>%1 in %Ln projects</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Noch keine Zeile zugeordnet</source>
+        <translation>No line assigned yet</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>

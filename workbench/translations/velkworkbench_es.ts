@@ -4076,6 +4076,10 @@ Fila: %2
             <numerusform>%1 en %Ln proyectos</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Noch keine Zeile zugeordnet</source>
+        <translation>Aún no hay ninguna fila asignada</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>

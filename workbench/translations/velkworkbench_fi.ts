@@ -4076,6 +4076,10 @@ Rivi: %2
             <numerusform>%1, %Ln projektissa</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Noch keine Zeile zugeordnet</source>
+        <translation>Yhtään riviä ei ole vielä kohdistettu</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>

@@ -4076,6 +4076,10 @@ Ligne : %2
             <numerusform>%1 dans %Ln projets</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Noch keine Zeile zugeordnet</source>
+        <translation>Aucune ligne affectée pour l’instant</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>

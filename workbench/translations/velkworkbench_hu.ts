@@ -3999,6 +3999,10 @@ Sor: %2
             <numerusform>%1, %Ln projektben</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Noch keine Zeile zugeordnet</source>
+        <translation>Még nincs sor hozzárendelve</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>

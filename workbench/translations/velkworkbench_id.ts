@@ -3999,6 +3999,10 @@ Baris: %2
             <numerusform>%1 di %Ln proyek</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Noch keine Zeile zugeordnet</source>
+        <translation>Belum ada baris yang ditetapkan</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>

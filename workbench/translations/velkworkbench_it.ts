@@ -4076,6 +4076,10 @@ Riga: %2
             <numerusform>%1 in %Ln progetti</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Noch keine Zeile zugeordnet</source>
+        <translation>Ancora nessuna riga assegnata</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>

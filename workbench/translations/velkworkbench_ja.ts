@@ -3999,6 +3999,10 @@ Zeile: %2
             <numerusform>%1、%Ln 件のプロジェクト</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Noch keine Zeile zugeordnet</source>
+        <translation>まだ割り当てられた行がありません</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>

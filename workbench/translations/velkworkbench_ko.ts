@@ -3999,6 +3999,10 @@ Zeile: %2
             <numerusform>%1, 프로젝트 %Ln개</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Noch keine Zeile zugeordnet</source>
+        <translation>아직 할당된 행이 없습니다</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>

@@ -4076,6 +4076,10 @@ Linje: %2
             <numerusform>%1 i %Ln prosjekter</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Noch keine Zeile zugeordnet</source>
+        <translation>Ingen linje tilordnet ennå</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>

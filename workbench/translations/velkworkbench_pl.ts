@@ -4153,6 +4153,10 @@ Wiersz: %2
             <numerusform>%1 w %Ln projektach</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Noch keine Zeile zugeordnet</source>
+        <translation>Nie przypisano jeszcze żadnego wiersza</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>

@@ -4076,6 +4076,10 @@ Linha: %2
             <numerusform>%1 em %Ln projetos</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Noch keine Zeile zugeordnet</source>
+        <translation>Ainda nenhuma linha atribuída</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>

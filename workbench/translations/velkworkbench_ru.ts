@@ -4153,6 +4153,10 @@ Zeile: %2
             <numerusform>%1 в %Ln проектах</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Noch keine Zeile zugeordnet</source>
+        <translation>Ещё не назначена ни одна строка</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>

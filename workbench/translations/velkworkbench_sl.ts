@@ -4230,6 +4230,10 @@ Vrstica: %2
             <numerusform>%1 v %Ln projektih</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Noch keine Zeile zugeordnet</source>
+        <translation>Nobena vrstica še ni dodeljena</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>

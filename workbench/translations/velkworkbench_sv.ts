@@ -4076,6 +4076,10 @@ Rad: %2
             <numerusform>%1 i %Ln projekt</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Noch keine Zeile zugeordnet</source>
+        <translation>Ännu ingen rad tilldelad</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>

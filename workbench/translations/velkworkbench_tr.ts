@@ -3999,6 +3999,10 @@ Satır: %2
             <numerusform>%1, %Ln projede</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Noch keine Zeile zugeordnet</source>
+        <translation>Henüz hiçbir satır atanmadı</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>

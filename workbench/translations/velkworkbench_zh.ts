@@ -3999,6 +3999,10 @@ Zeile: %2
             <numerusform>%1，%Ln 个项目</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Noch keine Zeile zugeordnet</source>
+        <translation>尚未分配任何行</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>

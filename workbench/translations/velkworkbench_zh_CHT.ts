@@ -3999,6 +3999,10 @@ Zeile: %2
             <numerusform>%1，%Ln 個專案</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Noch keine Zeile zugeordnet</source>
+        <translation>尚未指派任何列</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgress</name>

@@ -243,6 +243,8 @@ void MainWindow::updateCounter()
         m_status->setFilteredLines(numbers.lines, numbers.projects);
     } else if (const OpenLines *const chosen = m_lines->chosenLines()) {
         m_status->setFilteredLines(chosen->count(), chosen->projectCount());
+    } else if (m_desk->document()->counts().lines() == 0) {
+        m_status->setNothingAssigned();
     } else {
         m_status->setOpenLines(open.count(), open.projectCount());
     }

@@ -213,6 +213,8 @@ void MainWindow::connectCommands()
     connectTo(WorkbenchActions::RemoveLines, onMany(BulkOperation::Remove));
     connectTo(WorkbenchActions::RemoveConfirmLines, onMany(BulkOperation::RemoveAndConfirm));
     connectTo(WorkbenchActions::AssignAll, [this] { assignAll(); });
+    connect(m_status, &StatusArea::assignRequested, m_actions->action(WorkbenchActions::AssignAll),
+            &QAction::trigger);
     connectTo(WorkbenchActions::CarryDecisions, [this] { m_carry->carryByDialog(); });
     connectTo(WorkbenchActions::CheckValueRanges, [this] { checkValueRanges(); });
     connectTo(WorkbenchActions::EditScript, [this] { m_scripts->showEditor(); });

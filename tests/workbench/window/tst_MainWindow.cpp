@@ -2,6 +2,7 @@
 #include "WindowFixture.h"
 
 #include <core/access/AddressedFiles.h>
+#include <core/files/DurableFile.h>
 #include <core/message/PMessage.h>
 #include <geomcore/records/MappingFile.h>
 #include <geomcoregui/table/VkTableView.h>
@@ -10,6 +11,7 @@
 #include <workbench/session/document/MappingDocument.h>
 #include <workbench/session/journal/SessionRecovery.h>
 #include <workbench/window/document/DocumentDesk.h>
+#include <workbench/window/document/MappingMaker.h>
 #include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/help/TourOverlay.h>
 #include <workbench/window/MainWindow.h>
@@ -611,6 +613,29 @@ private Q_SLOTS:
         fixture.action("editUndo")->trigger();
         QTRY_COMPARE(document.undoTexts().size(), 1);
         QCOMPARE(fixture.confirmedLines(), 1);
+    }
+
+    void counterOfAReleaseWithoutLinesOffersToAssignThem()
+    {
+        WindowFixture fixture;
+        const QString file = fixture.directory.filePath("empty.json");
+        MappingMaker maker;
+        QVERIFY(maker.make({.sourceRoot = WindowFixture::roots().source,
+                            .targetRoot = WindowFixture::roots().target,
+                            .sourceCatalog = "standardparts",
+                            .targetCatalog = "standardparts",
+                            .assign = false}));
+        MappingFile made;
+        made.setRelease(maker.release());
+        QVERIFY(DurableFile::write(file, made.toByteArray()));
+        fixture.open(file);
+        auto *const counter = fixture.window->findChild<QLabel *>("statusOpen");
+        QCOMPARE(counter->text(), "<a href=\"assign\">Noch keine Zeile zugeordnet</a>");
+        ModalScript script;
+        script.thenClick("answerRefuse"); // all lines anew
+        QTest::mouseClick(counter, Qt::LeftButton, {}, counter->rect().center());
+        QVERIFY(script.isDone());
+        QTRY_COMPARE(counter->text(), "Offen: <a href=\"next\">784 Zeilen</a> in 35 Projekten");
     }
 
 public Q_SLOTS:

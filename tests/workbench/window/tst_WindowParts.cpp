@@ -367,6 +367,13 @@ private Q_SLOTS:
         QVERIFY(!open->isHidden());
         status.setOpenLines(-1, 0);
         QVERIFY(open->isHidden());
+        status.setNothingAssigned();
+        QVERIFY(!open->isHidden());
+        QVERIFY(open->toolTip().isEmpty());
+        QEvent change(QEvent::LanguageChange);
+        QApplication::sendEvent(&status, &change);
+        QCOMPARE(open->text(),
+                 QStringLiteral("<a href=\"assign\">Noch keine Zeile zugeordnet</a>"));
     }
 
     void progressShowsAndCancels()

@@ -31,7 +31,12 @@ StatusArea::StatusArea(QWidget *parent)
     addPermanentWidget(m_open);
     m_readOnly->hide();
     connect(m_note, &QLabel::linkActivated, this, &StatusArea::undoRequested);
-    connect(m_open, &QLabel::linkActivated, this, &StatusArea::nextOpenRequested);
+    connect(m_open, &QLabel::linkActivated, this, [this](const QString &link) {
+        if (link == u"assign")
+            Q_EMIT assignRequested();
+        else
+            Q_EMIT nextOpenRequested();
+    });
     retranslate();
     writeNote();
 }
@@ -77,7 +82,7 @@ QString StatusArea::linesText(int lines, int projects)
 
 void StatusArea::setOpenLines(int lines, int projects)
 {
-    m_isFiltered = false;
+    m_counted = Counted::Open;
     m_lines = lines;
     m_projects = projects;
     m_open->setVisible(lines >= 0);
@@ -91,7 +96,7 @@ void StatusArea::setOpenLines(int lines, int projects)
 
 void StatusArea::setFilteredLines(int lines, int projects)
 {
-    m_isFiltered = true;
+    m_counted = Counted::Filtered;
     m_lines = lines;
     m_projects = projects;
     m_open->show();
@@ -101,6 +106,15 @@ void StatusArea::setFilteredLines(int lines, int projects)
         m_open->setText(tr("Filter: %1").arg(linesText(lines, projects)));
     }
     m_open->setToolTip(tr("Zeilen, die der Filter über alle Zeilen zeigt"));
+}
+
+void StatusArea::setNothingAssigned()
+{
+    m_counted = Counted::Nothing;
+    m_open->show();
+    m_open->setText(
+        QStringLiteral("<a href=\"assign\">%1</a>").arg(tr("Noch keine Zeile zugeordnet")));
+    m_open->setToolTip(QString());
 }
 
 void StatusArea::setReadOnly(const QString &reason)
@@ -114,10 +128,17 @@ void StatusArea::setReadOnly(const QString &reason)
 void StatusArea::retranslate()
 {
     writeNote();
-    if (m_isFiltered)
-        setFilteredLines(m_lines, m_projects);
-    else
+    switch (m_counted) {
+    case Counted::Open:
         setOpenLines(m_lines, m_projects);
+        break;
+    case Counted::Filtered:
+        setFilteredLines(m_lines, m_projects);
+        break;
+    case Counted::Nothing:
+        setNothingAssigned();
+        break;
+    }
     setReadOnly(m_readOnlyReason);
 }
 

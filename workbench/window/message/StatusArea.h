@@ -25,6 +25,8 @@ public:
     void setOpenLines(int lines, int projects);
     /// The same of the lines that the filter over all lines accepts.
     void setFilteredLines(int lines, int projects);
+    /// No project of the release has any line yet.
+    void setNothingAssigned();
     /// Empty: the file can be changed.
     void setReadOnly(const QString &reason);
     [[nodiscard]] StatusProgress *progress() const { return m_progress; }
@@ -33,11 +35,15 @@ Q_SIGNALS:
     void undoRequested();
     /// The counter was clicked.
     void nextOpenRequested();
+    /// It was clicked while nothing is assigned.
+    void assignRequested();
 
 protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    enum class Counted { Open, Filtered, Nothing };
+
     void retranslate();
     void writeNote();
     /// "<a>3 lines</a> in 2 projects"
@@ -52,5 +58,5 @@ private:
     bool m_undoable = false;
     int m_lines = -1;
     int m_projects = 0;
-    bool m_isFiltered = false;
+    Counted m_counted = Counted::Open;
 };
