@@ -70,6 +70,26 @@ private Q_SLOTS:
         QVERIFY(WorkbenchSettings(file).values().keys.isEmpty());
     }
 
+    void leavesLanguageAndColoursToTheDesktopUntilTheyAreChosen()
+    {
+        const QString file = m_directory.filePath("desktop.ini");
+        WorkbenchSettings settings(file);
+        WorkbenchSettings::Values values = settings.values();
+        values.language = "fr";
+        values.theme = "dark";
+        settings.setValuesForNow(values); // of the command line
+        values.fontPercent = 110;
+        settings.setValues(values);
+        QCOMPARE(WorkbenchSettings(file).values().fontPercent, 110);
+        QCOMPARE(WorkbenchSettings(file).values().language, EditorLanguages::firstOn());
+        QCOMPARE(WorkbenchSettings(file).values().theme, QString());
+        QVERIFY(!QSettings(file, QSettings::IniFormat).contains("Settings/language"));
+        values.language = "it";
+        values.theme = "light";
+        settings.setValues(values);
+        QCOMPARE(WorkbenchSettings(file).values(), values);
+    }
+
     void forgetsValuesForNow()
     {
         const QString file = m_directory.filePath("now.ini");

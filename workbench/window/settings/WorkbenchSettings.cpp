@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -105,7 +106,12 @@ void WorkbenchSettings::setValues(const Values &values)
     wanted.autosaveMinutes = std::clamp(wanted.autosaveMinutes, 0, MaxAutosaveMinutes);
     if (wanted == m_values)
         return;
-    m_values = wanted;
+    const Values before = std::exchange(m_values, wanted);
+    // What the desktop or the command line gave stays theirs until it is chosen here.
+    if (m_values.language != before.language)
+        m_store.setValue("Settings/language", m_values.language);
+    if (m_values.theme != before.theme)
+        m_store.setValue("Settings/theme", m_values.theme);
     writeValues();
     Q_EMIT valuesChanged();
 }
@@ -120,8 +126,6 @@ void WorkbenchSettings::setValuesForNow(const Values &values)
 
 void WorkbenchSettings::writeValues()
 {
-    m_store.setValue("Settings/language", m_values.language);
-    m_store.setValue("Settings/theme", m_values.theme);
     m_store.setValue("Settings/fontPercent", m_values.fontPercent);
     m_store.setValue("Settings/autosaveMinutes", m_values.autosaveMinutes);
     m_store.setValue("Settings/goesOn", m_values.goesOn);
