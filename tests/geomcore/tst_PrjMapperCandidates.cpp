@@ -58,6 +58,7 @@ private Q_SLOTS:
     void agreedReplacementIsTold();
     void goneLinesHaveNoProposal();
     void equalLinesOfAllTargets();
+    void equalLineThatIsTaken();
     void likeLinesKeepTheirOrder();
     void renumberedKey();
     void probabilitiesHold_data();
@@ -344,6 +345,24 @@ void tst_PrjMapperCandidates::equalLinesOfAllTargets()
     QCOMPARE(fixture.proposal(2), QString("0:2"));
     QCOMPARE(fixture.proposal(3), QString("1:1"));
     QCOMPARE(fixture.proposal(4), QString("1:2"));
+}
+
+/// Of lines that equal each other one is gone: the row of another one is its best candidate, and
+/// not proposed.
+void tst_PrjMapperCandidates::equalLineThatIsTaken()
+{
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", "D,k:n\nM1,1\nM5,5\nM5,5\nM7,7\nM7,7\nM8,8\n");
+    catalog.write("new/a.prj", "D,k:n\nM1,1\nM5,5\nM7,7\nM7,7\nM8,8\n");
+    MapperFixture fixture(catalog, {"new/a.prj"});
+    fixture.start();
+    QCOMPARE(fixture.proposal(2), QString("none"));
+    QCOMPARE(fixture.proposal(3), QString("0:2"));
+    const Candidates found = candidatesOf(fixture, 2);
+    QVERIFY(found.sameByView);
+    QVERIFY(!found.list.candidates.isEmpty());
+    QCOMPARE(found.list.candidates.first().lineId, VKTab::LineId(2));
+    QCOMPARE(found.list.explanation, QStringLiteral("Keine Zeile der Ziele passt zu dieser."));
 }
 
 /// Rows came in above and below some lines that are alike.

@@ -95,7 +95,11 @@ void tst_PrjMapperCreate::exactHits_data()
     row("several equal lines: the one in its place", "D,k:n\nM9,6\nM8,5\n",
         "D,k:n\nM8,5\nM9,6\nM8,5\n", {"0:2 ok", "0:3"});
     row("equal lines on both sides are paired off by place", "D,k:n\nM8,5\nM8,5\nM7,4\nM8,5\n",
-        "D,k:n\nM8,5\nM7,4\nM8,5\n", {"0:1", "0:1", "0:2 ok", "0:3"});
+        "D,k:n\nM8,5\nM7,4\nM8,5\n", {"0:1", "none", "0:2 ok", "0:3"});
+    row("fewer equal lines, while others stay several", "D,k:n\nM8,5\nM8,5\nM9,6\nM9,6\n",
+        "D,k:n\nM8,5\nM9,6\nM9,6\n", {"0:1", "none", "0:2", "0:3"});
+    row("fewer equal lines, while others are more", "D,k:n\nM8,5\nM8,5\nM9,6\n",
+        "D,k:n\nM8,5\nM9,6\nM9,6\n", {"0:1", "0:1", "0:3"});
     row("two source lines for one target line", "D,k:n\nM8,5\nM8,5\nM9,6\n", "D,k:n\nM8,5\nM9,6\n",
         {"0:1", "0:1", "0:2 ok"});
     row("target range contains the value", "D,L:n\nM8,12\n", "D,L:r\nM8,10;12;16\n", {"0:1 ok"});

@@ -308,6 +308,14 @@ void tst_PrjMapperForms::exactHitsAreThoseOfAPlainSearch()
             QVERIFY2(!ok, "no equal line, so nothing is certain");
             continue;
         }
+        if (!line.isFound()) { // it equals other lines, of which some are gone
+            const LineCandidatesC found =
+                fixture.mapper.candidates(id.value(0), fixture.varset(id.value(0)));
+            QVERIFY(!found.candidates.isEmpty());
+            QVERIFY(hits[found.candidates.first().targetIndex].contains(
+                found.candidates.first().lineId.value(0)));
+            continue;
+        }
         QCOMPARE(line.getTargetIndex(), expected);
         QVERIFY(hits[expected].contains(line.getTargetLineId()));
         if (ok)

@@ -21,6 +21,9 @@ public:
     [[nodiscard]] int hit(int sourceRow) const { return m_hits[size_t(sourceRow)]; }
     /// Whether several target rows are equal.
     [[nodiscard]] bool isSeveral(int sourceRow) const { return m_several.contains(sourceRow); }
+    /// The row equals other source rows as well, and all of them together have fewer equal ones,
+    /// while some that equal each other have several: they were not merged, so some are gone.
+    [[nodiscard]] bool isOutnumbered(int sourceRow) const { return has(m_outnumbered, sourceRow); }
     /// Whether it is known that the proposed row alone is equal to the source row, as a text too,
     /// and is so to no other source row. What is not known has to be looked at.
     [[nodiscard]] bool isUndisputed(int sourceRow) const { return has(m_undisputed, sourceRow); }
@@ -50,7 +53,8 @@ private:
 
     std::vector<int> m_hits;
     VKTab::LineSet m_several;
-    VKTab::LineSet m_undisputed; ///< Empty if lines are looked at one by one.
+    VKTab::LineSet m_outnumbered; ///< Empty if there are none.
+    VKTab::LineSet m_undisputed;  ///< Empty if lines are looked at one by one.
     std::vector<quint8> m_claims;
     int m_claimsKnownTo = 0;
     // Empty unless ranges are walked.

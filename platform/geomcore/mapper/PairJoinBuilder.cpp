@@ -232,6 +232,7 @@ void PairJoinBuilder::pairOff()
     if (m_join->m_several.count() == 0 ||
         !m_target.table()->exactSearch(m_target.variables())->onlyIndex())
         return;
+    findOutnumbered();
     int last = -1;
     for (int row = 0; row < int(m_join->m_hits.size()); ++row) {
         int &hit = m_join->m_hits[size_t(row)];
@@ -241,14 +242,44 @@ void PairJoinBuilder::pairOff()
     }
 }
 
+/// Before lines are paired off: each has the first of its equal rows.
+void PairJoinBuilder::findOutnumbered()
+{
+    const LineIndex &index = *m_target.table()->exactSearch(m_target.variables())->onlyIndex();
+    std::vector<int> lines(m_join->m_claims.size(), 0);
+    bool keepsDoubles = false;
+    for (int row = 0; row < int(m_join->m_hits.size()); ++row) {
+        const int hit = m_join->hit(row);
+        if (hit < 0 || m_join->claims(hit) < 2)
+            continue;
+        ++lines[size_t(hit)];
+        keepsDoubles = keepsDoubles || m_join->isSeveral(row);
+    }
+    if (!keepsDoubles)
+        return;
+    for (size_t first = 0; first < lines.size(); ++first) {
+        for (int row = int(first); row >= 0 && lines[first] > 0; row = index.nextOf(row))
+            lines[first] -= isProposable(row) ? 1 : 0;
+    }
+    m_join->m_outnumbered = VKTab::LineSet(int(m_join->m_hits.size()), false);
+    for (int row = 0; row < int(m_join->m_hits.size()); ++row) {
+        if (m_join->hit(row) >= 0 && lines[size_t(m_join->hit(row))] > 0)
+            m_join->m_outnumbered.insert(row);
+    }
+}
+
+bool PairJoinBuilder::isProposable(int row) const
+{
+    return !m_target.shownOnly() || m_target.table()->isShown(row);
+}
+
 int PairJoinBuilder::nextEqual(int first, int after)
 {
     const LineIndex &index = *m_target.table()->exactSearch(m_target.variables())->onlyIndex();
     int &lastPaired = m_lastOfRing.try_emplace(first, -1).first->second;
     int row = lastPaired >= 0 && lastPaired <= after ? lastPaired : first;
     for (int steps = 0; row >= 0 && steps < MaxSteps; ++steps) {
-        const bool proposable = !m_target.shownOnly() || m_target.table()->isShown(row);
-        if (row > after && proposable)
+        if (row > after && isProposable(row))
             return lastPaired = row;
         row = index.nextOf(row);
     }

@@ -55,6 +55,8 @@ private:
     void claim(int targetRow);
     void claimBesideOthers(int targetRow);
     void pairOff();
+    void findOutnumbered();
+    [[nodiscard]] bool isProposable(int row) const;
     [[nodiscard]] int nextEqual(int first, int after);
     void computeAgreement();
     /// Of the lines whose identity the target knows: how many there are, and how many have an equal

@@ -20,6 +20,8 @@ struct Proposal
 {
     const BoundTarget *target = nullptr; ///< Null if there is nothing to propose.
     int row = -1;
+    /// Equal, but the row of another line: the best there is, and not proposed.
+    bool isTaken = false;
 };
 
 } // namespace Mapper
@@ -100,7 +102,9 @@ private:
     void collectOpenTargets(const Mapper::LineInput &line, bool firstOnly);
     [[nodiscard]] Mapper::Proposal propose(const Mapper::LineInput &line);
     [[nodiscard]] Mapper::Proposal findEqual(const Mapper::LineInput &line);
-    /// Of several equal lines, also of other targets, the one that the plan gives this line.
+    /// Of several equal lines, also of other targets, the one that the plan gives this line. If it
+    /// gives others all of them, one is shared, or taken where it is known that some lines are
+    /// gone.
     [[nodiscard]] Mapper::Proposal amongEqual(const Mapper::LineInput &line,
                                               const Mapper::Proposal &equal);
     /// Null if making it was cancelled, or there is nothing to plan for.

@@ -31,7 +31,7 @@ PrjMapperLineC PrjMapperPrivate::proposedLine(int lineId, const Proposal &propos
     PrjMapperLineC result;
     result.m_sourceLineId = lineId;
     result.m_valid = true;
-    if (!proposal.target)
+    if (!proposal.target || proposal.isTaken)
         return result;
     result.m_targetIndex = proposal.target->index();
     const VKTab::LineId id = proposal.target->table()->data().lineId(proposal.row);
@@ -53,13 +53,12 @@ PrjMapperLineC PrjMapperPrivate::createLine(const LineInput &line, bool firstTar
 Proposal PrjMapperPrivate::propose(const LineInput &line)
 {
     const Proposal equal = findEqual(line);
-    if (equal.target)
-        return amongEqual(line, equal);
-    if (hasEqualCombination(line))
-        return {};
+    const Proposal among = equal.target ? amongEqual(line, equal) : equal;
+    if ((among.target && !among.isTaken) || (!among.target && hasEqualCombination(line)))
+        return among;
     const std::vector<Plan::PlanEdge> edges = planned(line);
     if (edges.empty() || edges.front().probability < LineCandidatesC::ProposedProbability)
-        return {};
+        return among;
     return {openTarget(m_plan->targetOf(edges.front())), m_plan->rowOf(edges.front())};
 }
 
@@ -69,17 +68,21 @@ Proposal PrjMapperPrivate::amongEqual(const LineInput &line, const Proposal &equ
     if (!join || join->hit(line.row) < 0 ||
         (!join->isSeveral(line.row) && join->claims(equal.row) < 2))
         return equal;
-    for (const Plan::PlanEdge &edge : planned(line)) {
+    const std::vector<Plan::PlanEdge> edges = planned(line);
+    const auto own = m_plan ? m_plan->line(line.row) : std::nullopt;
+    for (const Plan::PlanEdge &edge : edges) {
         const BoundTarget *target = openTarget(m_plan->targetOf(edge));
         if (!target || targets().rank(*target) != targets().rank(*equal.target))
             continue;
         target->takeValues(line, m_values);
         const int row = m_plan->rowOf(edge);
-        if (m_values.search->equals(m_values.texts, row))
-            return {TargetSet::haveSameProject(*target, *equal.target) ? equal.target : target,
-                    row};
+        if (!m_values.search->equals(m_values.texts, row))
+            continue;
+        const bool isOwn = own->isAssigned && edge.node == own->candidates.front().node;
+        return {TargetSet::haveSameProject(*target, *equal.target) ? equal.target : target, row,
+                !isOwn && join->isOutnumbered(line.row)};
     }
-    return equal;
+    return {equal.target, equal.row, own && join->isOutnumbered(line.row)};
 }
 
 const Mapper::LinePlan *PrjMapperPrivate::plan(const LineInput &line)
@@ -156,7 +159,7 @@ LineCandidatesC PrjMapperPrivate::candidates(const LineInput &line)
         const LineCandidateC made = candidate(line, found, edge.probability, &edge);
         result.candidates.insert(first ? 0 : result.candidates.size(), made);
     }
-    if (!result.candidates.isEmpty() && proposed.target)
+    if (!result.candidates.isEmpty() && proposed.target && !proposed.isTaken)
         result.explanation = result.candidates.first().explanation;
     return result;
 }

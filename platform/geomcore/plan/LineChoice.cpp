@@ -85,8 +85,9 @@ private:
 
 /// By line the index of its edge, or -1: first what the assignment gives, then of what is left.
 std::vector<int> chosenEdges(const EdgeLists &edges, int nodeCount,
-                             const LineChoice::AreAlike &areAlike, double &explained)
+                             const LineChoice::AreAlike &areAlike, LineChoice &choice)
 {
+    choice.isAssigned.resize(edges.size(), 0);
     std::vector<int> chosen = assignPairs(edges, nodeCount, 0);
     OrderKeeper(edges, nodeCount, areAlike, chosen).run();
     std::vector<char> taken(size_t(nodeCount), 0);
@@ -94,15 +95,17 @@ std::vector<int> chosenEdges(const EdgeLists &edges, int nodeCount,
         if (chosen[line] < 0)
             continue;
         const PlanEdge &edge = edges[line][size_t(chosen[line])];
-        explained += edge.weight;
+        choice.explained += edge.weight;
         taken[size_t(edge.node)] = 1;
     }
     const std::vector<int> left =
         assignPairs(edges, nodeCount, -1e6, [&](size_t line, const PlanEdge &edge) {
             return chosen[line] < 0 && !taken[size_t(edge.node)] && edge.probability >= LeastChosen;
         });
-    for (size_t line = 0; line < edges.size(); ++line)
+    for (size_t line = 0; line < edges.size(); ++line) {
         chosen[line] = std::max(chosen[line], left[line]);
+        choice.isAssigned[line] = chosen[line] >= 0 ? 1 : 0;
+    }
     return chosen;
 }
 
@@ -111,7 +114,7 @@ std::vector<int> chosenEdges(const EdgeLists &edges, int nodeCount,
 LineChoice LineChoice::of(EdgeLists &edges, int nodeCount, const AreAlike &areAlike)
 {
     LineChoice choice;
-    const std::vector<int> chosen = chosenEdges(edges, nodeCount, areAlike, choice.explained);
+    const std::vector<int> chosen = chosenEdges(edges, nodeCount, areAlike, choice);
     choice.noSuccessor.resize(edges.size());
     WorkerPool::instance().run(int(edges.blockCount()), [&](int block) {
         edges.refill(size_t(block), [&](size_t line, EdgeLists::Block &out) {

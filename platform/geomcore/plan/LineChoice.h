@@ -18,6 +18,8 @@ struct VELKGEOMCORE_EXPORT LineChoice
     double explained = 0;
     /// By line.
     std::vector<double> noSuccessor;
+    /// By line: its first candidate is its own in the assignment, and not just left over.
+    std::vector<char> isAssigned;
 
     /// Whether two lines differ in nothing, nor do the rows of two edges, in a table that keeps the
     /// order of lines.

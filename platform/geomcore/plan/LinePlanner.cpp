@@ -153,7 +153,8 @@ LinePlanner::Line LinePlanner::line(size_t line) const
     const LinePlanner &made = best();
     if (made.m_choice.noSuccessor.empty())
         return {};
-    return {std::as_const(made.m_edges)[line], made.m_choice.noSuccessor[line]};
+    return {std::as_const(made.m_edges)[line], made.m_choice.noSuccessor[line],
+            made.m_choice.isAssigned[line] != 0};
 }
 
 bool LinePlanner::areAlike(size_t line, size_t otherLine, const PlanEdge &row,

@@ -40,6 +40,8 @@ public:
         /// Most probable first; the one that the assignment gives stands before the others.
         std::span<const PlanEdge> candidates;
         double noSuccessor = 1;
+        /// The first candidate is the line's own in the assignment, and not just left over.
+        bool isAssigned = false;
     };
     [[nodiscard]] Line line(size_t line) const;
     /// Number of an open row among those of all tables.
