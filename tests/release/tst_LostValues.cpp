@@ -18,6 +18,7 @@ private Q_SLOTS:
     void otherTarget();
     void valueOfAssignedLine();
     void afterVariableMapping();
+    void afterFormula();
     void noTable();
 };
 
@@ -115,6 +116,19 @@ void tst_LostValues::afterVariableMapping()
     PrjMappingC mapping = mappingOf("old/a.prj", {ownFile(catalog), ""});
     addRename(mapping, 0, "F", "Form");
     QCOMPARE(lostBy(catalog, mapping, 1), QStringList{"Form=A"});
+}
+
+void tst_LostValues::afterFormula()
+{
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", "D,k:n\nM8,2\nM9,3\nM10,3\n");
+    catalog.write("new/a.prj", "D,m:n\nM8,4\n");
+    PrjMappingC mapping = mappingOf("old/a.prj", {ownFile(catalog), ""});
+    addFormula(mapping, 0, "m = 2 * k");
+    QCOMPARE(lostBy(catalog, mapping, 1), QStringList());
+    QCOMPARE(lostBy(catalog, mapping, 2), (QStringList{"D=M9", "m=6"}));
+    enter(mapping, 0, 3, 1, ToCheck);
+    QCOMPARE(lostBy(catalog, mapping, 2), QStringList{"D=M9"});
 }
 
 void tst_LostValues::noTable()
