@@ -8,12 +8,12 @@
 #include <geomcore/table/Content.h>
 #include <geomcore/value/MidentClass.h>
 #include <geomcore/value/RangeText.h>
+#include <geomcoregui/table/VkTableView.h>
 #include <gui/application/PApplicationPool.h>
 #include <release/decide/LineEdits.h>
 #include <workbench/session/document/MappingDocument.h>
 #include <workbench/session/tasks/ReviewWork.h>
 #include <workbench/window/document/DocumentDesk.h>
-#include <workbench/window/document/ReleaseCommands.h>
 #include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/linkdb/LinkDbHost.h>
 #include <workbench/window/linkdb/LinkListDialog.h>
@@ -22,7 +22,10 @@
 #include <workbench/window/settings/WorkbenchSettings.h>
 
 #include <QAction>
+#include <QClipboard>
+#include <QDialogButtonBox>
 #include <QFile>
+#include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
 #include <QToolBar>
@@ -95,6 +98,34 @@ PrjMappingC decided(const ReleaseMappingC &release, int line, int target)
     return {};
 }
 
+/// The file dialog that comes next gets that name pasted into its field.
+void giveFile(ModalScript &script, const QString &file)
+{
+    script.then([file](QWidget *dialog) {
+        auto *const name = dialog->findChild<QLineEdit *>("fileNameEdit");
+        QVERIFY(name && name->isVisible());
+        QTest::keyClick(name, Qt::Key_A, Qt::ControlModifier);
+        QGuiApplication::clipboard()->setText(file);
+        QTest::keyClick(name, Qt::Key_V, Qt::ControlModifier);
+        const auto *const buttons = dialog->findChild<QDialogButtonBox *>("buttonBox");
+        QAbstractButton *accept = nullptr;
+        for (QAbstractButton *const button : buttons->buttons())
+            accept = buttons->buttonRole(button) == QDialogButtonBox::AcceptRole ? button : accept;
+        QVERIFY(accept);
+        QTRY_VERIFY(accept->isEnabled()); // it reads the folder on another thread
+        QTest::mouseClick(accept, Qt::LeftButton);
+    });
+}
+
+/// What comes last of those that open one after another; then it is called off.
+void lookAtLast(ModalScript &script, const Look &look)
+{
+    script.then([&look](QWidget *dialog) {
+        look(dialog);
+        dialog->close();
+    });
+}
+
 void showUnreadable(WindowFixture &fixture, const Look &look)
 {
     discard(fixture);
@@ -102,7 +133,12 @@ void showUnreadable(WindowFixture &fixture, const Look &look)
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write("{") == 1);
     file.close();
-    ask([&] { QVERIFY(!fixture.window->desk()->open({.file = path})); }, look);
+    ModalScript script;
+    giveFile(script, path);
+    lookAtLast(script, look);
+    fixture.press(Qt::Key_O, Qt::ControlModifier);
+    QTRY_VERIFY(script.isDone());
+    QVERIFY(!document(fixture).isOpen());
 }
 
 /// What others decided meanwhile, whether one decision is for all that are alike, and what is still
@@ -135,12 +171,11 @@ void showConflicts(WindowFixture &fixture, const Look &look)
     discard(fixture);
 }
 
-/// A line is confirmed although a value of its range has no new line.
+/// A line that is confirmed by its key although a value of its range has no new line.
 void showGap(WindowFixture &fixture, const Look &look)
 {
-    (void)openCopy(fixture, Pins);
+    const QString file = openCopy(fixture, Pins);
     EditorArea *const editor = fixture.window->editor();
-    QVERIFY(editor->selectLine(1));
     const VKTab::ContentRef table = editor->sourceTable();
     VKTab::Var range;
     for (const VKTab::Var &var : table.getVarList()) {
@@ -158,23 +193,35 @@ void showGap(WindowFixture &fixture, const Look &look)
     }
     PrjMappingC changed = document(fixture).mapping(editor->currentProject());
     changed.changeTarget(0, [&](PrjMappingTargetC &target) {
-        target.addLineId(1, 1, PRJMAPPING::Verified, rows.join('\n'));
+        target.addLineId(1, 1, PRJMAPPING::ToCheck, rows.join('\n'));
     });
     changed.updateMappingState();
-    ask(
-        [&] {
-            document(fixture).updateMapping(changed);
-            document(fixture).finishStep();
-        },
-        look);
+    discard(fixture);
+    MappingFile mapping;
+    QVERIFY(mapping.read(file));
+    ReleaseMappingC release = mapping.releases().first();
+    release.addMapping(changed);
+    mapping.setRelease(release);
+    QVERIFY(mapping.write(file));
+    fixture.open(file);
+    QVERIFY(editor->goTo({{Pins, {}, {}}, 1}));
+    fixture.sourceView()->grid()->setFocus();
+    ask([&] { fixture.press(Qt::Key_V); }, look);
     discard(fixture);
 }
 
+/// A file in a folder that is not there, named to *File > Export lines*.
 void showUnwritable(WindowFixture &fixture, const Look &look)
 {
     (void)openCopy(fixture, Screws);
-    const QString file = fixture.directory.filePath("missing/lines.csv");
-    ask([&] { QVERIFY(!fixture.window->releases()->exportLines(file)); }, look);
+    ModalScript script;
+    giveFile(script, fixture.directory.filePath("missing/lines.csv"));
+    lookAtLast(script, look);
+    fixture.press(Qt::Key_D, Qt::AltModifier);
+    QWidget *const menu = QApplication::activePopupWidget();
+    QVERIFY(menu);
+    QTest::keyClick(menu, Qt::Key_X);
+    QTRY_VERIFY(script.isDone());
     discard(fixture);
 }
 

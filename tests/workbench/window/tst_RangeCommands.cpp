@@ -25,16 +25,16 @@ public:
         open(mappingFile());
         if (!window->editor()->selectProject(Pins) || !window->editor()->selectLine(1))
             QTest::qFail("no such line", __FILE__, __LINE__);
+        pins = window->editor()->currentProject();
     }
 
     ModalScript script;
+    /// Stays where the work began, though the editor goes on.
+    ProjectId pins;
 
     [[nodiscard]] MappingDocument *document() const { return window->desk()->document(); }
     [[nodiscard]] QString text() const { return window->findChild<QLabel *>("RangeText")->text(); }
-    [[nodiscard]] PrjMappingC mapping() const
-    {
-        return document()->mapping(window->editor()->currentProject());
-    }
+    [[nodiscard]] PrjMappingC mapping() const { return document()->mapping(pins); }
     /// Range variable of the project.
     [[nodiscard]] QString variable() const
     {
@@ -144,7 +144,7 @@ void tst_RangeCommands::confirmingWithAGapAsks()
         details = dialog->property("informativeText").toString();
         dialog->findChild<QPushButton *>(answer)->click();
     });
-    fixture.give(values.mid(1), PRJMAPPING::Verified);
+    fixture.press(Qt::Key_V);
     QTRY_VERIFY(fixture.script.isDone());
     QCOMPARE(fixture.script.texts,
              QStringList{"1 Zeile ist bestätigt, obwohl Werte ihres Bereichs keine neue Zeile "
@@ -163,7 +163,7 @@ void tst_RangeCommands::confirmingWithoutAGap()
         asked = true;
         dialog->close();
     });
-    fixture.give(fixture.values(), PRJMAPPING::Verified);
+    fixture.press(Qt::Key_V);
     QTest::qWait(50);
     QVERIFY(!asked);
     QCOMPARE(fixture.state(), PRJMAPPING::Verified);

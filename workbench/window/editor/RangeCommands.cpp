@@ -17,14 +17,15 @@ RangeCommands::RangeCommands(MappingDocument *document, EditorArea *editor, QWid
     connect(editor, &EditorArea::projectSelected, this, &RangeCommands::noteConfirmed);
     connect(editor, &EditorArea::linesSelected, this, &RangeCommands::followLine);
     connect(m_dock, &QDockWidget::visibilityChanged, this, &RangeCommands::followLine);
-    // When the editor has shown the step; a question in the middle of it would be in its way.
-    connect(
-        document, &MappingDocument::stepDone, this,
-        [this] {
+    // Looked for before the editor goes on to another project, asked when it has shown the step: a
+    // question in the middle of it would be in its way.
+    connect(document, &MappingDocument::stepDone, this, [this] {
+        const auto later = [this, gaps = newGaps()] {
             followLine();
-            lookForGaps();
-        },
-        Qt::QueuedConnection);
+            askAbout(gaps);
+        };
+        QMetaObject::invokeMethod(this, later, Qt::QueuedConnection);
+    });
 }
 
 RangeCommands::~RangeCommands() = default;
@@ -70,12 +71,12 @@ void RangeCommands::noteConfirmed()
     followLine();
 }
 
-void RangeCommands::lookForGaps()
+QStringList RangeCommands::newGaps()
 {
     const std::set<int> before = std::exchange(m_confirmed, confirmedWithText());
     const VKTab::ContentRef table = m_editor->sourceTable();
     if (m_editor->currentProject() != m_project || !table.isValid() || !m_document->canUndo())
-        return;
+        return {};
     QStringList gaps;
     const PrjMappingC mapping = m_document->mapping(m_project);
     for (const int line : m_confirmed) {
@@ -85,7 +86,12 @@ void RangeCommands::lookForGaps()
         if (!coverage.missing().isEmpty())
             gaps += tr("Zeile %1: %2").arg(QString::number(line), RangeDock::text(coverage));
     }
-    if (gaps.isEmpty())
+    return gaps;
+}
+
+void RangeCommands::askAbout(QStringList gaps)
+{
+    if (gaps.isEmpty() || !m_document->canUndo())
         return;
     constexpr int shown = 10;
     const int number = int(gaps.size());

@@ -28,7 +28,9 @@ public:
 private:
     void followLine();
     void noteConfirmed();
-    void lookForGaps();
+    /// Lines that the last step confirmed, each with the values that have no new line.
+    [[nodiscard]] QStringList newGaps();
+    void askAbout(QStringList gaps);
     [[nodiscard]] std::set<int> confirmedWithText() const;
 
     MappingDocument *const m_document;
