@@ -3,6 +3,7 @@
 #include "PatternModel.h"
 #include "PatternText.h"
 
+#include <gui/views/WrappingDelegate.h>
 #include <workbench/session/tasks/ReviewWork.h>
 
 #include <QEvent>
@@ -32,13 +33,12 @@ PatternDock::PatternDock(ReviewWork *work, QWidget *parent)
     m_list->setObjectName("PatternList");
     m_list->setModel(m_model);
     m_list->setRootIsDecorated(false);
-    m_list->setUniformRowHeights(true);
     m_list->setAllColumnsShowFocus(true);
     m_list->header()->setStretchLastSection(false);
     m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_list->header()->setSectionResizeMode(PatternModel::Changes, QHeaderView::Fixed);
     m_list->header()->setMinimumSectionSize(40);
-    m_list->setTextElideMode(Qt::ElideMiddle);
+    new WrappingDelegate(m_list, PatternModel::Changes);
     // Else nothing of the differences is seen.
     content->setMinimumWidth(30 * fontMetrics().averageCharWidth());
     m_list->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);

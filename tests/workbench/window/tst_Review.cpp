@@ -129,9 +129,27 @@ void tst_Review::differencesCanBeRead()
     fixture.window->resizeDocks({dock}, {10}, Qt::Horizontal);
     QTRY_VERIFY(list->viewport()->width() < 60 * letters);
     QTRY_VERIFY(header->sectionSize(PatternModel::Changes) >= 24 * letters);
+    // As a whole: in lines one below the other.
+    const auto longest = [&] {
+        QModelIndex found = list->model()->index(0, PatternModel::Changes);
+        for (int row = 0; row < list->model()->rowCount(); ++row) {
+            const QModelIndex index = list->model()->index(row, PatternModel::Changes);
+            found = index.data().toString().size() > found.data().toString().size() ? index : found;
+        }
+        return found;
+    }();
+    const auto linesOf = [&](const QModelIndex &index) {
+        fixture.list()->scrollTo(index);
+        return list->visualRect(index).height() / list->fontMetrics().height();
+    };
+    const int wanted = list->fontMetrics().horizontalAdvance(longest.data().toString());
+    QVERIFY(wanted > 24 * letters);
+    QTRY_VERIFY(linesOf(longest) * header->sectionSize(PatternModel::Changes) >= wanted);
     dock->setFloating(true);
     dock->resize(120 * letters, 400);
     QTRY_COMPARE(header->length(), list->viewport()->width());
+    dock->resize(wanted + 80 * letters, 400);
+    QTRY_COMPARE(linesOf(longest), 1);
 }
 
 void tst_Review::choosingFiltersTreeAndTable()
