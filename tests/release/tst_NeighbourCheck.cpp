@@ -49,6 +49,7 @@ private Q_SLOTS:
     void lineLeftByShift();
     void fewLines();
     void textsGotWords();
+    void numbersInTextsScaled();
     void tooFewLines();
     void mendsInOneMapping();
     void planted_data();
@@ -103,6 +104,8 @@ void tst_NeighbourCheck::findings_data()
     QTest::newRow("all in place") << numbered(60, {}) << QStringList();
     QTest::newRow("shifted down") << numbered(60, {{40, 41}, {41, 42}, {42, 43}})
                                   << QStringList{"shifted 40-42 by 1: 40>40 41>41 42>42"};
+    QTest::newRow("shifted down from the first row")
+        << numbered(60, {{1, 2}, {2, 3}, {3, 4}}) << QStringList{"shifted 1-3 by 1: 1>1 2>2 3>3"};
     QTest::newRow("shifted up, the last one left without")
         << numbered(60, {{39, 0}, {40, 39}, {41, 40}, {42, 41}})
         << QStringList{"skipped 39-39 by 0: 39>39", "shifted 40-42 by -1: 40>40 41>41 42>42"};
@@ -408,6 +411,23 @@ void tst_NeighbourCheck::textsGotWords()
     };
     const std::vector<NeighbourFinding> findings =
         checkNeighbours(numbered(60, {{20, 21}, {21, 20}}), {before, after});
+    QCOMPARE(findings.size(), 1U);
+    QCOMPARE(textOf(findings[0]), "swapped 20-21 by 0: 20>20 21>21");
+}
+
+/// A number in all names is twice what it was.
+void tst_NeighbourCheck::numbersInTextsScaled()
+{
+    const auto nameOf = [](int number) {
+        return QStringList{QString("bolt %1 mm").arg(number)};
+    };
+    const NeighbourValues values{[&](int index, int) { return nameOf(index * 7 % 61 + 3); },
+                                 [&](int, int row) {
+                                     return nameOf(2 * (row * 7 % 61 + 3));
+                                 }};
+    QVERIFY(checkNeighbours(numbered(60, {}), values).empty());
+    const std::vector<NeighbourFinding> findings =
+        checkNeighbours(numbered(60, {{20, 21}, {21, 20}}), values);
     QCOMPARE(findings.size(), 1U);
     QCOMPARE(textOf(findings[0]), "swapped 20-21 by 0: 20>20 21>21");
 }
