@@ -224,26 +224,51 @@ void openManyProjects(benchmark::State &state)
         [](Workbench &workbench) { workbench.open(); });
 }
 
+void expand(const Workbench &workbench)
+{
+    auto *const tree = workbench.window->findChild<QTreeView *>("treeView");
+    tree->expand(tree->model()->index(0, 0, tree->model()->index(0, 0)));
+}
+
 /// 100 000 rows.
 void expandFlatFolder(benchmark::State &state)
 {
     measureAnew(
         state, [] { return Workbench::opened(flatFolder()); },
-        [](Workbench &workbench) {
-            auto *const tree = workbench.window->findChild<QTreeView *>("treeView");
-            tree->expand(tree->model()->index(0, 0, tree->model()->index(0, 0)));
-        });
+        [](Workbench &workbench) { expand(workbench); });
 }
 
 /// To the last of 100 000 rows.
+void jump(const Workbench &workbench)
+{
+    (void)workbench.window->editor()->selectProject(QStringLiteral("bench/flat/din99999.prj"));
+}
+
 void jumpInFlatFolder(benchmark::State &state)
 {
     measureAnew(
         state, [] { return Workbench::opened(flatFolder()); },
-        [](Workbench &workbench) {
-            (void)workbench.window->editor()->selectProject(
-                QStringLiteral("bench/flat/din99999.prj"));
-        });
+        [](Workbench &workbench) { jump(workbench); });
+}
+
+/// Half of its projects are left, and none of them was seen yet.
+void expandFilteredFolder(benchmark::State &state)
+{
+    measureAnew(
+        state,
+        [] {
+            auto workbench = Workbench::opened(flatFolder());
+            LoopTurns unmeasured;
+            unmeasured.run([&] {
+                workbench->window->editor()->editor()->setProjectFilter(
+                    [](const PrjMappingC &mapping) {
+                        const QString path = mapping.getSourcePath();
+                        return path.at(path.size() - 5).digitValue() % 2 != 0;
+                    });
+            });
+            return workbench;
+        },
+        [](Workbench &workbench) { expand(workbench); });
 }
 
 /// Only one of the 100 000 projects is left, the last one in the tree.
@@ -260,16 +285,32 @@ void filterProjects(benchmark::State &state, const Release &release)
 }
 
 /// By one that has another date.
+void replaceDate(Workbench &workbench)
+{
+    MappingDocument *const document = workbench.window->desk()->document();
+    ReleaseMappingC changed = document->release();
+    changed.setTargetDate(QStringLiteral("2031-01-01"));
+    document->replaceRelease(changed, QStringLiteral("..."));
+}
+
 void replaceRelease(benchmark::State &state)
 {
     measureAnew(
-        state, [] { return Workbench::opened(manyProjects()); },
-        [](Workbench &workbench) {
-            MappingDocument *const document = workbench.window->desk()->document();
-            ReleaseMappingC changed = document->release();
-            changed.setTargetDate(QStringLiteral("2031-01-01"));
-            document->replaceRelease(changed, QStringLiteral("..."));
-        });
+        state, [] { return Workbench::opened(manyProjects()); }, replaceDate);
+}
+
+/// With a large folder open and its last project selected.
+void replaceFlatFolder(benchmark::State &state)
+{
+    measureAnew(
+        state,
+        [] {
+            auto workbench = Workbench::opened(flatFolder());
+            LoopTurns unmeasured;
+            unmeasured.run([&] { jump(*workbench); });
+            return workbench;
+        },
+        replaceDate);
 }
 
 /// Each of its projects has one line more confirmed.
@@ -498,6 +539,7 @@ int main(int argc, char **argv)
     velkbench::addTurns("openManyProjects", velkbench::openManyProjects, 2);
     velkbench::addTurns("expandFlatFolder", velkbench::expandFlatFolder, 2);
     velkbench::addTurns("jumpInFlatFolder", velkbench::jumpInFlatFolder, 2);
+    velkbench::addTurns("expandFilteredFolder", velkbench::expandFilteredFolder, 2);
     velkbench::addTurns(
         "filterProjects",
         [](benchmark::State &state) {
@@ -509,6 +551,7 @@ int main(int argc, char **argv)
         [](benchmark::State &state) { velkbench::filterProjects(state, velkbench::flatFolder()); },
         2);
     velkbench::addTurns("replaceRelease", velkbench::replaceRelease, 2);
+    velkbench::addTurns("replaceFlatFolder", velkbench::replaceFlatFolder, 2);
     velkbench::addTurns(
         "replaceEveryProject",
         [](benchmark::State &state) { velkbench::replaceEveryProject(state, false); }, 2);

@@ -1,7 +1,6 @@
 #include "ReleaseMappingDirectoryNode.h"
 
 #include "CatalogNodeType.h"
-#include "ReleaseMappingTree.h"
 
 ReleaseMappingDirectoryNode::ReleaseMappingDirectoryNode(
     const QList<int> &projects, const boost::shared_ptr<WatchedRelease> &release,
@@ -53,8 +52,13 @@ bool ReleaseMappingDirectoryNode::hasConflicts() const
 
 QList<boost::shared_ptr<CatalogStructureNodeI>> ReleaseMappingDirectoryNode::getChildren() const
 {
-    if (m_children.isEmpty())
-        m_children = buildReleaseChildren(m_projects, m_release, m_depth);
+    return children().nodes();
+}
+
+const ReleaseMappingChildren &ReleaseMappingDirectoryNode::children() const
+{
+    if (m_children.nodes().isEmpty())
+        m_children = ReleaseMappingChildren(m_projects, m_release, m_depth);
     return m_children;
 }
 

@@ -3,6 +3,7 @@
 #include "CatalogStructureNodeI.h"
 #include "FilledNodeI.h"
 #include "MarkSum.h"
+#include "ReleaseMappingChildren.h"
 #include "WatchedRelease.h"
 
 /// A directory of the tree of a release. Remembers its rolled up state until invalidateState, so
@@ -27,6 +28,9 @@ public:
     QList<boost::shared_ptr<CatalogStructureNodeI>> getChildren() const override;
     void invalidateState() override;
 
+    /// Made on first use.
+    [[nodiscard]] const ReleaseMappingChildren &children() const;
+
 private:
     /// The sum over all projects as they are now.
     [[nodiscard]] const MarkSum &marks() const;
@@ -38,5 +42,5 @@ private:
     mutable QFlags<PRJMAPPING::MappingState_> m_cachedState;
     mutable int m_cachedGeneration = 0; ///< of the release when m_cachedState was worked out
     mutable MarkSum m_marks;
-    mutable QList<boost::shared_ptr<CatalogStructureNodeI>> m_children;
+    mutable ReleaseMappingChildren m_children;
 };

@@ -1,7 +1,9 @@
 #include "ReleaseMappingStructureNode.h"
 
 #include "CatalogNodeType.h"
-#include "ReleaseMappingTree.h"
+#include "ReleaseMappingDirectoryNode.h"
+
+#include <geomcore/records/FolderLevel.h>
 
 ReleaseMappingStructureNode::ReleaseMappingStructureNode(
     const QString &name, const boost::shared_ptr<WatchedRelease> &release)
@@ -44,9 +46,7 @@ bool ReleaseMappingStructureNode::hasConflicts() const
 
 QList<boost::shared_ptr<CatalogStructureNodeI>> ReleaseMappingStructureNode::getChildren() const
 {
-    if (m_children.isEmpty())
-        m_children = buildReleaseChildren(m_release->release().firstPositions(), m_release, 1);
-    return m_children;
+    return children().nodes();
 }
 
 void ReleaseMappingStructureNode::invalidateState() {}
@@ -54,4 +54,32 @@ void ReleaseMappingStructureNode::invalidateState() {}
 void ReleaseMappingStructureNode::invalidateTree()
 {
     m_release->dropStates();
+}
+
+QList<QList<int>> ReleaseMappingStructureNode::rowsTo(const QString &sourcePath) const
+{
+    const QList<int> positions = m_release->release().findPositions(sourcePath);
+    if (positions.isEmpty())
+        return {};
+    const ReleaseMappingChildren *level = &children();
+    QList<int> above;
+    for (const QStringView folder : foldersOf(sourcePath)) {
+        const int row = level->rowOfDirectory(folder);
+        if (row < 0)
+            return {};
+        above += row;
+        const CatalogStructureNodeI &directory = *level->nodes().at(row);
+        level = &static_cast<const ReleaseMappingDirectoryNode &>(directory).children();
+    }
+    QList<QList<int>> found;
+    for (const int row : level->rowsOfProjects(positions))
+        found += above + QList<int>{row};
+    return found;
+}
+
+const ReleaseMappingChildren &ReleaseMappingStructureNode::children() const
+{
+    if (m_children.nodes().isEmpty())
+        m_children = ReleaseMappingChildren(m_release->release().firstPositions(), m_release, 1);
+    return m_children;
 }

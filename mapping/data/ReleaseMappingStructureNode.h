@@ -1,11 +1,15 @@
 #pragma once
 
 #include "CatalogStructureNodeI.h"
+#include "LookUpTreeI.h"
+#include "ReleaseMappingChildren.h"
 #include "StateTreeI.h"
 #include "WatchedRelease.h"
 
 /// Root of the tree of a release.
-class ReleaseMappingStructureNode : public CatalogStructureNodeI, public StateTreeI
+class ReleaseMappingStructureNode : public CatalogStructureNodeI,
+                                    public StateTreeI,
+                                    public LookUpTreeI
 {
 public:
     ReleaseMappingStructureNode(const QString &name,
@@ -22,9 +26,12 @@ public:
     QList<boost::shared_ptr<CatalogStructureNodeI>> getChildren() const override;
     void invalidateState() override;
     void invalidateTree() override;
+    QList<QList<int>> rowsTo(const QString &sourcePath) const override;
 
 private:
+    [[nodiscard]] const ReleaseMappingChildren &children() const;
+
     const QString m_name;
     const boost::shared_ptr<WatchedRelease> m_release;
-    mutable QList<boost::shared_ptr<CatalogStructureNodeI>> m_children;
+    mutable ReleaseMappingChildren m_children;
 };

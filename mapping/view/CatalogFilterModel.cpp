@@ -1,6 +1,5 @@
 #include "CatalogFilterModel.h"
 
-#include "CatalogFilterWalk.h"
 #include "CatalogStructureModel.h"
 
 #include <mapping/data/CatalogStructureNodeI.h>
@@ -51,9 +50,9 @@ void CatalogFilterModel::invalidate()
     m_walk.reset();
     m_wanted = settings();
     const auto *const source = qobject_cast<const CatalogStructureModel *>(sourceModel());
-    if (!source || !m_wanted)
+    if (!source || !m_wanted || !source->nodeAt({}))
         return apply();
-    m_walk = std::make_unique<CatalogFilterWalk>(source->rootItem(), m_wanted);
+    m_walk = std::make_unique<CatalogFilterWalk>(*source->nodeAt({}), m_wanted);
     goOn();
 }
 
@@ -95,25 +94,27 @@ Qt::ItemFlags CatalogFilterModel::flags(const QModelIndex &index) const
     return QAbstractItemModel::flags(index);
 }
 
-void CatalogFilterModel::fetchMore(const QModelIndex &parent)
-{
-    const int before = rowCount(parent);
-    while (rowCount(parent) == before && canFetchMore(parent))
-        QSortFilterProxyModel::fetchMore(parent);
-}
-
 bool CatalogFilterModel::filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const
 {
+    using Decision = CatalogFilterWalk::Decision;
     if (!m_accepts)
         return QSortFilterProxyModel::filterAcceptsRow(sourceRow, sourceParent);
     const auto *const source = static_cast<const CatalogStructureModel *>(sourceModel());
-    const CatalogStructureNodeI &node = source->childAt(sourceRow, sourceParent);
-    if (const auto known = m_decided.constFind(&node); known != m_decided.cend())
-        return *known;
+    const auto known = m_decided.constFind(source->nodeAt(sourceParent).get());
+    const Decision decision =
+        known == m_decided.cend() ? Decision::None : known->value(sourceRow, Decision::None);
+    if (decision != Decision::None)
+        return decision == Decision::Stays;
+    return decide(*source->nodesBelow(sourceParent).at(sourceRow));
+}
+
+/// On one that the walk left out.
+bool CatalogFilterModel::decide(const CatalogStructureNodeI &node) const
+{
     if (CatalogFilterWalk::isProject(node))
         return m_accepts(node);
     CatalogFilterWalk walk(node, m_accepts);
     (void)walk.run(QDeadlineTimer(QDeadlineTimer::Forever));
     m_decided.insert(walk.takeDecided());
-    return m_decided.value(&node);
+    return walk.isAccepted();
 }

@@ -1,14 +1,13 @@
 #pragma once
 
-#include <QHash>
+#include "CatalogFilterWalk.h"
+
 #include <QSortFilterProxyModel>
 #include <QTimer>
 
 #include <functional>
 #include <memory>
 
-class CatalogFilterWalk;
-class CatalogStructureNodeI;
 class PrjMappingC;
 
 /// Leaves only projects that are incomplete, and the directories above them. After a change of the
@@ -36,12 +35,10 @@ public:
     /// Does at once what is left of that.
     void finish();
 
-    /// Without a filter what the source says, whose rows are left alone until they are wanted.
+    /// As the source says, whose rows are left alone until they are wanted.
     [[nodiscard]] bool hasChildren(const QModelIndex &parent = QModelIndex()) const override;
     /// Those of every row; a view asks for them of each that it has, be it in sight or not.
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex &index) const override;
-    /// Until there is another row, if there is one.
-    void fetchMore(const QModelIndex &parent) override;
 
 protected:
     [[nodiscard]] bool filterAcceptsRow(int sourceRow,
@@ -49,15 +46,16 @@ protected:
 
 private:
     /// Null: all are.
-    using Accepts = std::function<bool(const CatalogStructureNodeI &project)>;
+    using Accepts = CatalogFilterWalk::Accepts;
 
     [[nodiscard]] Accepts settings() const;
     void goOn();
     void apply();
+    [[nodiscard]] bool decide(const CatalogStructureNodeI &node) const;
 
     QTimer m_turn;
-    std::unique_ptr<CatalogFilterWalk> m_walk;                    ///< as long as it is not through
-    Accepts m_wanted;                                             ///< what it is for
-    Accepts m_accepts;                                            ///< what is shown
-    mutable QHash<const CatalogStructureNodeI *, bool> m_decided; ///< of all directories known
+    std::unique_ptr<CatalogFilterWalk> m_walk; ///< as long as it is not through
+    Accepts m_wanted;                          ///< what it is for
+    Accepts m_accepts;                         ///< what is shown
+    mutable CatalogFilterWalk::Decided m_decided;
 };

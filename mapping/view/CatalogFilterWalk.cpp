@@ -1,6 +1,6 @@
 #include "CatalogFilterWalk.h"
 
-#include "CatalogStructureItem.h"
+#include <mapping/data/FilledNodeI.h>
 
 #include <utility>
 
@@ -11,17 +11,10 @@ constexpr int BetweenLooks = 64; // at the clock
 
 } // namespace
 
-CatalogFilterWalk::CatalogFilterWalk(const CatalogStructureItem &root, const Accepts &accepts)
+CatalogFilterWalk::CatalogFilterWalk(const CatalogStructureNodeI &top, const Accepts &accepts)
     : m_accepts(accepts)
 {
-    if (root.node)
-        enter(*root.node, &root);
-}
-
-CatalogFilterWalk::CatalogFilterWalk(const CatalogStructureNodeI &directory, const Accepts &accepts)
-    : m_accepts(accepts)
-{
-    enter(directory, nullptr);
+    enter(top);
 }
 
 bool CatalogFilterWalk::isProject(const CatalogStructureNodeI &node)
@@ -29,26 +22,26 @@ bool CatalogFilterWalk::isProject(const CatalogStructureNodeI &node)
     return node.getName().endsWith(QLatin1String(".prj"));
 }
 
-/// Rows that are not there yet are decided on when they come.
-bool CatalogFilterWalk::Level::isDone() const
+void CatalogFilterWalk::Level::decide(bool stays)
 {
-    return next == children.size() || (isAccepted && (!item || next >= item->children.size()));
+    decisions[next - 1] = stays ? Decision::Stays : Decision::Goes;
+    isAccepted = isAccepted || stays;
 }
 
 bool CatalogFilterWalk::run(const QDeadlineTimer &until)
 {
     for (int seen = 1; !m_levels.empty(); ++seen) {
         Level &level = m_levels.back();
-        if (level.isDone()) {
+        if (level.next == level.children.size()) {
             leave();
             continue;
         }
-        const qsizetype at = level.next++;
-        const CatalogStructureNodeI &child = *level.children.at(at);
+        const CatalogStructureNodeI &child = *level.children.at(level.next++);
         if (isProject(child))
-            decide(level, child);
-        else
-            enter(child, level.item ? level.item->children.value(at) : nullptr);
+            level.decide(m_accepts(child));
+        else if (!level.isAccepted || m_levels.size() == 1 ||
+                 dynamic_cast<const FilledNodeI *>(&child))
+            enter(child);
         if (seen >= LeastInARun && seen % BetweenLooks == 0 && until.hasExpired())
             return false;
     }
@@ -60,29 +53,20 @@ CatalogFilterWalk::Decided CatalogFilterWalk::takeDecided()
     return std::exchange(m_decided, {});
 }
 
-void CatalogFilterWalk::enter(const CatalogStructureNodeI &directory,
-                              const CatalogStructureItem *item)
+void CatalogFilterWalk::enter(const CatalogStructureNodeI &directory)
 {
-    const bool hasRows = item && item->childrenLoaded;
-    m_levels.push_back({&directory, hasRows ? item : nullptr, directory.getChildren()});
-}
-
-/// On each that is a row, of the others until one is accepted.
-void CatalogFilterWalk::decide(Level &level, const CatalogStructureNodeI &project)
-{
-    if (level.isAccepted && !level.item)
-        return;
-    const bool isAccepted = m_accepts(project);
-    level.isAccepted = level.isAccepted || isAccepted;
-    if (level.item)
-        m_decided.insert(&project, isAccepted);
+    const QList<Node> children = directory.getChildren();
+    m_levels.push_back(
+        {&directory, children, QList<Decision>(children.size(), Decision::None), 0, false});
 }
 
 void CatalogFilterWalk::leave()
 {
-    const Level left = std::move(m_levels.back());
+    Level left = std::move(m_levels.back());
     m_levels.pop_back();
-    m_decided.insert(left.node, left.isAccepted);
-    if (left.isAccepted && !m_levels.empty())
-        m_levels.back().isAccepted = true;
+    m_decided.insert(left.node, std::move(left.decisions));
+    if (m_levels.empty())
+        m_isAccepted = left.isAccepted;
+    else
+        m_levels.back().decide(left.isAccepted);
 }

@@ -6,7 +6,6 @@
 #include "CatalogMappingWidget.h"
 #include "CatalogStructureDelegate.h"
 #include "CatalogStructureModel.h"
-#include "RowsInSight.h"
 #include "TableRoom.h"
 
 #include <mapping/data/CatalogMappingHandlerI.h>
@@ -101,7 +100,6 @@ void CatalogMappingWidgetPrivate::makeTreeModels()
         onFilterApplied();
     };
     treeView->setModel(filterModel);
-    new RowsInSight(treeView);
     emptyTree = new EmptyViewLabel(treeView, filterModel);
     emptyTree->setObjectName(QStringLiteral("emptyTree"));
     treeView->setItemDelegate(new CatalogStructureDelegate(treeView));

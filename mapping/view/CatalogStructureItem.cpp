@@ -1,7 +1,5 @@
 #include "CatalogStructureItem.h"
 
-#include <algorithm>
-
 CatalogStructureItem::CatalogStructureItem(
     CatalogStructureItem *parentItem, int rowInParent,
     const boost::shared_ptr<CatalogStructureNodeI> &shownNode)
@@ -13,33 +11,21 @@ CatalogStructureItem::CatalogStructureItem(
 
 CatalogStructureItem::~CatalogStructureItem()
 {
-    qDeleteAll(children);
+    qDeleteAll(items);
 }
 
 void CatalogStructureItem::loadChildren()
 {
     if (childrenLoaded || !node)
         return;
-    childNodes = node->getChildren();
+    children = node->getChildren();
     childrenLoaded = true;
-    addRows(nextPortion());
-}
-
-int CatalogStructureItem::nextPortion() const
-{
-    constexpr qsizetype Portion = 1000; // more than a screen has, and laid out in no time
-    return int(std::clamp<qsizetype>(childNodes.size() - children.size(), 0, Portion));
-}
-
-void CatalogStructureItem::addRows(int count)
-{
-    children.resize(children.size() + count);
 }
 
 CatalogStructureItem *CatalogStructureItem::child(int at)
 {
-    CatalogStructureItem *&item = children[at];
+    CatalogStructureItem *&item = items[at];
     if (!item)
-        item = new CatalogStructureItem(this, at, childNodes.at(at));
+        item = new CatalogStructureItem(this, at, children.at(at));
     return item;
 }

@@ -2,11 +2,13 @@
 
 #include <mapping/data/CatalogStructureNodeI.h>
 
+#include <QHash>
 #include <QList>
 
 #include <boost/shared_ptr.hpp>
 
-/// One node as the catalog's model knows it; what a model index of it points at.
+/// A node and the ones below it, as the catalog's model knows them. A model index points at the
+/// item above its row: a row has none of its own until somebody asks what is below it.
 struct CatalogStructureItem
 {
     CatalogStructureItem(CatalogStructureItem *parentItem, int rowInParent,
@@ -16,19 +18,15 @@ struct CatalogStructureItem
     /// Frees all items below.
     ~CatalogStructureItem();
 
-    /// Asks the node for its children, once; the first of them are rows then.
+    /// Asks the node for its children, once.
     void loadChildren();
-    /// How many more become rows at once; 0: all are.
-    [[nodiscard]] int nextPortion() const;
-    /// So many more become rows.
-    void addRows(int count);
     /// Of a row that is there; made when it is wanted for the first time.
     [[nodiscard]] CatalogStructureItem *child(int at);
 
     CatalogStructureItem *parent; ///< null on the root item
     int row;                      ///< index among the parent's children
     boost::shared_ptr<CatalogStructureNodeI> node;
-    QList<CatalogStructureItem *> children; ///< owned; null where nobody wanted one yet
-    QList<boost::shared_ptr<CatalogStructureNodeI>> childNodes; ///< more than rows, if very many
+    QList<boost::shared_ptr<CatalogStructureNodeI>> children;
     bool childrenLoaded = false;
+    QHash<int, CatalogStructureItem *> items; ///< of children, by their rows; owned
 };

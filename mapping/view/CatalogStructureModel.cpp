@@ -7,8 +7,6 @@
 #include <mapping/data/FilledNodeI.h>
 #include <mapping/data/StateTreeI.h>
 
-#include <QScopedValueRollback>
-
 namespace {
 
 using Node = boost::shared_ptr<CatalogStructureNodeI>;
@@ -29,12 +27,13 @@ bool isProject(const CatalogStructureNodeI &node)
     return CatalogNodeType::isProject(node.getNodeType());
 }
 
-void invalidateWithAllBelow(const Node &node)
+void invalidateWithAllBelow(CatalogStructureItem &item)
 {
-    const QList<Node> children = node->getChildren();
-    for (const Node &child : children)
-        invalidateWithAllBelow(child);
-    node->invalidateState();
+    item.loadChildren();
+    for (int row = 0; row < item.children.size(); ++row)
+        invalidateWithAllBelow(*item.child(row));
+    if (item.node)
+        item.node->invalidateState();
 }
 
 } // namespace
@@ -56,15 +55,15 @@ QModelIndex CatalogStructureModel::index(int row, int column, const QModelIndex 
     CatalogStructureItem *const item = d->loadedItemOf(parent);
     if (row < 0 || row >= item->children.size())
         return QModelIndex();
-    return createIndex(row, column, item->child(row));
+    return createIndex(row, column, item);
 }
 
 QModelIndex CatalogStructureModel::parent(const QModelIndex &index) const
 {
-    CatalogStructureItem *parentItem = d->itemOf(index)->parent;
-    if (!parentItem || !parentItem->parent)
+    const CatalogStructureItem *const above = index.isValid() ? d->itemAbove(index) : nullptr;
+    if (!above || !above->parent)
         return QModelIndex();
-    return createIndex(parentItem->row, 0, parentItem);
+    return createIndex(above->row, 0, above->parent);
 }
 
 int CatalogStructureModel::rowCount(const QModelIndex &parent) const
@@ -77,50 +76,19 @@ int CatalogStructureModel::columnCount(const QModelIndex &) const
     return 1;
 }
 
-bool CatalogStructureModel::canFetchMore(const QModelIndex &parent) const
-{
-    const CatalogStructureItem *const item = d->itemOf(parent);
-    return !d->isInserting && item->childrenLoaded && item->nextPortion() > 0;
-}
-
-void CatalogStructureModel::fetchMore(const QModelIndex &parent)
-{
-    if (canFetchMore(parent))
-        insertNext(d->itemOf(parent)->nextPortion(), parent);
-}
-
-void CatalogStructureModel::fetchRow(int row, const QModelIndex &parent)
-{
-    const CatalogStructureItem *const item = d->loadedItemOf(parent);
-    if (row >= item->children.size() && row < item->childNodes.size() && canFetchMore(parent))
-        insertNext(row + 1 - int(item->children.size()), parent);
-}
-
-void CatalogStructureModel::insertNext(int count, const QModelIndex &parent)
-{
-    CatalogStructureItem *const item = d->itemOf(parent);
-    const int first = int(item->children.size());
-    const QScopedValueRollback inserting(d->isInserting, true); // whoever hears of it may ask
-    beginInsertRows(parent, first, first + count - 1);
-    item->addRows(count);
-    endInsertRows();
-}
-
 bool CatalogStructureModel::hasChildren(const QModelIndex &parent) const
 {
-    const CatalogStructureItem *const item = d->itemOf(parent);
-    if (item->node && isProject(*item->node)) // a view asks of each row that it has
+    const Node &node = nodeAt(parent);
+    if (node && isProject(*node)) // a view asks of each row that it has
         return false;
-    if (!item->childrenLoaded && dynamic_cast<const FilledNodeI *>(item->node.get()))
-        return true;
-    return rowCount(parent) > 0;
+    return dynamic_cast<const FilledNodeI *>(node.get()) || rowCount(parent) > 0;
 }
 
 QVariant CatalogStructureModel::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid())
         return QVariant();
-    const Node &node = d->itemOf(index)->node;
+    const Node &node = nodeAt(index);
     switch (role) {
     case Qt::DisplayRole:
         return node->getName();
@@ -139,37 +107,23 @@ QVariant CatalogStructureModel::data(const QModelIndex &index, int role) const
     }
 }
 
-void CatalogStructureModel::invalidateNodes(CatalogStructureItem *item)
+void CatalogStructureModel::invalidateNodes(const QModelIndex &top)
 {
-    if (!item)
-        item = d->rootItem.get();
-    if (auto *const tree = dynamic_cast<StateTreeI *>(item->node.get())) {
+    if (auto *const tree = dynamic_cast<StateTreeI *>(nodeAt(top).get()))
         tree->invalidateTree();
-        return;
-    }
-    item->loadChildren();
-    for (int row = 0; row < item->children.size(); ++row)
-        invalidateNodes(item->child(row));
-    for (qsizetype i = item->children.size(); i < item->childNodes.size(); ++i)
-        invalidateWithAllBelow(item->childNodes.at(i));
-    if (item->node)
-        item->node->invalidateState();
+    else
+        invalidateWithAllBelow(*d->itemOf(top));
 }
 
-const CatalogStructureItem &CatalogStructureModel::rootItem() const
+const CatalogStructureModel::Node &CatalogStructureModel::nodeAt(const QModelIndex &index) const
 {
-    return *d->rootItem;
+    return index.isValid() ? d->itemAbove(index)->children.at(index.row()) : d->rootItem->node;
 }
 
-const CatalogStructureNodeI &CatalogStructureModel::nodeAt(const QModelIndex &index) const
+const QList<CatalogStructureModel::Node> &
+CatalogStructureModel::nodesBelow(const QModelIndex &parent) const
 {
-    return *d->itemOf(index)->node;
-}
-
-const CatalogStructureNodeI &CatalogStructureModel::childAt(int row,
-                                                            const QModelIndex &parent) const
-{
-    return *d->itemOf(parent)->childNodes.at(row);
+    return d->loadedItemOf(parent)->children;
 }
 
 boost::shared_ptr<CatalogStructureNodeI> CatalogStructureModel::nodeFrom(const QVariant &value)

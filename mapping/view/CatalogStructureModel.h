@@ -6,12 +6,11 @@
 
 #include <boost/shared_ptr.hpp>
 
-struct CatalogStructureItem;
 class CatalogStructureModelPrivate;
 
 /// The catalog's tree of nodes as an item model of one column. Children are asked of a node when a
-/// view needs them, and once: the tree does not change after that. Of a directory with very many,
-/// the rows come in portions, as views fetch them. GUI thread only.
+/// view needs them, and once: the tree does not change after that. A row that is a project costs
+/// nothing beside its node. GUI thread only.
 class CatalogStructureModel : public QAbstractItemModel
 {
     Q_OBJECT
@@ -34,30 +33,24 @@ public:
     [[nodiscard]] int columnCount(const QModelIndex &parent = QModelIndex()) const override;
     /// Loads them to know, but for a FilledNodeI and for projects, which have none.
     [[nodiscard]] bool hasChildren(const QModelIndex &parent = QModelIndex()) const override;
-    [[nodiscard]] bool canFetchMore(const QModelIndex &parent) const override;
-    void fetchMore(const QModelIndex &parent) override;
-    /// Until there is this row, all at once; what a view does with a row is left to the view.
-    void fetchRow(int row, const QModelIndex &parent);
     [[nodiscard]] QVariant data(const QModelIndex &index,
                                 int role = Qt::DisplayRole) const override;
 
-    /// What is there of the tree.
-    [[nodiscard]] const CatalogStructureItem &rootItem() const;
-    [[nodiscard]] const CatalogStructureNodeI &nodeAt(const QModelIndex &index) const;
-    /// Of a row, without an index of it.
-    [[nodiscard]] const CatalogStructureNodeI &childAt(int row, const QModelIndex &parent) const;
+    using Node = boost::shared_ptr<CatalogStructureNodeI>;
+    /// The root's for an index that is not valid, which may be null.
+    [[nodiscard]] const Node &nodeAt(const QModelIndex &index) const;
+    /// Of all rows below, without an index of any.
+    [[nodiscard]] const QList<Node> &nodesBelow(const QModelIndex &parent) const;
 
-    /// Makes all nodes from \a item down drop what they remember of their state; null begins at the
-    /// root. A root that is a StateTreeI does it by itself and loads nothing; else the nodes are
-    /// walked, which loads them, children before parents. Sends no signal: the caller repaints its
-    /// views.
-    void invalidateNodes(CatalogStructureItem *item = nullptr);
+    /// Makes all nodes from \a top down drop what they remember of their state; one that is not
+    /// valid stands for the root. A root that is a StateTreeI does it by itself and loads nothing;
+    /// else the nodes are walked, which loads them, children before parents. Sends no signal: the
+    /// caller repaints its views.
+    void invalidateNodes(const QModelIndex &top = QModelIndex());
 
     /// The node in a value of StructureNodeRole, of this model or of a proxy; null if it has none.
     [[nodiscard]] static boost::shared_ptr<CatalogStructureNodeI> nodeFrom(const QVariant &value);
 
 private:
-    void insertNext(int count, const QModelIndex &parent);
-
     CatalogStructureModelPrivate *const d;
 };

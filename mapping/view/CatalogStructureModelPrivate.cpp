@@ -21,10 +21,14 @@ CatalogStructureModelPrivate::CatalogStructureModelPrivate(
 {
 }
 
+CatalogStructureItem *CatalogStructureModelPrivate::itemAbove(const QModelIndex &index)
+{
+    return static_cast<CatalogStructureItem *>(index.internalPointer());
+}
+
 CatalogStructureItem *CatalogStructureModelPrivate::itemOf(const QModelIndex &index) const
 {
-    return index.isValid() ? static_cast<CatalogStructureItem *>(index.internalPointer())
-                           : rootItem.get();
+    return index.isValid() ? itemAbove(index)->child(index.row()) : rootItem.get();
 }
 
 CatalogStructureItem *CatalogStructureModelPrivate::loadedItemOf(const QModelIndex &index) const

@@ -18,6 +18,8 @@ public:
     CatalogStructureModelPrivate(CatalogStructureModel *owner,
                                  const boost::shared_ptr<CatalogStructureNodeI> &root);
 
+    /// What an index points at.
+    [[nodiscard]] static CatalogStructureItem *itemAbove(const QModelIndex &index);
     /// The item of an index, or the root item for an invalid one.
     [[nodiscard]] CatalogStructureItem *itemOf(const QModelIndex &index) const;
     /// The same with its children loaded.
@@ -25,7 +27,6 @@ public:
     void loadIcons();
 
     std::unique_ptr<CatalogStructureItem> rootItem;
-    bool isInserting = false; ///< more rows of a directory
     QIcon directoryIcon;
     QIcon projectIcon;
 };

@@ -1,110 +1,127 @@
 #include "TreePath.h"
 
-#include "CatalogStructureItem.h"
 #include "CatalogStructureModel.h"
 
 #include <mapping/data/CatalogNodeType.h>
 #include <mapping/data/CatalogStructureNodeI.h>
+#include <mapping/data/LookUpTreeI.h>
 
 #include <QAbstractProxyModel>
 #include <QTreeView>
 
-#include <algorithm>
-
 namespace {
 
-using Node = boost::shared_ptr<CatalogStructureNodeI>;
+using Node = CatalogStructureModel::Node;
 
-/// What is looked for; an empty version stands for any.
-struct Project
-{
-    QString path;
-    QString version;
-};
-
-bool isProject(const CatalogStructureNodeI &node, const Project &project)
-{
-    return node.getPath() == project.path && node.getNodeType() == CatalogNodeType::Project &&
-           (project.version.isEmpty() || node.getMapping().getSourceVersion() == project.version);
-}
-
-/// Looks for nodes, most of which are no rows yet.
-class Search
+/// A tree as a view shows it; indexes are the source's.
+class Tree
 {
 public:
-    explicit Search(QAbstractItemModel *model)
-        : m_proxy(qobject_cast<QAbstractProxyModel *>(model))
-        , m_tree(qobject_cast<CatalogStructureModel *>(m_proxy ? m_proxy->sourceModel() : model))
+    explicit Tree(const QAbstractItemModel *model)
+        : m_proxy(qobject_cast<const QAbstractProxyModel *>(model))
+        , m_source(
+              qobject_cast<const CatalogStructureModel *>(m_proxy ? m_proxy->sourceModel() : model))
     {
-        toTop();
     }
-
-    void toTop()
+    [[nodiscard]] const CatalogStructureModel *operator->() const { return m_source; }
+    /// Not valid if it is hidden.
+    [[nodiscard]] QModelIndex shown(const QModelIndex &index) const
     {
-        m_rows.clear();
-        m_node = m_tree ? m_tree->rootItem().node : Node();
-    }
-    /// To the directory of this name in the one reached so far.
-    bool enter(const QString &name)
-    {
-        const QList<Node> children = m_node ? m_node->getChildren() : QList<Node>();
-        const auto found = std::ranges::find_if(children, [&name](const Node &child) {
-            return child->getName() == name && !child->getChildren().isEmpty();
-        });
-        if (found == children.end())
-            return false;
-        m_rows += int(found - children.begin());
-        m_node = *found;
-        return true;
-    }
-    /// Of the node reached so far; not valid if it is the root or hidden.
-    [[nodiscard]] QModelIndex index() const
-    {
-        QModelIndex index;
-        for (const int row : m_rows) {
-            m_tree->fetchRow(row, index);
-            index = m_tree->index(row, 0, index);
-        }
         return m_proxy ? m_proxy->mapFromSource(index) : index;
     }
-    /// In the directory reached so far, or anywhere below it.
-    QModelIndex find(const Project &project, bool deep)
+    /// Those that may have rows.
+    [[nodiscard]] QModelIndexList directories(const QModelIndex &parent) const
     {
-        if (!m_node)
-            return {};
-        const Node directory = m_node;
-        const QList<Node> children = directory->getChildren();
-        QModelIndex found;
-        for (int row = 0; row < children.size() && !found.isValid(); ++row) {
-            m_rows += row;
-            m_node = children.at(row);
-            if (isProject(*m_node, project))
-                found = index();
-            else if (deep)
-                found = find(project, true);
-            m_rows.removeLast();
+        QModelIndexList found;
+        const QList<Node> &nodes = m_source->nodesBelow(parent);
+        for (int row = 0; row < nodes.size(); ++row) {
+            if (!CatalogNodeType::isProject(nodes.at(row)->getNodeType()))
+                found += m_source->index(row, 0, parent);
         }
-        m_node = directory;
         return found;
+    }
+    /// Not valid if there is none of this name with anything in it.
+    [[nodiscard]] QModelIndex directory(const QString &name, const QModelIndex &parent) const
+    {
+        for (const QModelIndex &index : directories(parent)) {
+            if (m_source->nodeAt(index)->getName() == name && m_source->hasChildren(index))
+                return index;
+        }
+        return {};
     }
 
 private:
     const QAbstractProxyModel *const m_proxy;
-    CatalogStructureModel *const m_tree;
-    Node m_node;
-    QList<int> m_rows; ///< on the way to it
+    const CatalogStructureModel *const m_source;
 };
 
-void noteExpanded(const QTreeView &tree, const QModelIndex &parent, const QString &path,
-                  QStringList &paths)
+/// Looks for a project that is shown; an empty version stands for any.
+class Search
 {
-    const QAbstractItemModel *const model = tree.model();
-    for (int row = 0; row < model->rowCount(parent); ++row) {
-        const QModelIndex child = model->index(row, 0, parent);
-        if (!tree.isExpanded(child))
+public:
+    Search(const Tree &tree, const QString &path, const QString &version)
+        : m_tree(tree)
+        , m_path(path)
+        , m_version(version)
+    {
+    }
+    /// One of those that a root knows of.
+    [[nodiscard]] QModelIndex among(const QList<QList<int>> &ways) const
+    {
+        for (const QList<int> &rows : ways) {
+            QModelIndex index;
+            for (const int row : rows)
+                index = m_tree->index(row, 0, index);
+            if (const QModelIndex shown = shownIfWanted(index); shown.isValid())
+                return shown;
+        }
+        return {};
+    }
+    [[nodiscard]] QModelIndex in(const QModelIndex &directory) const
+    {
+        QModelIndex found;
+        const qsizetype rows = m_tree->nodesBelow(directory).size();
+        for (int row = 0; row < rows && !found.isValid(); ++row)
+            found = shownIfWanted(m_tree->index(row, 0, directory));
+        return found;
+    }
+    [[nodiscard]] QModelIndex below(const QModelIndex &directory) const
+    {
+        QModelIndex found;
+        const qsizetype rows = m_tree->nodesBelow(directory).size();
+        for (int row = 0; row < rows && !found.isValid(); ++row) {
+            const QModelIndex index = m_tree->index(row, 0, directory);
+            found = shownIfWanted(index);
+            if (!found.isValid() && m_tree->hasChildren(index))
+                found = below(index);
+        }
+        return found;
+    }
+
+private:
+    [[nodiscard]] QModelIndex shownIfWanted(const QModelIndex &index) const
+    {
+        const Node &node = m_tree->nodeAt(index);
+        const bool isWanted =
+            node->getPath() == m_path && node->getNodeType() == CatalogNodeType::Project &&
+            (m_version.isEmpty() || node->getMapping().getSourceVersion() == m_version);
+        return isWanted ? m_tree.shown(index) : QModelIndex();
+    }
+
+    const Tree &m_tree;
+    const QString m_path;
+    const QString m_version;
+};
+
+void noteExpanded(const QTreeView &view, const Tree &tree, const QModelIndex &parent,
+                  const QString &path, QStringList &paths)
+{
+    for (const QModelIndex &index : tree.directories(parent)) {
+        const QModelIndex shown = tree.shown(index);
+        if (!shown.isValid() || !view.isExpanded(shown))
             continue;
-        paths << path + child.data().toString();
-        noteExpanded(tree, child, paths.last() + '/', paths);
+        paths << path + tree->nodeAt(index)->getName();
+        noteExpanded(view, tree, index, paths.last() + '/', paths);
     }
 }
 
@@ -113,32 +130,39 @@ void noteExpanded(const QTreeView &tree, const QModelIndex &parent, const QStrin
 QStringList TreePath::expanded(const QTreeView &tree)
 {
     QStringList paths;
-    noteExpanded(tree, QModelIndex(), QString(), paths);
+    noteExpanded(tree, Tree(tree.model()), QModelIndex(), QString(), paths);
     return paths;
 }
 
 void TreePath::expand(QTreeView &tree, const QStringList &paths)
 {
+    const Tree nodes(tree.model());
     for (const QString &path : paths) {
-        Search search(tree.model());
-        const QStringList names = path.split('/');
-        if (!std::ranges::all_of(names, [&](const QString &name) { return search.enter(name); }))
-            continue;
-        if (const QModelIndex index = search.index(); index.isValid())
-            tree.expand(index);
+        QModelIndex index;
+        for (const QString &name : path.split('/')) {
+            index = nodes.directory(name, index);
+            if (!index.isValid())
+                break;
+        }
+        if (const QModelIndex shown = nodes.shown(index); shown.isValid())
+            tree.expand(shown);
     }
 }
 
-QModelIndex TreePath::find(QAbstractItemModel *model, const QString &sourcePath,
+QModelIndex TreePath::find(const QAbstractItemModel *model, const QString &sourcePath,
                            const QString &sourceVersion)
 {
-    const Project project{sourcePath, sourceVersion};
-    Search search(model);
-    const QStringList names = sourcePath.split('/').mid(0, sourcePath.count('/'));
-    (void)std::ranges::all_of(names, [&](const QString &name) { return search.enter(name); });
-    const QModelIndex found = search.find(project, false);
-    if (found.isValid())
-        return found;
-    search.toTop();
-    return search.find(project, true);
+    const Tree tree(model);
+    const Search search(tree, sourcePath, sourceVersion);
+    if (const auto *const root = dynamic_cast<const LookUpTreeI *>(tree->nodeAt({}).get()))
+        return search.among(root->rowsTo(sourcePath));
+    QModelIndex directory;
+    for (const QString &name : sourcePath.split('/').mid(0, sourcePath.count('/'))) {
+        const QModelIndex next = tree.directory(name, directory);
+        if (!next.isValid())
+            break;
+        directory = next;
+    }
+    const QModelIndex found = search.in(directory);
+    return found.isValid() ? found : search.below({});
 }

@@ -13,10 +13,10 @@ QT_END_NAMESPACE
 class TreePath
 {
 public:
-    /// Looks where the path's components lead, then everywhere, and has rows fetched that are not
-    /// there yet. An empty version stands for any. Not valid if there is none.
-    [[nodiscard]] static QModelIndex find(QAbstractItemModel *model, const QString &sourcePath,
-                                          const QString &sourceVersion);
+    /// Asks a root that is a LookUpTreeI; else looks where the path's components lead, then
+    /// everywhere. An empty version stands for any. Not valid if there is none.
+    [[nodiscard]] static QModelIndex find(const QAbstractItemModel *model,
+                                          const QString &sourcePath, const QString &sourceVersion);
 
     /// Paths of the directories that are open, parents first.
     [[nodiscard]] static QStringList expanded(const QTreeView &tree);

@@ -56,6 +56,32 @@ private Q_SLOTS:
         QCOMPARE(folderOrder(release), (QList<int>{0, 1, 3}));
     }
 
+    void foldersOfAPath_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QStringList>("folders");
+        QTest::newRow("none") << "a.prj" << QStringList();
+        QTest::newRow("several") << "a/b/c.prj" << QStringList{"a", "b"};
+        QTest::newRow("backslashes") << "a\\b/c.prj" << QStringList{"a", "b"};
+        QTest::newRow("empty components") << "/a//c.prj" << QStringList{"", "a", ""};
+        QTest::newRow("separator at the end") << "a/" << QStringList{"a"};
+    }
+    void foldersOfAPath()
+    {
+        QFETCH(QString, path);
+        QStringList folders;
+        for (const QStringView folder : foldersOf(path))
+            folders += folder.toString();
+        QTEST(folders, "folders");
+        // As a level tells them apart.
+        ReleaseMappingC release;
+        release.addMapping(mapping(path));
+        for (int depth = 1; depth <= folders.size(); ++depth)
+            QCOMPARE(FolderLevel(release, {0}, depth).folders.keys(),
+                     QStringList(folders.at(depth - 1)));
+        QCOMPARE(FolderLevel(release, {0}, int(folders.size()) + 1).projects, QList<int>{0});
+    }
+
     void oneLevel()
     {
         ReleaseMappingC release;

@@ -176,6 +176,19 @@ private Q_SLOTS:
         }
     }
 
+    void findPositions()
+    {
+        ReleaseMappingC release;
+        QCOMPARE(release.findPositions("a"), QList<int>());
+        release.addMapping(mapping("a", "v1", "t1"));
+        release.addMapping(mapping("b", "v1", "t1"));
+        release.addMapping(mapping("a", "v1", "t2"));
+        release.addMapping(mapping("a", "v2", "t1"));
+        QCOMPARE(release.findPositions("a"), (QList<int>{0, 2, 3}));
+        QCOMPARE(release.findPositions("b"), QList<int>{1});
+        QCOMPARE(release.findPositions("A"), QList<int>());
+    }
+
     void addMappingReplacesWhatFindMappingGives_data()
     {
         QTest::addColumn<QString>("version");

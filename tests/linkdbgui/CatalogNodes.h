@@ -36,8 +36,16 @@ public:
     }
 
     int getNodeType() const override { return type; }
-    QString getName() const override { return name; }
-    QString getPath() const override { return QString(); }
+    QString getName() const override
+    {
+        ++namesRead;
+        return name;
+    }
+    QString getPath() const override
+    {
+        ++pathsRead;
+        return mapping.getSourcePath();
+    }
     QFlags<PRJMAPPING::MappingState_> getMappingState() const override
     {
         return PRJMAPPING::MappingState::fromInt(state);
@@ -60,6 +68,8 @@ public:
     mutable int asked = 0; ///< how often for its children
 
     inline static int alive = 0;
+    inline static int namesRead = 0;
+    inline static int pathsRead = 0;
     inline static QStringList invalidated; ///< names, in the order of the calls
 
 private:

@@ -239,6 +239,33 @@ private Q_SLOTS:
         QCOMPARE(filtered.filter.rowCount(), 1);
         QCOMPARE(first->asked, 1);
         QCOMPARE(second->asked, 0);
+        // What was left out is found out as soon as somebody wants to know.
+        QCOMPARE(filtered.rows(), QString("a(b(c.prj) d(e.prj))"));
+    }
+
+    void whatCostsNothingIsDecidedBeforehand()
+    {
+        const auto projects = [](int openOnes) {
+            QList<TestNode::Ptr> nodes;
+            for (int i = 0; i < 100; ++i)
+                nodes += TestNode::project(QString::number(i) + ".prj");
+            for (int i = 0; i < openOnes; ++i)
+                nodes[i]->mapping.setSourcePath("wanted");
+            return nodes;
+        };
+        Filtered filtered(TestNode::root(
+            {FilledTestNode::directory("a", {FilledTestNode::directory("b", projects(1)),
+                                             FilledTestNode::directory("c", projects(0)),
+                                             FilledTestNode::directory("d", projects(2))})}));
+        int asked = 0;
+        filtered.filter.hostFilter = [&asked](const PrjMappingC &mapping) {
+            ++asked;
+            return mapping.getSourcePath() == "wanted";
+        };
+        filtered.set(false, false, false);
+        QCOMPARE(asked, 300);
+        QCOMPARE(filtered.rows(), QString("a(b(0.prj) d(0.prj 1.prj))"));
+        QCOMPARE(asked, 300);
     }
 
     void aViewLoadsWhatIsOpen()

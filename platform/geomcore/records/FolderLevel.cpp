@@ -57,6 +57,19 @@ FolderLevel::FolderLevel(const ReleaseMappingC &release, const QList<int> &posit
     }
 }
 
+QList<QStringView> foldersOf(QStringView path)
+{
+    QList<QStringView> folders;
+    const QChar *start = path.cbegin();
+    for (;;) {
+        const QChar *slash = std::find_if(start, path.cend(), isSeparator);
+        if (slash == path.cend())
+            return folders;
+        folders += QStringView(start, slash - start);
+        start = slash + 1;
+    }
+}
+
 QList<int> folderOrder(const ReleaseMappingC &release)
 {
     QList<int> firsts = release.firstPositions();

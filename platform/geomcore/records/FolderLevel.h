@@ -17,6 +17,9 @@ struct VELKGEOMCORE_EXPORT FolderLevel
     QList<int> projects;               ///< those that lie right here, in the order given
 };
 
+/// The folders that a source path leads through, by the same rule; views of \a path.
+[[nodiscard]] VELKGEOMCORE_EXPORT QList<QStringView> foldersOf(QStringView path);
+
 /// The positions of all projects in the order in which a tree of the catalog shows them: folders
 /// before projects. Of several with the same path and version the first one stands for all.
 [[nodiscard]] VELKGEOMCORE_EXPORT QList<int> folderOrder(const ReleaseMappingC &release);

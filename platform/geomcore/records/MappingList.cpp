@@ -19,6 +19,15 @@ int MappingList::find(const QString &path, const QString &version,
     return -1;
 }
 
+QList<int> MappingList::findAll(const QString &path) const
+{
+    QList<int> found;
+    const int first = m_index ? m_index->byPath.value(path).first : -1;
+    for (int i = first; i >= 0; i = m_index->next[std::size_t(i)])
+        found += i;
+    return found;
+}
+
 QList<int> MappingList::firstPositions() const
 {
     QList<int> positions(m_size);

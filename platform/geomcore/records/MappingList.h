@@ -33,6 +33,8 @@ public:
     /// The first in stored order, -1 if there is none. An empty table version matches any.
     [[nodiscard]] int find(const QString &path, const QString &version,
                            const QString &tableVersion) const;
+    /// All of a path, in stored order.
+    [[nodiscard]] QList<int> findAll(const QString &path) const;
     /// For each mapping in stored order the position of what find gives for its path and version.
     [[nodiscard]] QList<int> firstPositions() const;
     void append(const PrjMappingC &mapping);

@@ -162,6 +162,11 @@ int ReleaseMappingC::findPosition(const QString &sourcePath, const QString &sour
     return d->mappings.find(sourcePath, sourceVersion, tableVersion);
 }
 
+QList<int> ReleaseMappingC::findPositions(const QString &sourcePath) const
+{
+    return d->mappings.findAll(sourcePath);
+}
+
 QList<int> ReleaseMappingC::firstPositions() const
 {
     return d->mappings.firstPositions();

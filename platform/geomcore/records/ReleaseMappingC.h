@@ -62,6 +62,8 @@ public:
     /// position stays until clearMappings.
     [[nodiscard]] int findPosition(const QString &sourcePath, const QString &sourceVersion,
                                    const QString &tableVersion) const;
+    /// Of all mappings of a path, in stored order.
+    [[nodiscard]] QList<int> findPositions(const QString &sourcePath) const;
     /// For each mapping in stored order the position of the first of its path and version.
     [[nodiscard]] QList<int> firstPositions() const;
     /// Replaces exactly the mapping that findMapping gives for the new one's path, version and

@@ -16,6 +16,7 @@
 #include <QThreadPool>
 
 #include <chrono>
+#include <tuple>
 #include <utility>
 
 using OpenResult = MappingDocument::OpenResult;
@@ -301,8 +302,8 @@ void MappingDocumentPrivate::close(bool tell)
         Q_EMIT q->aboutToClose();
     steps.cutNesting();
     finishStep();
-    // Behind all others that hold them: the end of many records takes long.
-    const auto end = qScopeGuard([last = std::pair(release(), file.loaded())]() mutable {
+    // Behind all others that hold them: the end of many records and nodes takes long.
+    const auto end = qScopeGuard([last = std::tuple(handler, release(), file.loaded())]() mutable {
         QThreadPool::globalInstance()->start([ended = std::move(last)] {});
     });
     m_turn.stop();

@@ -97,7 +97,7 @@ private:
     QList<int> applyMove(const StepMove &move);
     [[nodiscard]] bool planStep(int index, ReleaseMappingC &standing, StepPlan &plan) const;
     void passOvertaken();
-    void invalidateNodes(const QString &sourcePath) const;
+    void invalidateStates() const;
     void tellMarks(const StepRecorder::Finished &done);
     void tellStep(const UndoStep &step);
     void tellRefused();

@@ -1,6 +1,6 @@
 #include "MappingDocumentPrivate.h"
 
-#include <mapping/data/CatalogNodeType.h>
+#include <mapping/data/StateTreeI.h>
 #include <workbench/session/change/ReleaseChanges.h>
 #include <workbench/session/history/StepPlaces.h>
 
@@ -218,8 +218,8 @@ QList<int> MappingDocumentPrivate::applyMove(const StepMove &move)
         steps.journal(difference);
         firstLines.append(difference.firstLine());
         store(change.after, change.before);
-        invalidateNodes(change.after.getSourcePath());
     }
+    invalidateStates();
     return firstLines;
 }
 
@@ -281,24 +281,10 @@ bool MappingDocumentPrivate::planStep(int index, ReleaseMappingC &standing, Step
     }
 }
 
-void MappingDocumentPrivate::invalidateNodes(const QString &sourcePath) const
+void MappingDocumentPrivate::invalidateStates() const
 {
-    QString path = sourcePath;
-    path.replace(u'\\', u'/');
-    boost::shared_ptr<CatalogStructureNodeI> node = handler->getRootStructureNode();
-    for (const QString &part : path.split(u'/')) {
-        node->invalidateState();
-        boost::shared_ptr<CatalogStructureNodeI> next;
-        for (const boost::shared_ptr<CatalogStructureNodeI> &child : node->getChildren()) {
-            if (child->getNodeType() == CatalogNodeType::Directory && child->getName() == part)
-                next = child;
-            else if (child->getPath() == sourcePath)
-                child->invalidateState();
-        }
-        if (!next)
-            return;
-        node = next;
-    }
+    if (auto *const tree = dynamic_cast<StateTreeI *>(handler->getRootStructureNode().get()))
+        tree->invalidateTree();
 }
 
 bool MappingDocumentPrivate::isModified() const

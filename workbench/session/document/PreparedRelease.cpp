@@ -5,20 +5,16 @@
 
 namespace {
 
-/// The top level, and below it as long as there is only one directory, with the states.
-void buildTop(boost::shared_ptr<CatalogStructureNodeI> node)
+/// All below, with the states of the directories, so that whoever shows, finds or filters makes
+/// nothing.
+void build(const CatalogStructureNodeI &node)
 {
-    for (bool goesOn = true; goesOn;) {
-        const QList<boost::shared_ptr<CatalogStructureNodeI>> children = node->getChildren();
-        for (const boost::shared_ptr<CatalogStructureNodeI> &child : children) {
-            if (child->getNodeType() != CatalogNodeType::Directory)
-                break; // projects come last, and need nothing
-            (void)child->getMappingState();
-        }
-        goesOn =
-            children.size() == 1 && children.first()->getNodeType() == CatalogNodeType::Directory;
-        if (goesOn)
-            node = children.first();
+    const QList<boost::shared_ptr<CatalogStructureNodeI>> children = node.getChildren();
+    for (const boost::shared_ptr<CatalogStructureNodeI> &child : children) {
+        if (child->getNodeType() != CatalogNodeType::Directory)
+            return; // projects come last, and need nothing
+        (void)child->getMappingState();
+        build(*child);
     }
 }
 
@@ -29,7 +25,7 @@ PreparedRelease PreparedRelease::of(const ReleaseMappingC &release, const QStrin
 {
     PreparedRelease prepared;
     prepared.handler = std::make_shared<ReleaseMappingHandler>(release, rootName, mappingFile);
-    buildTop(prepared.handler->getRootStructureNode());
+    build(*prepared.handler->getRootStructureNode());
     prepared.projects = ProjectOrder(release);
     for (const LineCounts &lines : prepared.projects.lines())
         prepared.counts.add(lines);

@@ -12,7 +12,7 @@ struct PreparedRelease
     [[nodiscard]] static PreparedRelease of(const ReleaseMappingC &release, const QString &rootName,
                                             const QString &mappingFile);
 
-    std::shared_ptr<CatalogMappingHandlerI> handler; ///< what is seen first of its tree is there
+    std::shared_ptr<CatalogMappingHandlerI> handler; ///< all nodes of its tree are there
     LineCounts counts;
     ProjectOrder projects;
 };
