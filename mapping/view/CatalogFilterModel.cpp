@@ -30,6 +30,15 @@ CatalogFilterModel::CatalogFilterModel(QObject *parent)
     m_turn.setSingleShot(true);
     m_turn.setInterval(0);
     connect(&m_turn, &QTimer::timeout, this, [this] { goOn(); });
+    // Before any view hears of it.
+    const auto forget = [this] {
+        m_siblings = {};
+    };
+    connect(this, &QAbstractItemModel::layoutAboutToBeChanged, this, forget);
+    connect(this, &QAbstractItemModel::layoutChanged, this, forget);
+    connect(this, &QAbstractItemModel::rowsInserted, this, forget);
+    connect(this, &QAbstractItemModel::rowsRemoved, this, forget);
+    connect(this, &QAbstractItemModel::modelReset, this, forget);
 }
 
 CatalogFilterModel::~CatalogFilterModel() = default;
@@ -90,8 +99,30 @@ bool CatalogFilterModel::hasChildren(const QModelIndex &parent) const
 
 Qt::ItemFlags CatalogFilterModel::flags(const QModelIndex &index) const
 {
-    // NOLINTNEXTLINE(bugprone-parent-virtual-call): as the source's, whose row is not made for that
-    return QAbstractItemModel::flags(index);
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): as the source's, which is not asked for that
+    Qt::ItemFlags flags = QAbstractItemModel::flags(index);
+    if (!index.isValid())
+        return flags;
+    if (index.internalPointer() != m_siblings.pointer)
+        noteSiblings(index);
+    return flags.setFlag(Qt::ItemNeverHasChildren, index.row() >= m_siblings.projectsFrom);
+}
+
+void CatalogFilterModel::noteSiblings(const QModelIndex &index) const
+{
+    const auto *const source = static_cast<const CatalogStructureModel *>(sourceModel());
+    const QModelIndex parent = index.parent();
+    const int sourceRow = source->projectsFrom(mapToSource(parent));
+    // They stand in the order of the source.
+    int first = 0;
+    for (int last = rowCount(parent); first < last;) {
+        const int middle = first + (last - first) / 2;
+        if (mapToSource(this->index(middle, 0, parent)).row() < sourceRow)
+            first = middle + 1;
+        else
+            last = middle;
+    }
+    m_siblings = {index.internalPointer(), first};
 }
 
 bool CatalogFilterModel::filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const

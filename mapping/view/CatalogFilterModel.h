@@ -37,7 +37,8 @@ public:
 
     /// As the source says, whose rows are left alone until they are wanted.
     [[nodiscard]] bool hasChildren(const QModelIndex &parent = QModelIndex()) const override;
-    /// Those of every row; a view asks for them of each that it has, be it in sight or not.
+    /// Those of every row, and that nothing is below a project: a view asks for them of each row
+    /// that it has, be it in sight or not, and for nothing else then.
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex &index) const override;
 
 protected:
@@ -52,10 +53,18 @@ private:
     void goOn();
     void apply();
     [[nodiscard]] bool decide(const CatalogStructureNodeI &node) const;
+    void noteSiblings(const QModelIndex &index) const;
 
     QTimer m_turn;
     std::unique_ptr<CatalogFilterWalk> m_walk; ///< as long as it is not through
     Accepts m_wanted;                          ///< what it is for
     Accepts m_accepts;                         ///< what is shown
     mutable CatalogFilterWalk::Decided m_decided;
+    /// The rows of the directory whose flags were asked for last, which share what an index of
+    /// this model points at.
+    mutable struct
+    {
+        const void *pointer = nullptr;
+        int projectsFrom = 0;
+    } m_siblings;
 };

@@ -1,5 +1,7 @@
 #include "CatalogStructureItem.h"
 
+#include <mapping/data/CatalogNodeType.h>
+
 CatalogStructureItem::CatalogStructureItem(
     CatalogStructureItem *parentItem, int rowInParent,
     const boost::shared_ptr<CatalogStructureNodeI> &shownNode)
@@ -20,6 +22,10 @@ void CatalogStructureItem::loadChildren()
         return;
     children = node->getChildren();
     childrenLoaded = true;
+    projectsFrom = int(children.size());
+    while (projectsFrom > 0 &&
+           CatalogNodeType::isProject(children.at(projectsFrom - 1)->getNodeType()))
+        --projectsFrom;
 }
 
 CatalogStructureItem *CatalogStructureItem::child(int at)

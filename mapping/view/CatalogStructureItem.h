@@ -27,6 +27,7 @@ struct CatalogStructureItem
     int row;                      ///< index among the parent's children
     boost::shared_ptr<CatalogStructureNodeI> node;
     QList<boost::shared_ptr<CatalogStructureNodeI>> children;
+    int projectsFrom = 0; ///< the row from which on all children are projects
     bool childrenLoaded = false;
     QHash<int, CatalogStructureItem *> items; ///< of children, by their rows; owned
 };

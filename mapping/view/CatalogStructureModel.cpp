@@ -126,6 +126,11 @@ CatalogStructureModel::nodesBelow(const QModelIndex &parent) const
     return d->loadedItemOf(parent)->children;
 }
 
+int CatalogStructureModel::projectsFrom(const QModelIndex &parent) const
+{
+    return d->loadedItemOf(parent)->projectsFrom;
+}
+
 boost::shared_ptr<CatalogStructureNodeI> CatalogStructureModel::nodeFrom(const QVariant &value)
 {
     if (value.userType() == nodeTypeId())

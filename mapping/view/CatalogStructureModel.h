@@ -42,6 +42,9 @@ public:
     /// Of all rows below, without an index of any.
     [[nodiscard]] const QList<Node> &nodesBelow(const QModelIndex &parent) const;
 
+    /// The row from which on all are projects, below which there is nothing.
+    [[nodiscard]] int projectsFrom(const QModelIndex &parent) const;
+
     /// Makes all nodes from \a top down drop what they remember of their state; one that is not
     /// valid stands for the root. A root that is a StateTreeI does it by itself and loads nothing;
     /// else the nodes are walked, which loads them, children before parents. Sends no signal: the

@@ -35,7 +35,11 @@ public:
         return node;
     }
 
-    int getNodeType() const override { return type; }
+    int getNodeType() const override
+    {
+        ++typesRead;
+        return type;
+    }
     QString getName() const override
     {
         ++namesRead;
@@ -68,6 +72,7 @@ public:
     mutable int asked = 0; ///< how often for its children
 
     inline static int alive = 0;
+    inline static int typesRead = 0;
     inline static int namesRead = 0;
     inline static int pathsRead = 0;
     inline static QStringList invalidated; ///< names, in the order of the calls

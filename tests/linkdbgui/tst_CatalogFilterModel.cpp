@@ -356,6 +356,40 @@ private Q_SLOTS:
         QCOMPARE(applied, 2);
     }
 
+    void nothingIsBelowAProject()
+    {
+        const auto open = [](const char *name) {
+            return TestNode::directory(name, {TestNode::project("o.prj", 2)});
+        };
+        Filtered filtered(
+            TestNode::root({open("a"), TestNode::directory("b"), open("c"),
+                            TestNode::project("a.prj"), TestNode::project("b.prj", 2), open("d"),
+                            TestNode::project("c.prj", 2), TestNode::project("d.prj")}));
+        const auto leaves = [&filtered] {
+            QStringList names;
+            for (int row = 0; row < filtered.filter.rowCount(); ++row) {
+                const QModelIndex index = filtered.filter.index(row, 0);
+                if (index.flags() & Qt::ItemNeverHasChildren)
+                    names += index.data().toString();
+            }
+            return names.join(' ');
+        };
+        // Known of those behind the last directory; of others the view has to ask.
+        QCOMPARE(leaves(), QString("c.prj d.prj"));
+        filtered.set(Open);
+        QCOMPARE(filtered.rows(), QString("a(o.prj) c(o.prj) b.prj d(o.prj) c.prj"));
+        QCOMPARE(leaves(), QString("c.prj"));
+        const QModelIndex below = filtered.filter.index(0, 0, filtered.filter.index(0, 0));
+        QVERIFY(below.flags() & Qt::ItemNeverHasChildren);
+        QCOMPARE(leaves(), QString("c.prj"));
+        QVERIFY(!(filtered.filter.flags({}) & Qt::ItemNeverHasChildren));
+        filtered.set(false, false, false);
+        QCOMPARE(leaves(), QString("c.prj d.prj"));
+        filtered.filter.setFilterFixedString("d");
+        QCOMPARE(filtered.rows(), QString("d d.prj"));
+        QCOMPARE(leaves(), QString("d.prj"));
+    }
+
     void rowsKeepTheirOrder()
     {
         Filtered filtered(

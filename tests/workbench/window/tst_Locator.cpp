@@ -305,7 +305,10 @@ void tst_Locator::goesToAProject()
     QTRY_COMPARE(m_fixture->window->editor()->currentLine(), 1);
     QTRY_VERIFY(
         m_fixture->window->editor()->editor()->isAncestorOf(m_fixture->window->focusWidget()));
-    QVERIFY(m_fixture->window->editor()->showProject("standardparts/screws/iso4014.prj"));
+    EditorArea *const editor = m_fixture->window->editor();
+    QVERIFY(editor->showProject("standardparts/screws/iso4014.prj"));
+    QVERIFY(!editor->updatesEnabled()); // painted in a turn of its own
+    QTRY_VERIFY(editor->updatesEnabled());
     const OpenLines::Shown rows = m_fixture->window->editor()->shown();
     const PrjMappingC shown = m_fixture->window->editor()->editor()->currentProject();
     const std::vector<int> open =

@@ -174,6 +174,7 @@ bool EditorArea::openProject(const QString &sourcePath, int line)
 
 bool EditorArea::showProject(const QString &sourcePath)
 {
+    paintLater();
     if (!selectProject(sourcePath))
         return false;
     const OpenLines::Shown rows = shown();
