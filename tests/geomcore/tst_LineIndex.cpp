@@ -5,6 +5,8 @@
 #include <QScopeGuard>
 #include <QTest>
 
+#include <algorithm>
+#include <array>
 #include <thread>
 
 using namespace VKTab;
@@ -104,6 +106,8 @@ private Q_SLOTS:
     void findsCells();
     void sameBytesOtherMeaning();
     void randomJoin();
+    void someElsewhere_data();
+    void someElsewhere();
     void ordered_data();
     void ordered();
     void probesFromManyThreads();
@@ -296,6 +300,59 @@ void tst_LineIndex::ordered_data()
     QTest::newRow("same order") << 1;
     QTest::newRow("backwards") << -1;
     QTest::newRow("shuffled") << 7919;
+}
+
+void tst_LineIndex::someElsewhere_data()
+{
+    QTest::addColumn<int>("kind");
+
+    QTest::newRow("changed in their place") << 0;
+    QTest::newRow("taken out") << 1;
+    QTest::newRow("put in") << 2;
+    QTest::newRow("moved to the end") << 3;
+    QTest::newRow("all of it by turns") << 4;
+}
+
+/// Most rows follow each other as they did. Rows that are the same stand twice here and there.
+void tst_LineIndex::someElsewhere()
+{
+    QFETCH(int, kind);
+    QRandomGenerator random(7);
+    QList<QByteArray> rows;
+    QList<QByteArray> others;
+    QList<QByteArray> moved;
+    for (int i = 0; i < 3000; ++i) {
+        const int number = i % 97 == 0 ? i / 2 : i;
+        const QByteArray row = "k" + QByteArray::number(number) + "," + QByteArray::number(i % 7);
+        rows.append(row);
+        const int now = kind == 4 ? i / 600 : kind;
+        const bool isOther = random.bounded(i % 500 < 100 ? 2 : 11) == 0;
+        if (isOther && now == 0)
+            others.append("k" + QByteArray::number(number) + ",new");
+        else if (isOther && now == 3)
+            moved.append(row + ".0");
+        else if (!isOther || now != 1)
+            others.append(row);
+        if (isOther && now == 2)
+            others.append("new,1");
+    }
+    const auto source = tableOf("a,b\n" + (others + moved).join('\n') + '\n');
+    const LineIndex index(tableOf("a,b\n" + rows.join('\n') + '\n'), keysOf({0, 1}));
+    LineIndex::Probe probe(index, *source, {0, 1});
+    LineIndex::Probe single(index, *source, {0, 1});
+    std::vector<int> all(size_t(source->rowCount()), -2);
+    for (size_t first = 0; first < all.size(); first += 100)
+        probe.find(int(first),
+                   std::span(all).subspan(first, std::min<size_t>(100, all.size() - first)));
+    for (int row = 0; row < source->rowCount(); ++row) {
+        std::vector<CellKey> cells;
+        std::array<std::string, 2> texts;
+        for (int column = 0; column < 2; ++column)
+            cells.push_back(
+                keyOf(*source, row, column, CompareMode::Number, texts[size_t(column)]));
+        QCOMPARE(all[size_t(row)], index.find(cells));
+        QCOMPARE(single.find(row), all[size_t(row)]);
+    }
 }
 
 void tst_LineIndex::ordered()

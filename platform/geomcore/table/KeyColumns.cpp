@@ -29,6 +29,11 @@ void KeyColumns::split(int row, LineKeys &out) const
 void KeyColumns::load(int row, LineKeys &out) const
 {
     split(row, out);
+    makeKeys(out);
+}
+
+void KeyColumns::makeKeys(LineKeys &out) const
+{
     out.keys.resize(m_columns.size());
     for (size_t i = 0; i < m_columns.size(); ++i)
         out.keys[i] = key(i, out);

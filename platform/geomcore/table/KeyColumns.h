@@ -26,6 +26,8 @@ public:
 
     /// Splits a row.
     void split(int row, LineKeys &out) const;
+    /// Makes keys and hash of a row that is split.
+    void makeKeys(LineKeys &out) const;
     /// Splits a row and makes keys and hash.
     void load(int row, LineKeys &out) const;
     [[nodiscard]] std::string_view cell(size_t key, const LineKeys &row) const
