@@ -32,6 +32,8 @@ private Q_SLOTS:
     void updateVarsetModes();
     void updateVarsetWithoutTarget();
     void sourceVarsetNeedNotBeTheLines();
+    void conditionsDoNotTellValuesApart_data();
+    void conditionsDoNotTellValuesApart();
 };
 
 namespace {
@@ -442,6 +444,34 @@ void tst_PrjMapperCheck::sourceVarsetNeedNotBeTheLines()
         assignment.fixture.mapper.checkMapping(line, other, other, CheckValues, QString());
     QCOMPARE(result.getErrMsgList().size(), 2);
     QCOMPARE(result.getSourceVarset(), other);
+}
+
+void tst_PrjMapperCheck::conditionsDoNotTellValuesApart_data()
+{
+    QTest::addColumn<QString>("condition");
+    QTest::addColumn<int>("targetLine");
+    QTest::addColumn<bool>("isEqual");
+
+    QTest::newRow("equal") << QString() << 1 << true;
+    QTest::newRow("different") << QString() << 2 << false;
+    QTest::newRow("equal, and the condition fails") << "D .EQ. 'M9'" << 1 << true;
+    QTest::newRow("different, and the condition fails") << "D .EQ. 'M9'" << 2 << false;
+}
+
+/// Whoever asks for the values alone is not told that the line does not belong here.
+void tst_PrjMapperCheck::conditionsDoNotTellValuesApart()
+{
+    QFETCH(QString, condition);
+    QFETCH(int, targetLine);
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", "D,k:n\nM8,5\n");
+    catalog.write("new/a.prj", "D,k:n\nM8,5\nM9,6\n");
+    Assignment assignment(catalog, {"new/a.prj"});
+    if (!condition.isEmpty())
+        addCondition(assignment.fixture.mapping, 0, condition);
+    const PrjMapperLineC line = assignment.line(0, targetLine);
+    const VKTab::LineView view(assignment.fixture.source, VKTab::LineId(1));
+    QTEST(assignment.fixture.mapper.passesCheck(line, view, CheckValues), "isEqual");
 }
 
 QTEST_GUILESS_MAIN(tst_PrjMapperCheck)

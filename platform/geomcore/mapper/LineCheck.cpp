@@ -148,10 +148,18 @@ bool LineCheck::isJoined(int row) const
            (join->isUndisputed(sourceRow) || m_target->hasSameTexts(sourceRow, row));
 }
 
+bool LineCheck::isKnownToDiffer(int row) const
+{
+    return usesJoins() && !m_assignment->targetVarset && m_assignment->line.row >= 0 &&
+           m_target->join()->areDifferent(m_assignment->line.row, row);
+}
+
 bool LineCheck::checkEqual(int row)
 {
     if (isJoined(row) && !m_target->join()->isSeveral(m_assignment->line.row))
         return true;
+    if (m_quiet && isKnownToDiffer(row))
+        return false;
     takeValues();
     if (m_values.texts.countValues() == 0)
         return complain(CheckMessages::nothingInCommon());

@@ -67,6 +67,8 @@ private:
     [[nodiscard]] bool usesJoins() const;
     /// The join pairs the line with this row, so nothing need be compared.
     [[nodiscard]] bool isJoined(int row) const;
+    /// Whether the join says that no equal line is here.
+    [[nodiscard]] bool isKnownToDiffer(int row) const;
     void takeValues();
     [[nodiscard]] bool mayTakeLine(const BoundTarget &target) const;
     [[nodiscard]] int equalRowOf(const BoundTarget &target);

@@ -27,6 +27,11 @@ public:
     /// Whether it is known that the proposed row alone is equal to the source row, as a text too,
     /// and is so to no other source row. What is not known has to be looked at.
     [[nodiscard]] bool isUndisputed(int sourceRow) const { return has(m_undisputed, sourceRow); }
+    /// Whether it is known that the two rows are not equal. What is not known has to be looked at.
+    [[nodiscard]] bool areDifferent(int sourceRow, int targetRow) const
+    {
+        return m_knowsAll && hit(sourceRow) != targetRow && !isSeveral(sourceRow);
+    }
     /// How many source lines have this row as an equal one: 0, 1 or 2 for more. Of several equal
     /// rows the first counts.
     [[nodiscard]] int claims(int targetRow) const { return m_claims[size_t(targetRow)]; }
@@ -57,6 +62,7 @@ private:
     VKTab::LineSet m_undisputed;  ///< Empty if lines are looked at one by one.
     std::vector<quint8> m_claims;
     int m_claimsKnownTo = 0;
+    bool m_knowsAll = false; ///< A line without a hit has no equal row.
     // Empty unless ranges are walked.
     VKTab::LineSet m_divided;
     VKTab::LineSet m_taken;

@@ -78,6 +78,7 @@ bool PairJoinBuilder::joinInPlace(const LineIndex &index)
     const std::vector<VKTab::CellKey> noValues(index.keys().size());
     const int blank = index.find(noValues); // a line without any value equals nothing
     m_join->m_undisputed = VKTab::LineSet(rows, false);
+    m_join->m_knowsAll = m_target.conditions().isEmpty();
     std::atomic<int> lines = 0;
     std::atomic<int> hits = 0;
     const int steps = (rows + RowsAStep - 1) / RowsAStep;
