@@ -69,13 +69,22 @@ void CellNumbering::number(const Take &take)
     WorkerPool::instance().run(int(m_placesOf.size()), [&](int i) {
         const auto &[variable, places] = m_placesOf[size_t(i)];
         Plan::CellValues &values = m_values[size_t(variable)];
+        std::vector<Plan::CellValues::Text> texts;
+        std::vector<int> numbers;
         for (const Part &part : m_parts) {
+            texts.clear();
             for (size_t line = 0; line < part.lines.size(); ++line) {
                 for (const size_t place : places) {
                     const size_t cell = line * m_places + place;
-                    take(part.lines[line], place,
-                         values.number(part.texts.text(cell), part.texts.decimalChar(cell)));
+                    texts.push_back({part.texts.text(cell), part.texts.decimalChar(cell)});
                 }
+            }
+            numbers.resize(texts.size());
+            values.number(texts, numbers);
+            auto number = numbers.begin();
+            for (const size_t line : part.lines) {
+                for (const size_t place : places)
+                    take(line, place, *number++);
             }
         }
     });

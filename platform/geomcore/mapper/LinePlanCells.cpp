@@ -21,6 +21,15 @@ constexpr int MaxSampled = 20'000;
 /// are a small part of the tables.
 constexpr size_t ManyLines = 20'000;
 
+/// Rows so far ahead are fetched while others are split: where few are open, they are far apart.
+constexpr size_t RowsAhead = 8;
+
+void fetchAhead(const VKTab::TableData &table, const std::vector<int> &rows, size_t at)
+{
+    if (at + RowsAhead < rows.size())
+        table.prefetchRow(rows[at + RowsAhead]);
+}
+
 static_assert(MaxSampled <= Plan::ColumnChance::MaxLines);
 
 LineInput planInput(const SourceTable &source, const VKTab::LineView &view)
@@ -129,6 +138,7 @@ void LinePlan::fillLines(const BoundTarget &target, Plan::PlanTarget &filled, Va
     std::string agreed;
     const Places chosen(filled, meant);
     const auto add = [&](size_t line, CellTexts &texts) {
+        fetchAhead(*source().data(), open, line);
         if (!takes(target, open[line]))
             return;
         const VKTab::LineView view(*source().data(), open[line]);
@@ -179,7 +189,10 @@ void LinePlan::fillRows(const BoundTarget &target, Plan::PlanTarget &filled, Var
     CellNumbering numbering(m_tables.values, chosen.variables);
     numbering.run(
         filled.openRows.size(),
-        [&](size_t row, CellTexts &texts) { add(filled.openRows[row], texts); },
+        [&](size_t row, CellTexts &texts) {
+            fetchAhead(table.data(), filled.openRows, row);
+            add(filled.openRows[row], texts);
+        },
         [&](size_t row, size_t place, int number) {
             filled.rows.set(row, chosen.places[place], number);
         });

@@ -135,6 +135,18 @@ void CandidateLists::findLists(size_t line, std::vector<List> &lists) const
     });
 }
 
+void CandidateLists::fetch(size_t line) const
+{
+    if (line >= m_tables.openLines.size())
+        return;
+    for (size_t place = 0; place < m_places.size(); ++place) {
+        const auto value = size_t(m_target.lines.at(line, place));
+        m_tables.values[size_t(m_target.variables[place])].fetch(int(value));
+        if (value < m_places[place].ends.size())
+            __builtin_prefetch(&m_places[place].ends[value]);
+    }
+}
+
 double CandidateLists::weightOf(size_t size) const
 {
     return size <= m_weights.size() ? m_weights[size - 1]

@@ -26,6 +26,8 @@ public:
         bool isFarAhead = false; ///< One of them, of all that there are.
     };
     [[nodiscard]] Found find(size_t line) const;
+    /// Tells the processor that the line, if there is one, will be asked for.
+    void fetch(size_t line) const;
     static constexpr int MaxRows = 32;
     /// Among so few all are candidates.
     static constexpr int FewRows = 64;

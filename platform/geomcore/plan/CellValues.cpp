@@ -32,6 +32,9 @@ void lower(std::string &text)
     }
 }
 
+/// Texts that wait for memory together.
+constexpr size_t AtOnce = 16;
+
 /// End of a number from \a begin on: digits with at most one point among them.
 size_t endOfNumber(std::string_view text, size_t begin)
 {
@@ -48,6 +51,24 @@ size_t endOfNumber(std::string_view text, size_t begin)
 
 } // namespace
 
+/// The text of a cell, with what it takes to look for its number.
+class CellValues::Cell
+{
+public:
+    Cell(std::string_view cellText, char decimalChar)
+        : text(cellText)
+        , parsed(CanonicalNumber::mayBegin(text, decimalChar)
+                     ? CanonicalNumber::parse(text, decimalChar)
+                     : std::nullopt)
+        , key(parsed ? KeyNumbers::Key(parsed->packed()) : KeyNumbers::Key(text))
+    {
+    }
+
+    std::string_view text;
+    std::optional<CanonicalNumber> parsed;
+    KeyNumbers::Key key;
+};
+
 CellValues::CellValues()
     : m_values(1)
 {
@@ -55,21 +76,41 @@ CellValues::CellValues()
 
 int CellValues::number(std::string_view text, char decimalChar)
 {
-    if (text.empty())
-        return NoValue;
-    std::optional<CanonicalNumber> parsed;
-    if (CanonicalNumber::mayBegin(text, decimalChar))
-        parsed = CanonicalNumber::parse(text, decimalChar);
-    const int number = 1 + (parsed ? m_numbers.ofPacked(parsed->packed()) : m_numbers.ofText(text));
+    return text.empty() ? int(NoValue) : number(Cell(text, decimalChar));
+}
+
+void CellValues::number(std::span<const Text> texts, std::span<int> numbers)
+{
+    std::vector<Cell> cells;
+    cells.reserve(AtOnce);
+    for (size_t first = 0; first < texts.size(); first += AtOnce) {
+        const auto some = texts.subspan(first, std::min(AtOnce, texts.size() - first));
+        cells.clear();
+        for (const Text &text : some)
+            cells.emplace_back(text.text, text.decimalChar);
+        for (const Cell &cell : cells)
+            m_numbers.fetchSlot(cell.key);
+        for (const Cell &cell : cells)
+            m_numbers.fetchKey(cell.key);
+        for (const Cell &cell : cells)
+            m_numbers.fetchText(cell.key);
+        for (size_t i = 0; i < some.size(); ++i)
+            numbers[first + i] = some[i].text.empty() ? int(NoValue) : number(cells[i]);
+    }
+}
+
+int CellValues::number(const Cell &cell)
+{
+    const int number = 1 + m_numbers.of(cell.key);
     if (number < count())
         return number;
     Entry entry;
     m_written.clear();
-    if (parsed) {
+    if (cell.parsed) {
         entry.isNumber = true;
-        addWhole(parsed->packed(), parsed->toDouble());
+        addWhole(cell.parsed->packed(), cell.parsed->toDouble());
     } else {
-        tokenize(text);
+        tokenize(cell.text);
     }
     keep(entry);
     return number;
@@ -120,7 +161,7 @@ void CellValues::tokenize(std::string_view text)
 
 void CellValues::addText(std::string_view text)
 {
-    addToken(m_tokenNumbers.ofText(text), std::numeric_limits<double>::quiet_NaN());
+    addToken(m_tokenNumbers.of(KeyNumbers::Key(text)), std::numeric_limits<double>::quiet_NaN());
 }
 
 void CellValues::addPacked(std::uint64_t packed, double number)
@@ -129,7 +170,7 @@ void CellValues::addPacked(std::uint64_t packed, double number)
     if (value > NoValue)
         m_written.push_back(m_values[size_t(value)].first);
     else
-        addToken(m_tokenNumbers.ofPacked(packed), number);
+        addToken(m_tokenNumbers.of(KeyNumbers::Key(packed)), number);
 }
 
 /// The token of a value is found by its value.

@@ -40,6 +40,13 @@ public:
 
     /// An empty text is NoValue.
     [[nodiscard]] int number(std::string_view text, char decimalChar);
+    struct Text
+    {
+        std::string_view text;
+        char decimalChar = '.';
+    };
+    /// The same for several texts in their order, in less time: they wait for memory together.
+    void number(std::span<const Text> texts, std::span<int> numbers);
     [[nodiscard]] Value value(int number) const
     {
         const Entry &entry = m_values[size_t(number)];
@@ -55,6 +62,15 @@ public:
     }
     /// Tells the processor that the value will be asked for.
     void fetch(int number) const { __builtin_prefetch(&m_values[size_t(number)]); }
+    /// The same for its tokens, once it is there.
+    void fetchTokens(int number) const
+    {
+        const Entry &entry = m_values[size_t(number)];
+        if (entry.isNumber)
+            __builtin_prefetch(&m_tokens[size_t(entry.first)]);
+        else if (entry.tokens > 1)
+            __builtin_prefetch(&m_lists[size_t(entry.first)]);
+    }
     /// Of a value that is one.
     [[nodiscard]] double numberOf(int number) const
     {
@@ -83,6 +99,8 @@ private:
     };
     static_assert(MaxTokens <= std::numeric_limits<std::uint8_t>::max());
 
+    class Cell;
+    [[nodiscard]] int number(const Cell &cell);
     void tokenize(std::string_view text);
     /// A token for m_written.
     void addText(std::string_view text);

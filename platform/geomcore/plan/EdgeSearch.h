@@ -51,8 +51,35 @@ public:
         : m_known(std::move(known))
     {
     }
-    /// Adds the edges of a line, the best first. \a isFound: it was so in the round before.
-    void find(size_t line, bool isFound, EdgeLists::Block &out) const;
+    /// The rows that some lines are compared with. All are looked up before the first is compared:
+    /// what is known of them is far apart, and comes while others are compared.
+    class LookedUp
+    {
+    public:
+        void clear();
+
+    private:
+        friend class EdgeSearch;
+        /// Of a line in one target.
+        struct Part
+        {
+            size_t line = 0;
+            size_t target = 0;
+            size_t firstRow = 0;
+            size_t rowCount = 0;
+        };
+        [[nodiscard]] std::span<const int> rowsOf(const Part &part) const
+        {
+            return std::span(m_rows).subspan(part.firstRow, part.rowCount);
+        }
+        std::vector<Part> m_parts; ///< Line by line, in the order in which they were asked for.
+        std::vector<int> m_rows;
+        size_t m_next = 0; ///< Of the parts, the first that is not yet compared.
+    };
+    /// Looks up the rows of a line. \a isFound: it was so in the round before.
+    void lookUp(size_t line, bool isFound, LookedUp &rows) const;
+    /// Adds the edges of the next line that was looked up, the best first.
+    void find(size_t line, LookedUp &rows, EdgeLists::Block &out) const;
 
 private:
     /// An edge with what it weighs at most; of that the rest is sure, what no variable says.
@@ -70,12 +97,17 @@ private:
         std::vector<int> rows;    ///< Of the target that is looked at,
         std::vector<double> most; ///< and what their variables give at most.
     };
+    void findCandidates(size_t line, LookedUp &rows, Candidates &found) const;
+    static void addAround(const std::vector<int> &openRows, int place, int around, size_t known,
+                          std::vector<int> &rows);
     /// The rows to look at, each once.
-    void findCandidates(size_t line, bool isFound, Candidates &found) const;
-    void addRows(size_t target, size_t line, bool isFound, Candidates &found) const;
-    /// Rows that have something in common with the line; true if one is far ahead of all others.
-    [[nodiscard]] bool lookUp(size_t target, size_t line, bool isFound,
-                              std::vector<int> &rows) const;
+    void findRows(size_t target, size_t line, bool isFound, std::vector<int> &rows) const;
+    /// Those that have something in common with the line; true if one is far ahead of all others.
+    [[nodiscard]] bool findLike(size_t target, size_t line, bool isFound,
+                                std::vector<int> &rows) const;
+    /// What the parts behind this one will ask for.
+    void fetchAhead(const LookedUp &rows, size_t part) const;
+    void compare(const LookedUp::Part &part, const LookedUp &rows, Candidates &found) const;
 
     const Known m_known;
 };

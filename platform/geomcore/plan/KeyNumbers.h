@@ -13,13 +13,40 @@ namespace Plan {
 class KeyNumbers
 {
 public:
+    /// A text, or what a CanonicalNumber packs; a text of the same characters is something else.
+    class Key
+    {
+    public:
+        explicit Key(std::string_view text)
+            : m_text(text)
+            , m_hash(hashOf(text))
+            , m_isText(true)
+        {
+        }
+        explicit Key(std::uint64_t packed)
+            : m_packed(packed)
+            , m_hash(hashOf(packed))
+        {
+        }
+
+    private:
+        friend class KeyNumbers;
+        std::string_view m_text;
+        std::uint64_t m_packed = 0;
+        std::uint32_t m_hash = 0;
+        bool m_isText = false;
+    };
+
     [[nodiscard]] int count() const { return int(m_keys.size()); }
-    /// Of this text, a new one if it was not there.
-    [[nodiscard]] int ofText(std::string_view text);
-    /// Of what a CanonicalNumber packs; a text of the same characters is something else.
-    [[nodiscard]] int ofPacked(std::uint64_t packed);
+    /// Of this key, a new one if it was not there.
+    [[nodiscard]] int of(const Key &key);
     /// The same, or -1.
     [[nodiscard]] int findPacked(std::uint64_t packed) const;
+    /// Look-ups wait for memory, three times for a text. To be called in this order, each for some
+    /// keys, before these are asked for.
+    void fetchSlot(const Key &key) const;
+    void fetchKey(const Key &key) const;
+    void fetchText(const Key &key) const;
 
 private:
     /// By hash the number of a key, or Free; a power of two of them, at most two thirds in use.
@@ -32,8 +59,12 @@ private:
     [[nodiscard]] static std::uint32_t hashOf(std::string_view text);
     /// Makes room for one more; \a hashOfNumber says the hash of a key that is there.
     template<class HashOfNumber>
-    static void grow(Slots &slots, size_t used, HashOfNumber hashOfNumber);
+    void grow(Slots &slots, size_t used, HashOfNumber hashOfNumber) const;
     [[nodiscard]] std::string_view textOf(int number) const;
+    /// The first one that may be that of the key, or Free.
+    [[nodiscard]] int firstNumber(const Key &key) const;
+    [[nodiscard]] int ofText(const Key &key);
+    [[nodiscard]] int ofPacked(const Key &key);
 
     Slots m_textSlots;
     Slots m_packedSlots;

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <iterator>
 #include <map>
 #include <utility>
 
@@ -234,15 +235,25 @@ void LinePlanner::makeEdges(bool ofAll)
         priors.push_back(prior(t));
     const EdgeSearch search({m_tables, m_nodeOffsets, m_rows, m_places, *m_evidence, m_learned,
                              std::move(priors), m_withKeys, ofAll || !m_rows.lists.empty()});
+    const auto isAsked = [&](size_t line) {
+        return ofAll || m_standsFor[line] > 0;
+    };
     WorkerPool::instance().run(int(m_edges.blockCount()), [&](int block) {
         if (isCanceled())
             return;
+        thread_local EdgeSearch::LookedUp rows;
+        rows.clear();
+        const size_t first = size_t(block) * EdgeLists::LinesOfBlock;
+        for (size_t line = first; line < std::min(m_edges.size(), first + EdgeLists::LinesOfBlock);
+             ++line) {
+            if (isAsked(line))
+                search.lookUp(line, EdgeSearch::isFound(std::as_const(m_edges)[line]), rows);
+        }
         m_edges.refill(size_t(block), [&](size_t line, EdgeLists::Block &out) {
-            const std::span<const PlanEdge> before = std::as_const(m_edges)[line];
-            if (ofAll || m_standsFor[line] > 0)
-                search.find(line, EdgeSearch::isFound(before), out);
+            if (isAsked(line))
+                search.find(line, rows, out);
             else
-                out.add(before);
+                out.add(std::as_const(m_edges)[line]);
         });
     });
 }
@@ -298,17 +309,32 @@ void LinePlanner::forEachShown(const std::vector<Shown> &pairs, Take take) const
     }
 }
 
+std::vector<std::vector<size_t>> LinePlanner::placesOf(int variable) const
+{
+    std::vector<std::vector<size_t>> places;
+    for (const PlanTarget &target : m_tables.targets) {
+        std::vector<size_t> &own = places.emplace_back();
+        for (size_t place = 0; place < target.variables.size(); ++place) {
+            if (target.variables[place] == variable)
+                own.push_back(place);
+        }
+    }
+    return places;
+}
+
 void LinePlanner::learnRates(const std::vector<Shown> &pairs)
 {
+    std::vector<Shown> counted;
+    std::ranges::copy_if(pairs, std::back_inserter(counted),
+                         [this](const Shown &pair) { return m_standsFor[pair.line] > 0; });
     WorkerPool::instance().run(int(m_counts.size()), [&](int variable) {
+        const auto places = placesOf(variable);
         RateCounts counts;
-        forEachShown(pairs, [&](const Shown &pair, PlanEdge edge, const PlanTarget &target) {
+        forEachShown(counted, [&](const Shown &pair, PlanEdge edge, const PlanTarget &target) {
             edge.probability *= double(m_standsFor[pair.line]);
-            for (size_t place = 0; place < target.variables.size(); ++place) {
-                if (target.variables[place] == variable && edge.probability > 0)
-                    m_evidence->count(target, place, edge, pair.line,
-                                      ownWeight(m_learned, pair.line, edge.node), counts);
-            }
+            for (const size_t place : places[size_t(edge.target)])
+                m_evidence->count(target, place, edge, pair.line,
+                                  ownWeight(m_learned, pair.line, edge.node), counts);
         });
         m_counts[size_t(variable)] = counts;
     });
@@ -317,12 +343,12 @@ void LinePlanner::learnRates(const std::vector<Shown> &pairs)
 ChangeMemory::Pairs LinePlanner::valuesOf(const std::vector<Shown> &pairs, int variable,
                                           bool isLast) const
 {
-    return [this, &pairs, variable, isLast](const ChangeMemory::TakePair &take) {
+    return [this, &pairs, places = placesOf(variable), isLast](const ChangeMemory::TakePair &take) {
         forEachShown(pairs, [&](const Shown &pair, const PlanEdge &edge, const PlanTarget &target) {
+            if (!pair.isModel)
+                return;
             const double shown = isLast ? 1 : double(m_standsFor[pair.line]);
-            for (size_t place = 0; place < target.variables.size() && pair.isModel; ++place) {
-                if (target.variables[place] != variable)
-                    continue;
+            for (const size_t place : places[size_t(edge.target)]) {
                 const int oldValue = target.lines.at(pair.line, place);
                 const int newValue = target.rows.at(size_t(edge.row), place);
                 if (oldValue != CellValues::NoValue && newValue != CellValues::NoValue)

@@ -88,6 +88,8 @@ private:
     /// Calls \a take with each of them, its edge and its target.
     template<class Take>
     void forEachShown(const std::vector<Shown> &pairs, Take take) const;
+    /// By target: where it has the variable.
+    [[nodiscard]] std::vector<std::vector<size_t>> placesOf(int variable) const;
     void learnRates(const std::vector<Shown> &pairs);
     void learnChanges(const std::vector<Shown> &pairs, bool isLast);
     [[nodiscard]] ChangeMemory::Pairs valuesOf(const std::vector<Shown> &pairs, int variable,

@@ -81,7 +81,6 @@ void PairEvidence::bound(const PlanTarget &target, size_t line, std::span<const 
     const size_t before = parts.size();
     parts.resize(before + rows.size() * count);
     const std::span<Part> added = std::span(parts).subspan(before);
-    fetch(target, rows);
     for (size_t place = 0; place < count && !rows.empty(); ++place) {
         if (!withKeys && target.keys[place])
             continue;
@@ -104,15 +103,38 @@ void PairEvidence::bound(const PlanTarget &target, size_t line, std::span<const 
     }
 }
 
-/// Values of many lines are far from each other: all that are asked for are fetched at once.
-void PairEvidence::fetch(const PlanTarget &target, std::span<const int> rows) const
+void PairEvidence::fetchValues(const PlanTarget &target, size_t line,
+                               std::span<const int> rows) const
 {
-    for (const int row : rows) {
-        for (size_t place = 0; place < target.variables.size(); ++place) {
+    for (size_t place = 0; place < target.variables.size(); ++place) {
+        const CellValues &values = m_tables.values[size_t(target.variables[place])];
+        const int oldValue = target.lines.at(line, place);
+        values.fetch(oldValue);
+        for (const int row : rows) {
             const int value = target.rows.at(size_t(row), place);
-            m_tables.values[size_t(target.variables[place])].fetch(value);
             target.chances[place].fetch(value);
+            if (value != oldValue)
+                values.fetch(value);
         }
+    }
+}
+
+void PairEvidence::fetchTokens(const PlanTarget &target, size_t line,
+                               std::span<const int> rows) const
+{
+    for (size_t place = 0; place < target.variables.size(); ++place) {
+        const CellValues &values = m_tables.values[size_t(target.variables[place])];
+        const int oldValue = target.lines.at(line, place);
+        bool differs = false;
+        for (const int row : rows) {
+            const int value = target.rows.at(size_t(row), place);
+            if (value == oldValue)
+                continue;
+            values.fetchTokens(value);
+            differs = true;
+        }
+        if (differs)
+            values.fetchTokens(oldValue);
     }
 }
 
@@ -123,10 +145,8 @@ void PairEvidence::boundPlace(const PlanTarget &target, size_t place, int oldVal
     const ColumnChance &chance = target.chances[place];
     const CellValues &values = m_tables.values[size_t(target.variables[place])];
     const VariableRates &rates = m_rates[size_t(target.variables[place])];
-    const bool isNumber = values.isNumber(oldValue);
-    const double number = isNumber ? values.numberOf(oldValue) : 0;
-    const CellValues::Value old = values.value(oldValue);
-    std::optional<Part> equal; // the same for all rows
+    std::optional<CellValues::Value> old; // where another value is to be compared with it
+    std::optional<Part> equal;            // the same for all rows
     const double nearest = rates.way(Way::Near) / chance.nearSpan();
     for (size_t i = 0; i < rows.size(); ++i) {
         Part &part = parts[i * target.variables.size()];
@@ -141,13 +161,16 @@ void PairEvidence::boundPlace(const PlanTarget &target, size_t place, int oldVal
             part = *equal;
             continue;
         }
+        if (!old)
+            old = values.value(oldValue);
         double ratio = rates.way(Way::Other);
         if (at.change > 0)
             ratio += at.change / chance.share(newValue);
-        if (isNumber && values.isNumber(newValue)) {
+        if (old->isNumber && values.isNumber(newValue)) {
             const double other = values.numberOf(newValue);
-            ratio += number * other > 0 ? nearest / chance.nearShareAtLeast(number, other) : 0;
-        } else if (haveCommon(old.distinct, values.value(newValue).distinct)) {
+            ratio +=
+                old->number * other > 0 ? nearest / chance.nearShareAtLeast(old->number, other) : 0;
+        } else if (haveCommon(old->distinct, values.value(newValue).distinct)) {
             ratio += rates.way(Way::Alike) / chance.share(newValue);
         }
         part = {logAtMost(ratio) + at.bothThere, false, false};

@@ -39,6 +39,10 @@ public:
         bool isKnown = true;   ///< Else two values differ, and this is the most that they give.
         bool isCommon = false; ///< They are the same, and that hardly happens by chance.
     };
+    /// Tells the processor what bound() will ask for, the values of line and rows first, then their
+    /// tokens: values of many lines are far from each other.
+    void fetchValues(const PlanTarget &target, size_t line, std::span<const int> rows) const;
+    void fetchTokens(const PlanTarget &target, size_t line, std::span<const int> rows) const;
     /// Appends those of a line and some rows, row by row in the order of the target's variables,
     /// and to \a sums what each row gives at most. What is left out, as keys are without \a
     /// withKeys, gives nothing. Looks at the rows variable by variable: values are far from each
@@ -81,7 +85,6 @@ private:
     /// together than by chance; the sum.
     double compare(const PlanTarget &target, size_t place, int oldValue, int newValue, double own,
                    CellEvidence &evidence) const;
-    void fetch(const PlanTarget &target, std::span<const int> rows) const;
     /// Of the rows in one variable, which has a value in the line.
     void boundPlace(const PlanTarget &target, size_t place, int oldValue, std::span<const int> rows,
                     std::span<Part> parts) const;

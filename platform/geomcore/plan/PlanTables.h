@@ -37,6 +37,8 @@ public:
         std::memcpy(&value, m_bytes.data() + line * m_stride + column.offset, sizeof value);
         return int(value & column.mask);
     }
+    /// Tells the processor that the line will be asked for.
+    void fetch(size_t line) const { __builtin_prefetch(m_bytes.data() + line * m_stride); }
     /// Until pack().
     void set(size_t line, size_t variable, int value)
     {
