@@ -4,6 +4,7 @@
 #include "TargetTable.h"
 
 #include <core/parallel/WorkerPool.h>
+#include <geomcore/plan/giveBack.h>
 #include <geomcore/table/TableData.h>
 
 #include <algorithm>
@@ -36,8 +37,9 @@ LinePlan::LinePlan(TargetSet &targets, const PrjMappingC &mapping, const AgreedV
         m_openOf[size_t(row)] = int(m_tables.openLines.size());
         m_tables.openLines.push_back(row);
     }
-    m_settledTarget = {};
-    m_settledRow = {};
+    m_tables.openLines.shrink_to_fit();
+    Plan::giveBack(m_settledTarget);
+    Plan::giveBack(m_settledRow);
     for (size_t i = 0; i < m_bound.size() && !m_tables.openLines.empty(); ++i)
         findOpen(*m_bound[i], m_tables.targets[i]);
     m_tables.variableCount = int(m_variableNumbers.size());
@@ -60,7 +62,7 @@ LinePlan::LinePlan(TargetSet &targets, const PrjMappingC &mapping, const AgreedV
     m_bound.clear();
     m_claimed.clear();
     for (Plan::PlanTarget &target : m_tables.targets)
-        target.settled = {};
+        Plan::giveBack(target.settled);
     m_source = nullptr;
 }
 
@@ -150,6 +152,7 @@ void LinePlan::findOpen(const BoundTarget &target, Plan::PlanTarget &filled)
         if (!claimed[size_t(row)] && shown)
             filled.openRows.push_back(row);
     }
+    filled.openRows.shrink_to_fit();
     for (const int variable : target.variables()) {
         const QString &name = target.table()->variables()[size_t(variable)].name;
         filled.variables.push_back(

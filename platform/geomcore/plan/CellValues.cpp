@@ -1,5 +1,7 @@
 #include "CellValues.h"
 
+#include "giveBack.h"
+
 #include <geomcore/value/CanonicalNumber.h>
 
 #include <algorithm>
@@ -193,10 +195,10 @@ void CellValues::addToken(int number, double value)
 
 void CellValues::finish()
 {
-    m_numbers = {};
-    m_tokenNumbers = {};
-    m_tokenOf = {};
-    m_written = {};
+    giveBack(m_numbers);
+    giveBack(m_tokenNumbers);
+    giveBack(m_tokenOf);
+    giveBack(m_written);
     m_values.shrink_to_fit();
     m_lists.shrink_to_fit();
     m_tokens.shrink_to_fit();

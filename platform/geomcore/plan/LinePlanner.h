@@ -8,6 +8,7 @@
 #include <atomic>
 #include <functional>
 #include <memory>
+#include <mutex>
 #include <span>
 #include <vector>
 
@@ -74,7 +75,7 @@ private:
     /// Once all edges are made, nothing is looked up any more.
     void freeSearch();
     [[nodiscard]] double prior(size_t target) const;
-    /// The last time no lines stand for others in the changes, which are told as they are.
+    /// The last time no changes: nothing is weighed by them any more.
     void learn(bool isLast);
     void learnTargets(const std::vector<double> &lines);
     /// A pair that is probable enough to learn from.
@@ -84,18 +85,29 @@ private:
         std::uint16_t edge = 0; ///< Index among those of the line.
         bool isModel = false;   ///< Changes are learned from it as well.
     };
-    [[nodiscard]] std::vector<Shown> shownPairs(bool isLast) const;
+    /// Of all lines or of those that stand for them.
+    [[nodiscard]] std::vector<Shown> shownPairs(bool ofAll) const;
     /// Calls \a take with each of them, its edge and its target.
     template<class Take>
     void forEachShown(const std::vector<Shown> &pairs, Take take) const;
     /// By target: where it has the variable.
     [[nodiscard]] std::vector<std::vector<size_t>> placesOf(int variable) const;
     void learnRates(const std::vector<Shown> &pairs);
-    void learnChanges(const std::vector<Shown> &pairs, bool isLast);
+    /// Of very many pairs it is much.
+    void forgetChanges();
+    void learnChanges(const std::vector<Shown> &pairs);
+    [[nodiscard]] ChangeMemory changesOf(const std::vector<Shown> &pairs, bool ofAll) const;
     [[nodiscard]] ChangeMemory::Pairs valuesOf(const std::vector<Shown> &pairs, int variable,
-                                               bool isLast) const;
+                                               bool ofAll) const;
+    /// What candidates are explained by, all changes as they are. Most plans are asked for
+    /// proposals alone, so it is learned when it is first asked for.
+    void learnToTell() const;
     /// Once true, it is not asked again.
     [[nodiscard]] bool isCanceled() const;
+
+    /// Share of the lines that have no successor, before anything is known; it counts like
+    /// VariableRates::Strength lines.
+    static constexpr double AssumedGone = 0.1;
 
     const PlanTables &m_tables;
     std::vector<int> m_nodeOffsets; ///< By target.
@@ -107,10 +119,12 @@ private:
     std::vector<VariableRates> m_rates;
     std::vector<RateCounts> m_counts;
     const KnownChanges *m_known = nullptr;
-    ChangeMemory m_changes;
-    std::unique_ptr<PairEvidence> m_evidence; ///< By m_rates and m_changes as they are.
-    std::vector<PlaceEvidence> m_places;      ///< By target.
-    std::vector<char> m_keepsOrder;           ///< By target, as they said last.
+    mutable ChangeMemory m_changes;
+    /// By m_rates and m_changes as they are.
+    mutable std::unique_ptr<PairEvidence> m_evidence;
+    mutable std::once_flag m_toldOnce;
+    std::vector<PlaceEvidence> m_places; ///< By target.
+    std::vector<char> m_keepsOrder;      ///< By target, as they said last.
     double m_gone;
     std::vector<double> m_shares; ///< By target: how many of the lines that have a successor.
     EdgeLists m_edges;
