@@ -1,6 +1,7 @@
 #include "ModalScript.h"
 #include "WindowFixture.h"
 
+#include <gui/application/PCommandKeys.h>
 #include <workbench/window/editor/EditorArea.h>
 #include <workbench/window/help/HelpDesk.h>
 #include <workbench/window/help/HelpWindow.h>
@@ -8,16 +9,23 @@
 #include <workbench/window/settings/SettingsDialog.h>
 #include <workbench/window/settings/WorkbenchSettings.h>
 
+#include <QAction>
 #include <QFile>
 #include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScrollBar>
+#include <QSet>
 #include <QTest>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTreeWidget>
+
+#include <algorithm>
 
 /// The manual in the program.
 class tst_Help : public QObject
@@ -33,8 +41,17 @@ private Q_SLOTS:
     void linksAndBack();
     void contentsAndFind();
     void glossaryHasBothLanguages();
+    void menusAreThoseOfTheProgram();
+    void keysAreThoseOfTheProgram();
 
 private:
+    [[nodiscard]] static QString textOf(const QString &page)
+    {
+        QFile file(":/manual/" + page);
+        if (!file.open(QIODevice::ReadOnly))
+            QTest::qFail("no such page", __FILE__, __LINE__);
+        return QString::fromUtf8(file.readAll());
+    }
     [[nodiscard]] static QString textAtTop(const HelpWindow *help)
     {
         auto *const text = help->findChild<QTextBrowser *>("helpText");
@@ -195,6 +212,93 @@ void tst_Help::glossaryHasBothLanguages()
     QStringList sorted = words;
     sorted.sort();
     QCOMPARE(words, sorted);
+}
+
+namespace {
+
+/// As the manual writes it.
+QString nameOf(QString text)
+{
+    return text.remove('&').remove(QRegularExpression("(\\.\\.\\.|…|:)$"));
+}
+
+/// Names below a menu, a submenu or the settings, as they are shown.
+QStringList namesBelow(const QMenuBar &bar, const QWidget &settings, const QStringList &path)
+{
+    QStringList names;
+    if (path.last() == "Settings") {
+        for (const QLabel *const label : settings.findChildren<QLabel *>())
+            names << nameOf(label->text());
+        for (const QAbstractButton *const button : settings.findChildren<QAbstractButton *>())
+            names << nameOf(button->text());
+        for (const QGroupBox *const box : settings.findChildren<QGroupBox *>())
+            names << nameOf(box->title());
+        return names;
+    }
+    QList<QAction *> actions = bar.actions();
+    for (const QString &step : path) {
+        const auto found = std::find_if(actions.begin(), actions.end(), [&](const QAction *action) {
+            return nameOf(action->text()) == step;
+        });
+        if (found == actions.end() || !(*found)->menu())
+            return {};
+        actions = (*found)->menu()->actions();
+    }
+    for (const QAction *const action : std::as_const(actions))
+        names << nameOf(action->text());
+    return names;
+}
+
+} // namespace
+
+/// "*File > Share > Shared copy*": each such path of the manual is in the English window.
+void tst_Help::menusAreThoseOfTheProgram()
+{
+    WindowFixture fixture;
+    WorkbenchSettings::Values values = fixture.settings->values();
+    values.language = "en";
+    fixture.settings->setValues(values);
+    QTRY_COMPARE(nameOf(fixture.window->menuBar()->actions().first()->text()), "File");
+    const SettingsDialog settings(values, {}, nullptr);
+    static const QRegularExpression path("\\*([A-Z][^*]* > [^*]*)\\*");
+    QStringList missing;
+    int found = 0;
+    for (const QString &page : HelpWindow::pages()) {
+        for (const QRegularExpressionMatch &match : path.globalMatch(textOf(page))) {
+            QStringList steps = match.captured(1).simplified().split(" > ");
+            const QString name = nameOf(steps.takeLast());
+            ++found;
+            if (!namesBelow(*fixture.window->menuBar(), settings, steps).contains(name))
+                missing << page + ": " + match.captured(1);
+        }
+    }
+    QVERIFY2(found > 25, qPrintable(QString::number(found)));
+    QVERIFY2(missing.isEmpty(), qPrintable(missing.join('\n')));
+}
+
+/// Those with Ctrl, Shift or Alt and the function keys.
+void tst_Help::keysAreThoseOfTheProgram()
+{
+    const WindowFixture fixture;
+    QSet<QString> known{"Ctrl+C", "F2"}; // the terminal's, a list's
+    for (const PCommandKeys::Command &command : PCommandKeys::instance().commands()) {
+        for (const QKeySequence &key : command.standard)
+            known += key.toString(QKeySequence::PortableText);
+    }
+    static const QRegularExpression keys(
+        "\\b(?:(?:Ctrl\\+|Shift\\+|Alt\\+)+(?:F\\d+|[A-Z0-9,](?![a-z]))|F\\d+)");
+    QStringList missing;
+    int found = 0;
+    for (const QString &page : {QString("manual.md"), QString("manual/tour.md"),
+                                QString("manual/sharing.md"), QString("manual/scripts.md")}) {
+        for (const QRegularExpressionMatch &match : keys.globalMatch(textOf(page))) {
+            ++found;
+            if (!known.contains(match.captured()))
+                missing << page + ": " + match.captured();
+        }
+    }
+    QVERIFY2(found > 60, qPrintable(QString::number(found)));
+    QVERIFY2(missing.isEmpty(), qPrintable(missing.join('\n')));
 }
 
 QTEST_MAIN(tst_Help)
