@@ -1,5 +1,6 @@
 #include "FilterDock.h"
 
+#include "PatternText.h"
 #include "ReportTexts.h"
 
 #include <core/text/countText.h>
@@ -27,22 +28,10 @@ constexpr int TraitRole = Qt::UserRole;
 constexpr int ValueRole = Qt::UserRole + 1;
 constexpr int NotRole = Qt::UserRole + 2;
 
-struct ValueText
-{
-    const char *value;
-    const char *text;
-};
-constexpr std::array valueTexts{
-    ValueText{"replacement", QT_TRANSLATE_NOOP("FilterDock", "ersetzter Text")},
-    ValueText{"numberMap", QT_TRANSLATE_NOOP("FilterDock", "Zahl umgerechnet")},
-    ValueText{"nearNumber", QT_TRANSLATE_NOOP("FilterDock", "Zahl nahebei")},
-    ValueText{"otherNumber", QT_TRANSLATE_NOOP("FilterDock", "andere Zahl")},
-    ValueText{"wording", QT_TRANSLATE_NOOP("FilterDock", "anderer Wortlaut")},
-    ValueText{"notation", QT_TRANSLATE_NOOP("FilterDock", "andere Schreibweise")},
-    ValueText{"added", QT_TRANSLATE_NOOP("FilterDock", "Wert nur neu")},
-    ValueText{"missing", QT_TRANSLATE_NOOP("FilterDock", "Wert nur alt")},
-    ValueText{"incomparable", QT_TRANSLATE_NOOP("FilterDock", "nicht vergleichbar")},
-};
+// In the order of differenceText().
+constexpr std::array<const char *, 9> differenceKeys{"replacement", "numberMap", "nearNumber",
+                                                     "otherNumber", "wording",   "notation",
+                                                     "added",       "missing",   "incomparable"};
 
 // Of LineStateFilter, in the order of LineState.
 constexpr std::array<const char *, VelkRelease::LineStateCount> stateTexts{
@@ -68,12 +57,29 @@ QStringList standingValues(LineTrait trait)
         for (int reason = 0; reason < VelkRelease::OpenReasonCount; ++reason)
             values += VelkRelease::openReasonKey(VelkRelease::OpenReason(reason));
     } else if (trait == LineTrait::Difference) {
-        for (const ValueText &row : valueTexts)
-            values += QLatin1String(row.value);
+        for (const char *const key : differenceKeys)
+            values += QLatin1String(key);
     } else if (trait == LineTrait::Origin) {
         values += QStringLiteral("carried");
     }
     return values;
+}
+
+/// In the words of the pattern list.
+QString differenceText(qsizetype at)
+{
+    const VelkRelease::ValueChange::Words words = PatternText::words();
+    const std::array texts{FilterDock::tr("ersetzter Text"),
+                           FilterDock::tr("Zahl umgerechnet"),
+                           words.nearNumber,
+                           words.otherNumber,
+                           words.wording,
+                           words.notation,
+                           words.added,
+                           words.missing,
+                           PatternText::incomparable()};
+    static_assert(texts.size() == differenceKeys.size());
+    return texts[size_t(at)];
 }
 
 } // namespace
@@ -86,7 +92,7 @@ QString FilterDock::valueText(LineTrait trait, const QString &value)
     if (trait == LineTrait::Reason && at >= 0)
         return ReportTexts::reason(VelkRelease::OpenReason(at));
     if (trait == LineTrait::Difference && at >= 0)
-        return tr(valueTexts[size_t(at)].text);
+        return differenceText(at);
     if (trait == LineTrait::Origin && at >= 0)
         return tr("aus einem früheren Mapping übernommen");
     if (!value.isEmpty())

@@ -28,6 +28,11 @@ VelkRelease::GoneGroup::Words goneWords()
             QCoreApplication::translate("PatternText", "keine ähnliche Zeile: %1")};
 }
 
+QString incomparable()
+{
+    return QCoreApplication::translate("PatternText", "nicht zu vergleichen");
+}
+
 QString of(const QList<VelkRelease::ValueChange> &changes)
 {
     QStringList texts;
@@ -39,7 +44,7 @@ QString of(const QList<VelkRelease::ValueChange> &changes)
 QString of(const VelkRelease::DifferencePatterns &patterns, int pattern)
 {
     if (!patterns.isComparable(pattern))
-        return QCoreApplication::translate("PatternText", "nicht zu vergleichen");
+        return incomparable();
     const std::optional<VelkRelease::GoneGroup> &gone = patterns.gone(pattern);
     QString text = gone ? gone->text(goneWords()) : of(patterns.changes(pattern));
     if (text.isEmpty())

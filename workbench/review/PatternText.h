@@ -13,6 +13,8 @@ namespace PatternText {
 [[nodiscard]] QString of(const AgreedReplacement &replacement);
 /// What changes without a notation of their own are called.
 [[nodiscard]] VelkRelease::ValueChange::Words words();
+/// Lines whose values cannot be set beside each other.
+[[nodiscard]] QString incomparable();
 /// What lines without a successor have in common.
 [[nodiscard]] VelkRelease::GoneGroup::Words goneWords();
 

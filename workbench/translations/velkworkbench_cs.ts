@@ -838,34 +838,6 @@ Otevřete „%1“ a zvolte „%2“, aby byly zase vidět všechny projekty.</t
         <translation>přepočtené číslo</translation>
     </message>
     <message>
-        <source>Zahl nahebei</source>
-        <translation>blízké číslo</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>jiné číslo</translation>
-    </message>
-    <message>
-        <source>anderer Wortlaut</source>
-        <translation>jiné znění</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>jiný zápis</translation>
-    </message>
-    <message>
-        <source>Wert nur neu</source>
-        <translation>Hodnota jen v novém</translation>
-    </message>
-    <message>
-        <source>Wert nur alt</source>
-        <translation>Hodnota jen ve starém</translation>
-    </message>
-    <message>
-        <source>nicht vergleichbar</source>
-        <translation>nelze porovnat</translation>
-    </message>
-    <message>
         <source>Zustand</source>
         <translation>Stav</translation>
     </message>
@@ -1801,26 +1773,6 @@ Otevřete „%1“ a zvolte „%2“, aby byly zase vidět všechny projekty.</t
         <translation>Nárokováno několika řádky</translation>
     </message>
     <message>
-        <source>nahe Zahl</source>
-        <translation>blízké číslo</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>jiné číslo</translation>
-    </message>
-    <message>
-        <source>anderer Text</source>
-        <translation>jiný text</translation>
-    </message>
-    <message>
-        <source>neu</source>
-        <translation>nové</translation>
-    </message>
-    <message>
-        <source>fehlt</source>
-        <translation>chybí</translation>
-    </message>
-    <message>
         <source>Teil weicht ab</source>
         <translation>Díl se liší</translation>
     </message>
@@ -1835,10 +1787,6 @@ Otevřete „%1“ a zvolte „%2“, aby byly zase vidět všechny projekty.</t
     <message>
         <source>Nummern: %1</source>
         <translation>Čísla: %1</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>jiný zápis</translation>
     </message>
 </context>
 <context>

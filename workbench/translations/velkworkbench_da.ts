@@ -815,34 +815,6 @@ Vælg en anden fil.</translation>
         <translation>omregnet tal</translation>
     </message>
     <message>
-        <source>Zahl nahebei</source>
-        <translation>tal tæt på</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>andet tal</translation>
-    </message>
-    <message>
-        <source>anderer Wortlaut</source>
-        <translation>anden ordlyd</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>anden skrivemåde</translation>
-    </message>
-    <message>
-        <source>Wert nur neu</source>
-        <translation>Værdi kun i ny</translation>
-    </message>
-    <message>
-        <source>Wert nur alt</source>
-        <translation>Værdi kun i gammel</translation>
-    </message>
-    <message>
-        <source>nicht vergleichbar</source>
-        <translation>kan ikke sammenlignes</translation>
-    </message>
-    <message>
         <source>Zustand</source>
         <translation>Tilstand</translation>
     </message>
@@ -1772,26 +1744,6 @@ Vælg en anden fil.</translation>
         <translation>Flere linjer gør krav på det</translation>
     </message>
     <message>
-        <source>nahe Zahl</source>
-        <translation>nært tal</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>andet tal</translation>
-    </message>
-    <message>
-        <source>anderer Text</source>
-        <translation>anden tekst</translation>
-    </message>
-    <message>
-        <source>neu</source>
-        <translation>ny</translation>
-    </message>
-    <message>
-        <source>fehlt</source>
-        <translation>mangler</translation>
-    </message>
-    <message>
         <source>Teil weicht ab</source>
         <translation>Delen afviger</translation>
     </message>
@@ -1806,10 +1758,6 @@ Vælg en anden fil.</translation>
     <message>
         <source>Nummern: %1</source>
         <translation>Numre: %1</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>anden skrivemåde</translation>
     </message>
 </context>
 <context>

@@ -793,11 +793,11 @@ Open “%1” and choose “%2” to see all projects again.</translation>
     </message>
     <message>
         <source>Am Ende angekommen, weiter von vorn</source>
-        <translation>Reached the end, going on from the top</translation>
+        <translation>Reached the end, going on from the beginning</translation>
     </message>
     <message>
         <source>Am Anfang angekommen, weiter von hinten</source>
-        <translation>Reached the top, going on from the end</translation>
+        <translation>Reached the beginning, going on from the end</translation>
     </message>
     <message>
         <source>Keine Zeile ist mehr im Filter</source>
@@ -813,34 +813,6 @@ Open “%1” and choose “%2” to see all projects again.</translation>
     <message>
         <source>Zahl umgerechnet</source>
         <translation>number converted</translation>
-    </message>
-    <message>
-        <source>Zahl nahebei</source>
-        <translation>number close by</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>other number</translation>
-    </message>
-    <message>
-        <source>anderer Wortlaut</source>
-        <translation>other wording</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>other notation</translation>
-    </message>
-    <message>
-        <source>Wert nur neu</source>
-        <translation>value only new</translation>
-    </message>
-    <message>
-        <source>Wert nur alt</source>
-        <translation>value only old</translation>
-    </message>
-    <message>
-        <source>nicht vergleichbar</source>
-        <translation>cannot be compared</translation>
     </message>
     <message>
         <source>Zustand</source>
@@ -1433,7 +1405,7 @@ Open “%1” and choose “%2” to see all projects again.</translation>
     </message>
     <message>
         <source>Der Schritt kann zurückgenommen werden.</source>
-        <translation>The step can be undone.</translation>
+        <translation>The step can be taken back.</translation>
     </message>
     <message>
         <source>Gemeint sind die markierten Zeilen.</source>
@@ -1772,26 +1744,6 @@ Open “%1” and choose “%2” to see all projects again.</translation>
         <translation>Claimed by several lines</translation>
     </message>
     <message>
-        <source>nahe Zahl</source>
-        <translation>close number</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>other number</translation>
-    </message>
-    <message>
-        <source>anderer Text</source>
-        <translation>other text</translation>
-    </message>
-    <message>
-        <source>neu</source>
-        <translation>new</translation>
-    </message>
-    <message>
-        <source>fehlt</source>
-        <translation>missing</translation>
-    </message>
-    <message>
         <source>Teil weicht ab</source>
         <translation>Part differs</translation>
     </message>
@@ -1806,10 +1758,6 @@ Open “%1” and choose “%2” to see all projects again.</translation>
     <message>
         <source>Nummern: %1</source>
         <translation>Numbers: %1</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>other spelling</translation>
     </message>
 </context>
 <context>
@@ -2617,7 +2565,7 @@ Open “%1” and choose “%2” to see all projects again.</translation>
     </message>
     <message>
         <source>nicht zu vergleichen</source>
-        <translation>not to be compared</translation>
+        <translation>cannot be compared</translation>
     </message>
     <message>
         <source>kein Unterschied</source>

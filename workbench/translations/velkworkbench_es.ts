@@ -815,34 +815,6 @@ Abra «%1» y elija «%2» para volver a ver todos los proyectos.</translation>
         <translation>número convertido</translation>
     </message>
     <message>
-        <source>Zahl nahebei</source>
-        <translation>número cercano</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>otro número</translation>
-    </message>
-    <message>
-        <source>anderer Wortlaut</source>
-        <translation>otra redacción</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>otra grafía</translation>
-    </message>
-    <message>
-        <source>Wert nur neu</source>
-        <translation>Valor solo en la nueva</translation>
-    </message>
-    <message>
-        <source>Wert nur alt</source>
-        <translation>Valor solo en la antigua</translation>
-    </message>
-    <message>
-        <source>nicht vergleichbar</source>
-        <translation>no comparable</translation>
-    </message>
-    <message>
         <source>Zustand</source>
         <translation>Estado</translation>
     </message>
@@ -1772,26 +1744,6 @@ Abra «%1» y elija «%2» para volver a ver todos los proyectos.</translation>
         <translation>Reclamado por varias filas</translation>
     </message>
     <message>
-        <source>nahe Zahl</source>
-        <translation>número cercano</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>otro número</translation>
-    </message>
-    <message>
-        <source>anderer Text</source>
-        <translation>otro texto</translation>
-    </message>
-    <message>
-        <source>neu</source>
-        <translation>nueva</translation>
-    </message>
-    <message>
-        <source>fehlt</source>
-        <translation>falta</translation>
-    </message>
-    <message>
         <source>Teil weicht ab</source>
         <translation>La pieza difiere</translation>
     </message>
@@ -1806,10 +1758,6 @@ Abra «%1» y elija «%2» para volver a ver todos los proyectos.</translation>
     <message>
         <source>Nummern: %1</source>
         <translation>Números: %1</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>otra grafía</translation>
     </message>
 </context>
 <context>

@@ -815,34 +815,6 @@ Avaa ”%1” ja valitse ”%2”, niin kaikki projektit näkyvät taas.</transl
         <translation>muunnettu luku</translation>
     </message>
     <message>
-        <source>Zahl nahebei</source>
-        <translation>lähellä oleva luku</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>toinen luku</translation>
-    </message>
-    <message>
-        <source>anderer Wortlaut</source>
-        <translation>toinen sanamuoto</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>toinen kirjoitusasu</translation>
-    </message>
-    <message>
-        <source>Wert nur neu</source>
-        <translation>Arvo vain uudessa</translation>
-    </message>
-    <message>
-        <source>Wert nur alt</source>
-        <translation>Arvo vain vanhassa</translation>
-    </message>
-    <message>
-        <source>nicht vergleichbar</source>
-        <translation>ei vertailtavissa</translation>
-    </message>
-    <message>
         <source>Zustand</source>
         <translation>Tila</translation>
     </message>
@@ -1772,26 +1744,6 @@ Avaa ”%1” ja valitse ”%2”, niin kaikki projektit näkyvät taas.</transl
         <translation>Useat rivit vaativat sitä</translation>
     </message>
     <message>
-        <source>nahe Zahl</source>
-        <translation>lähellä oleva luku</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>toinen luku</translation>
-    </message>
-    <message>
-        <source>anderer Text</source>
-        <translation>toinen teksti</translation>
-    </message>
-    <message>
-        <source>neu</source>
-        <translation>uusi</translation>
-    </message>
-    <message>
-        <source>fehlt</source>
-        <translation>puuttuu</translation>
-    </message>
-    <message>
         <source>Teil weicht ab</source>
         <translation>Osa poikkeaa</translation>
     </message>
@@ -1806,10 +1758,6 @@ Avaa ”%1” ja valitse ”%2”, niin kaikki projektit näkyvät taas.</transl
     <message>
         <source>Nummern: %1</source>
         <translation>Numeroita: %1</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>toinen kirjoitusasu</translation>
     </message>
 </context>
 <context>

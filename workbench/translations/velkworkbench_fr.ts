@@ -815,34 +815,6 @@ Ouvrez « %1 » et choisissez « %2 » pour revoir tous les projets.</translatio
         <translation>nombre converti</translation>
     </message>
     <message>
-        <source>Zahl nahebei</source>
-        <translation>nombre proche</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>autre nombre</translation>
-    </message>
-    <message>
-        <source>anderer Wortlaut</source>
-        <translation>autre formulation</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>autre graphie</translation>
-    </message>
-    <message>
-        <source>Wert nur neu</source>
-        <translation>Valeur seulement nouvelle</translation>
-    </message>
-    <message>
-        <source>Wert nur alt</source>
-        <translation>Valeur seulement ancienne</translation>
-    </message>
-    <message>
-        <source>nicht vergleichbar</source>
-        <translation>non comparable</translation>
-    </message>
-    <message>
         <source>Zustand</source>
         <translation>État</translation>
     </message>
@@ -1772,26 +1744,6 @@ Ouvrez « %1 » et choisissez « %2 » pour revoir tous les projets.</translatio
         <translation>Revendiqué par plusieurs lignes</translation>
     </message>
     <message>
-        <source>nahe Zahl</source>
-        <translation>nombre proche</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>autre nombre</translation>
-    </message>
-    <message>
-        <source>anderer Text</source>
-        <translation>autre texte</translation>
-    </message>
-    <message>
-        <source>neu</source>
-        <translation>nouvelle</translation>
-    </message>
-    <message>
-        <source>fehlt</source>
-        <translation>manque</translation>
-    </message>
-    <message>
         <source>Teil weicht ab</source>
         <translation>La pièce diffère</translation>
     </message>
@@ -1806,10 +1758,6 @@ Ouvrez « %1 » et choisissez « %2 » pour revoir tous les projets.</translatio
     <message>
         <source>Nummern: %1</source>
         <translation>Numéros : %1</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>autre graphie</translation>
     </message>
 </context>
 <context>

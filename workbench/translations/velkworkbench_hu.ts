@@ -792,34 +792,6 @@ Nyissa meg ezt: „%1”, és válassza ezt: „%2”, hogy újra minden projekt
         <translation>átszámított szám</translation>
     </message>
     <message>
-        <source>Zahl nahebei</source>
-        <translation>közeli szám</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>másik szám</translation>
-    </message>
-    <message>
-        <source>anderer Wortlaut</source>
-        <translation>más szöveg</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>más írásmód</translation>
-    </message>
-    <message>
-        <source>Wert nur neu</source>
-        <translation>Érték csak az újban</translation>
-    </message>
-    <message>
-        <source>Wert nur alt</source>
-        <translation>Érték csak a régiben</translation>
-    </message>
-    <message>
-        <source>nicht vergleichbar</source>
-        <translation>nem hasonlítható össze</translation>
-    </message>
-    <message>
         <source>Zustand</source>
         <translation>Állapot</translation>
     </message>
@@ -1743,26 +1715,6 @@ Nyissa meg ezt: „%1”, és válassza ezt: „%2”, hogy újra minden projekt
         <translation>Több sor is igényli</translation>
     </message>
     <message>
-        <source>nahe Zahl</source>
-        <translation>közeli szám</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>másik szám</translation>
-    </message>
-    <message>
-        <source>anderer Text</source>
-        <translation>másik szöveg</translation>
-    </message>
-    <message>
-        <source>neu</source>
-        <translation>új</translation>
-    </message>
-    <message>
-        <source>fehlt</source>
-        <translation>hiányzik</translation>
-    </message>
-    <message>
         <source>Teil weicht ab</source>
         <translation>Az alkatrész eltér</translation>
     </message>
@@ -1777,10 +1729,6 @@ Nyissa meg ezt: „%1”, és válassza ezt: „%2”, hogy újra minden projekt
     <message>
         <source>Nummern: %1</source>
         <translation>Számok: %1</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>más írásmód</translation>
     </message>
 </context>
 <context>

@@ -792,34 +792,6 @@ Buka “%1” dan pilih “%2” untuk melihat semua proyek lagi.</translation>
         <translation>angka dikonversi</translation>
     </message>
     <message>
-        <source>Zahl nahebei</source>
-        <translation>angka berdekatan</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>angka lain</translation>
-    </message>
-    <message>
-        <source>anderer Wortlaut</source>
-        <translation>susunan kata lain</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>ejaan lain</translation>
-    </message>
-    <message>
-        <source>Wert nur neu</source>
-        <translation>Nilai hanya di baru</translation>
-    </message>
-    <message>
-        <source>Wert nur alt</source>
-        <translation>Nilai hanya di lama</translation>
-    </message>
-    <message>
-        <source>nicht vergleichbar</source>
-        <translation>tidak dapat dibandingkan</translation>
-    </message>
-    <message>
         <source>Zustand</source>
         <translation>Keadaan</translation>
     </message>
@@ -1743,26 +1715,6 @@ Buka “%1” dan pilih “%2” untuk melihat semua proyek lagi.</translation>
         <translation>Diklaim beberapa baris</translation>
     </message>
     <message>
-        <source>nahe Zahl</source>
-        <translation>angka dekat</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>angka lain</translation>
-    </message>
-    <message>
-        <source>anderer Text</source>
-        <translation>teks lain</translation>
-    </message>
-    <message>
-        <source>neu</source>
-        <translation>baru</translation>
-    </message>
-    <message>
-        <source>fehlt</source>
-        <translation>tidak ada</translation>
-    </message>
-    <message>
         <source>Teil weicht ab</source>
         <translation>Komponen berbeda</translation>
     </message>
@@ -1777,10 +1729,6 @@ Buka “%1” dan pilih “%2” untuk melihat semua proyek lagi.</translation>
     <message>
         <source>Nummern: %1</source>
         <translation>Nomor: %1</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>ejaan lain</translation>
     </message>
 </context>
 <context>

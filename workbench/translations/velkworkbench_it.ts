@@ -815,34 +815,6 @@ Aprire «%1» e scegliere «%2» per rivedere tutti i progetti.</translation>
         <translation>numero convertito</translation>
     </message>
     <message>
-        <source>Zahl nahebei</source>
-        <translation>numero vicino</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>altro numero</translation>
-    </message>
-    <message>
-        <source>anderer Wortlaut</source>
-        <translation>altra formulazione</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>altra grafia</translation>
-    </message>
-    <message>
-        <source>Wert nur neu</source>
-        <translation>Valore solo nella nuova</translation>
-    </message>
-    <message>
-        <source>Wert nur alt</source>
-        <translation>Valore solo nella vecchia</translation>
-    </message>
-    <message>
-        <source>nicht vergleichbar</source>
-        <translation>non confrontabile</translation>
-    </message>
-    <message>
         <source>Zustand</source>
         <translation>Stato</translation>
     </message>
@@ -1772,26 +1744,6 @@ Aprire «%1» e scegliere «%2» per rivedere tutti i progetti.</translation>
         <translation>Rivendicato da più righe</translation>
     </message>
     <message>
-        <source>nahe Zahl</source>
-        <translation>numero vicino</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>altro numero</translation>
-    </message>
-    <message>
-        <source>anderer Text</source>
-        <translation>altro testo</translation>
-    </message>
-    <message>
-        <source>neu</source>
-        <translation>nuova</translation>
-    </message>
-    <message>
-        <source>fehlt</source>
-        <translation>manca</translation>
-    </message>
-    <message>
         <source>Teil weicht ab</source>
         <translation>Il pezzo differisce</translation>
     </message>
@@ -1806,10 +1758,6 @@ Aprire «%1» e scegliere «%2» per rivedere tutti i progetti.</translation>
     <message>
         <source>Nummern: %1</source>
         <translation>Numeri: %1</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>altra grafia</translation>
     </message>
 </context>
 <context>

@@ -792,34 +792,6 @@ Bitte eine andere Datei wählen.</source>
         <translation>換算された数値</translation>
     </message>
     <message>
-        <source>Zahl nahebei</source>
-        <translation>近い数値</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>別の数値</translation>
-    </message>
-    <message>
-        <source>anderer Wortlaut</source>
-        <translation>別の表現</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>別の表記</translation>
-    </message>
-    <message>
-        <source>Wert nur neu</source>
-        <translation>新のみの値</translation>
-    </message>
-    <message>
-        <source>Wert nur alt</source>
-        <translation>旧のみの値</translation>
-    </message>
-    <message>
-        <source>nicht vergleichbar</source>
-        <translation>比較不可</translation>
-    </message>
-    <message>
         <source>Zustand</source>
         <translation>状態</translation>
     </message>
@@ -1743,26 +1715,6 @@ Bitte eine andere Datei wählen.</source>
         <translation>複数の行が使用</translation>
     </message>
     <message>
-        <source>nahe Zahl</source>
-        <translation>近い数値</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>別の数値</translation>
-    </message>
-    <message>
-        <source>anderer Text</source>
-        <translation>別のテキスト</translation>
-    </message>
-    <message>
-        <source>neu</source>
-        <translation>新規</translation>
-    </message>
-    <message>
-        <source>fehlt</source>
-        <translation>なし</translation>
-    </message>
-    <message>
         <source>Teil weicht ab</source>
         <translation>部品が異なる</translation>
     </message>
@@ -1777,10 +1729,6 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Nummern: %1</source>
         <translation>番号: %1</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>別の表記</translation>
     </message>
 </context>
 <context>

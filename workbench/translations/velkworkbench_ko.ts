@@ -792,34 +792,6 @@ Bitte eine andere Datei wählen.</source>
         <translation>환산된 숫자</translation>
     </message>
     <message>
-        <source>Zahl nahebei</source>
-        <translation>가까운 숫자</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>다른 숫자</translation>
-    </message>
-    <message>
-        <source>anderer Wortlaut</source>
-        <translation>다른 문구</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>다른 표기</translation>
-    </message>
-    <message>
-        <source>Wert nur neu</source>
-        <translation>새것에만 있는 값</translation>
-    </message>
-    <message>
-        <source>Wert nur alt</source>
-        <translation>이전에만 있는 값</translation>
-    </message>
-    <message>
-        <source>nicht vergleichbar</source>
-        <translation>비교 불가</translation>
-    </message>
-    <message>
         <source>Zustand</source>
         <translation>상태</translation>
     </message>
@@ -1743,26 +1715,6 @@ Bitte eine andere Datei wählen.</source>
         <translation>여러 행이 요구함</translation>
     </message>
     <message>
-        <source>nahe Zahl</source>
-        <translation>가까운 숫자</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>다른 숫자</translation>
-    </message>
-    <message>
-        <source>anderer Text</source>
-        <translation>다른 텍스트</translation>
-    </message>
-    <message>
-        <source>neu</source>
-        <translation>새로</translation>
-    </message>
-    <message>
-        <source>fehlt</source>
-        <translation>없음</translation>
-    </message>
-    <message>
         <source>Teil weicht ab</source>
         <translation>부품이 다름</translation>
     </message>
@@ -1777,10 +1729,6 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Nummern: %1</source>
         <translation>번호: %1</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>다른 표기</translation>
     </message>
 </context>
 <context>

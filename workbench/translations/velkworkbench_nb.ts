@@ -815,34 +815,6 @@ Velg en annen fil.</translation>
         <translation>omregnet tall</translation>
     </message>
     <message>
-        <source>Zahl nahebei</source>
-        <translation>tall i nærheten</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>annet tall</translation>
-    </message>
-    <message>
-        <source>anderer Wortlaut</source>
-        <translation>annen ordlyd</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>annen skrivemåte</translation>
-    </message>
-    <message>
-        <source>Wert nur neu</source>
-        <translation>Verdi bare i ny</translation>
-    </message>
-    <message>
-        <source>Wert nur alt</source>
-        <translation>Verdi bare i gammel</translation>
-    </message>
-    <message>
-        <source>nicht vergleichbar</source>
-        <translation>kan ikke sammenlignes</translation>
-    </message>
-    <message>
         <source>Zustand</source>
         <translation>Tilstand</translation>
     </message>
@@ -1772,26 +1744,6 @@ Velg en annen fil.</translation>
         <translation>Flere linjer gjør krav på det</translation>
     </message>
     <message>
-        <source>nahe Zahl</source>
-        <translation>nært tall</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>annet tall</translation>
-    </message>
-    <message>
-        <source>anderer Text</source>
-        <translation>annen tekst</translation>
-    </message>
-    <message>
-        <source>neu</source>
-        <translation>ny</translation>
-    </message>
-    <message>
-        <source>fehlt</source>
-        <translation>mangler</translation>
-    </message>
-    <message>
         <source>Teil weicht ab</source>
         <translation>Delen avviker</translation>
     </message>
@@ -1806,10 +1758,6 @@ Velg en annen fil.</translation>
     <message>
         <source>Nummern: %1</source>
         <translation>Numre: %1</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>annen skrivemåte</translation>
     </message>
 </context>
 <context>

@@ -838,34 +838,6 @@ Aby znów zobaczyć wszystkie projekty, otwórz „%1” i wybierz „%2”.</tr
         <translation>przeliczona liczba</translation>
     </message>
     <message>
-        <source>Zahl nahebei</source>
-        <translation>bliska liczba</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>inna liczba</translation>
-    </message>
-    <message>
-        <source>anderer Wortlaut</source>
-        <translation>inne brzmienie</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>inna pisownia</translation>
-    </message>
-    <message>
-        <source>Wert nur neu</source>
-        <translation>Wartość tylko w nowym</translation>
-    </message>
-    <message>
-        <source>Wert nur alt</source>
-        <translation>Wartość tylko w starym</translation>
-    </message>
-    <message>
-        <source>nicht vergleichbar</source>
-        <translation>nieporównywalne</translation>
-    </message>
-    <message>
         <source>Zustand</source>
         <translation>Stan</translation>
     </message>
@@ -1801,26 +1773,6 @@ Aby znów zobaczyć wszystkie projekty, otwórz „%1” i wybierz „%2”.</tr
         <translation>Zajęty przez kilka wierszy</translation>
     </message>
     <message>
-        <source>nahe Zahl</source>
-        <translation>bliska liczba</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>inna liczba</translation>
-    </message>
-    <message>
-        <source>anderer Text</source>
-        <translation>inny tekst</translation>
-    </message>
-    <message>
-        <source>neu</source>
-        <translation>nowa</translation>
-    </message>
-    <message>
-        <source>fehlt</source>
-        <translation>brak</translation>
-    </message>
-    <message>
         <source>Teil weicht ab</source>
         <translation>Część się różni</translation>
     </message>
@@ -1835,10 +1787,6 @@ Aby znów zobaczyć wszystkie projekty, otwórz „%1” i wybierz „%2”.</tr
     <message>
         <source>Nummern: %1</source>
         <translation>Numery: %1</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>inna pisownia</translation>
     </message>
 </context>
 <context>

@@ -815,34 +815,6 @@ Abra «%1» e escolha «%2» para voltar a ver todos os projetos.</translation>
         <translation>número convertido</translation>
     </message>
     <message>
-        <source>Zahl nahebei</source>
-        <translation>número próximo</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>outro número</translation>
-    </message>
-    <message>
-        <source>anderer Wortlaut</source>
-        <translation>outra redação</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>outra grafia</translation>
-    </message>
-    <message>
-        <source>Wert nur neu</source>
-        <translation>Valor só na nova</translation>
-    </message>
-    <message>
-        <source>Wert nur alt</source>
-        <translation>Valor só na antiga</translation>
-    </message>
-    <message>
-        <source>nicht vergleichbar</source>
-        <translation>não comparável</translation>
-    </message>
-    <message>
         <source>Zustand</source>
         <translation>Estado</translation>
     </message>
@@ -1772,26 +1744,6 @@ Abra «%1» e escolha «%2» para voltar a ver todos os projetos.</translation>
         <translation>Reivindicado por várias linhas</translation>
     </message>
     <message>
-        <source>nahe Zahl</source>
-        <translation>número próximo</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>outro número</translation>
-    </message>
-    <message>
-        <source>anderer Text</source>
-        <translation>outro texto</translation>
-    </message>
-    <message>
-        <source>neu</source>
-        <translation>nova</translation>
-    </message>
-    <message>
-        <source>fehlt</source>
-        <translation>falta</translation>
-    </message>
-    <message>
         <source>Teil weicht ab</source>
         <translation>A peça difere</translation>
     </message>
@@ -1806,10 +1758,6 @@ Abra «%1» e escolha «%2» para voltar a ver todos os projetos.</translation>
     <message>
         <source>Nummern: %1</source>
         <translation>Números: %1</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>outra grafia</translation>
     </message>
 </context>
 <context>

@@ -838,34 +838,6 @@ Bitte eine andere Datei wählen.</source>
         <translation>пересчитанное число</translation>
     </message>
     <message>
-        <source>Zahl nahebei</source>
-        <translation>близкое число</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>другое число</translation>
-    </message>
-    <message>
-        <source>anderer Wortlaut</source>
-        <translation>другая формулировка</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>другое написание</translation>
-    </message>
-    <message>
-        <source>Wert nur neu</source>
-        <translation>Значение только в новой</translation>
-    </message>
-    <message>
-        <source>Wert nur alt</source>
-        <translation>Значение только в старой</translation>
-    </message>
-    <message>
-        <source>nicht vergleichbar</source>
-        <translation>несравнимо</translation>
-    </message>
-    <message>
         <source>Zustand</source>
         <translation>Состояние</translation>
     </message>
@@ -1801,26 +1773,6 @@ Bitte eine andere Datei wählen.</source>
         <translation>На него претендуют несколько строк</translation>
     </message>
     <message>
-        <source>nahe Zahl</source>
-        <translation>близкое число</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>другое число</translation>
-    </message>
-    <message>
-        <source>anderer Text</source>
-        <translation>другой текст</translation>
-    </message>
-    <message>
-        <source>neu</source>
-        <translation>новое</translation>
-    </message>
-    <message>
-        <source>fehlt</source>
-        <translation>отсутствует</translation>
-    </message>
-    <message>
         <source>Teil weicht ab</source>
         <translation>Деталь отличается</translation>
     </message>
@@ -1835,10 +1787,6 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Nummern: %1</source>
         <translation>Номеров: %1</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>другое написание</translation>
     </message>
 </context>
 <context>

@@ -861,34 +861,6 @@ Odprite »%1« in izberite »%2«, da bodo spet vidni vsi projekti.</translation
         <translation>preračunano število</translation>
     </message>
     <message>
-        <source>Zahl nahebei</source>
-        <translation>bližnje število</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>drugo število</translation>
-    </message>
-    <message>
-        <source>anderer Wortlaut</source>
-        <translation>drugo besedilo</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>drug zapis</translation>
-    </message>
-    <message>
-        <source>Wert nur neu</source>
-        <translation>Vrednost samo v novi</translation>
-    </message>
-    <message>
-        <source>Wert nur alt</source>
-        <translation>Vrednost samo v stari</translation>
-    </message>
-    <message>
-        <source>nicht vergleichbar</source>
-        <translation>ni primerljivo</translation>
-    </message>
-    <message>
         <source>Zustand</source>
         <translation>Stanje</translation>
     </message>
@@ -1830,26 +1802,6 @@ Odprite »%1« in izberite »%2«, da bodo spet vidni vsi projekti.</translation
         <translation>Zahteva jo več vrstic</translation>
     </message>
     <message>
-        <source>nahe Zahl</source>
-        <translation>bližnje število</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>drugo število</translation>
-    </message>
-    <message>
-        <source>anderer Text</source>
-        <translation>drugo besedilo</translation>
-    </message>
-    <message>
-        <source>neu</source>
-        <translation>nova</translation>
-    </message>
-    <message>
-        <source>fehlt</source>
-        <translation>manjka</translation>
-    </message>
-    <message>
         <source>Teil weicht ab</source>
         <translation>Del se razlikuje</translation>
     </message>
@@ -1864,10 +1816,6 @@ Odprite »%1« in izberite »%2«, da bodo spet vidni vsi projekti.</translation
     <message>
         <source>Nummern: %1</source>
         <translation>Številke: %1</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>drug zapis</translation>
     </message>
 </context>
 <context>

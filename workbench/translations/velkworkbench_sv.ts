@@ -815,34 +815,6 @@ Välj en annan fil.</translation>
         <translation>omräknat tal</translation>
     </message>
     <message>
-        <source>Zahl nahebei</source>
-        <translation>tal nära</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>annat tal</translation>
-    </message>
-    <message>
-        <source>anderer Wortlaut</source>
-        <translation>annan ordalydelse</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>annat skrivsätt</translation>
-    </message>
-    <message>
-        <source>Wert nur neu</source>
-        <translation>Värde bara i ny</translation>
-    </message>
-    <message>
-        <source>Wert nur alt</source>
-        <translation>Värde bara i gammal</translation>
-    </message>
-    <message>
-        <source>nicht vergleichbar</source>
-        <translation>kan inte jämföras</translation>
-    </message>
-    <message>
         <source>Zustand</source>
         <translation>Tillstånd</translation>
     </message>
@@ -1772,26 +1744,6 @@ Välj en annan fil.</translation>
         <translation>Flera rader gör anspråk på det</translation>
     </message>
     <message>
-        <source>nahe Zahl</source>
-        <translation>nära tal</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>annat tal</translation>
-    </message>
-    <message>
-        <source>anderer Text</source>
-        <translation>annan text</translation>
-    </message>
-    <message>
-        <source>neu</source>
-        <translation>nytt</translation>
-    </message>
-    <message>
-        <source>fehlt</source>
-        <translation>saknas</translation>
-    </message>
-    <message>
         <source>Teil weicht ab</source>
         <translation>Artikeln avviker</translation>
     </message>
@@ -1806,10 +1758,6 @@ Välj en annan fil.</translation>
     <message>
         <source>Nummern: %1</source>
         <translation>Nummer: %1</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>annat skrivsätt</translation>
     </message>
 </context>
 <context>

@@ -792,34 +792,6 @@ Tüm projeleri yeniden görmek için “%1” komutunu açın ve “%2” seçen
         <translation>dönüştürülmüş sayı</translation>
     </message>
     <message>
-        <source>Zahl nahebei</source>
-        <translation>yakın sayı</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>başka sayı</translation>
-    </message>
-    <message>
-        <source>anderer Wortlaut</source>
-        <translation>başka ifade</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>başka yazım</translation>
-    </message>
-    <message>
-        <source>Wert nur neu</source>
-        <translation>Yalnız yenide değer</translation>
-    </message>
-    <message>
-        <source>Wert nur alt</source>
-        <translation>Yalnız eskide değer</translation>
-    </message>
-    <message>
-        <source>nicht vergleichbar</source>
-        <translation>karşılaştırılamaz</translation>
-    </message>
-    <message>
         <source>Zustand</source>
         <translation>Durum</translation>
     </message>
@@ -1743,26 +1715,6 @@ Tüm projeleri yeniden görmek için “%1” komutunu açın ve “%2” seçen
         <translation>Birden çok satır sahipleniyor</translation>
     </message>
     <message>
-        <source>nahe Zahl</source>
-        <translation>yakın sayı</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>başka sayı</translation>
-    </message>
-    <message>
-        <source>anderer Text</source>
-        <translation>başka metin</translation>
-    </message>
-    <message>
-        <source>neu</source>
-        <translation>yeni</translation>
-    </message>
-    <message>
-        <source>fehlt</source>
-        <translation>eksik</translation>
-    </message>
-    <message>
         <source>Teil weicht ab</source>
         <translation>Parça farklı</translation>
     </message>
@@ -1777,10 +1729,6 @@ Tüm projeleri yeniden görmek için “%1” komutunu açın ve “%2” seçen
     <message>
         <source>Nummern: %1</source>
         <translation>Numaralar: %1</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>başka yazım</translation>
     </message>
 </context>
 <context>

@@ -792,34 +792,6 @@ Bitte eine andere Datei wählen.</source>
         <translation>换算的数</translation>
     </message>
     <message>
-        <source>Zahl nahebei</source>
-        <translation>相近的数</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>不同的数字</translation>
-    </message>
-    <message>
-        <source>anderer Wortlaut</source>
-        <translation>措辞不同</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>写法不同</translation>
-    </message>
-    <message>
-        <source>Wert nur neu</source>
-        <translation>仅新表有值</translation>
-    </message>
-    <message>
-        <source>Wert nur alt</source>
-        <translation>仅旧表有值</translation>
-    </message>
-    <message>
-        <source>nicht vergleichbar</source>
-        <translation>无法比较</translation>
-    </message>
-    <message>
         <source>Zustand</source>
         <translation>状态</translation>
     </message>
@@ -1743,26 +1715,6 @@ Bitte eine andere Datei wählen.</source>
         <translation>被多行占用</translation>
     </message>
     <message>
-        <source>nahe Zahl</source>
-        <translation>相近的数字</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>不同的数字</translation>
-    </message>
-    <message>
-        <source>anderer Text</source>
-        <translation>不同的文本</translation>
-    </message>
-    <message>
-        <source>neu</source>
-        <translation>新</translation>
-    </message>
-    <message>
-        <source>fehlt</source>
-        <translation>缺失</translation>
-    </message>
-    <message>
         <source>Teil weicht ab</source>
         <translation>部件有差异</translation>
     </message>
@@ -1777,10 +1729,6 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Nummern: %1</source>
         <translation>编号：%1</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>写法不同</translation>
     </message>
 </context>
 <context>

@@ -792,34 +792,6 @@ Bitte eine andere Datei wählen.</source>
         <translation>換算的數</translation>
     </message>
     <message>
-        <source>Zahl nahebei</source>
-        <translation>相近的數</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>不同的數字</translation>
-    </message>
-    <message>
-        <source>anderer Wortlaut</source>
-        <translation>措辭不同</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>寫法不同</translation>
-    </message>
-    <message>
-        <source>Wert nur neu</source>
-        <translation>僅新表有值</translation>
-    </message>
-    <message>
-        <source>Wert nur alt</source>
-        <translation>僅舊表有值</translation>
-    </message>
-    <message>
-        <source>nicht vergleichbar</source>
-        <translation>無法比較</translation>
-    </message>
-    <message>
         <source>Zustand</source>
         <translation>狀態</translation>
     </message>
@@ -1743,26 +1715,6 @@ Bitte eine andere Datei wählen.</source>
         <translation>被多列佔用</translation>
     </message>
     <message>
-        <source>nahe Zahl</source>
-        <translation>相近的數字</translation>
-    </message>
-    <message>
-        <source>andere Zahl</source>
-        <translation>不同的數字</translation>
-    </message>
-    <message>
-        <source>anderer Text</source>
-        <translation>不同的文字</translation>
-    </message>
-    <message>
-        <source>neu</source>
-        <translation>新</translation>
-    </message>
-    <message>
-        <source>fehlt</source>
-        <translation>缺少</translation>
-    </message>
-    <message>
         <source>Teil weicht ab</source>
         <translation>零件有差異</translation>
     </message>
@@ -1777,10 +1729,6 @@ Bitte eine andere Datei wählen.</source>
     <message>
         <source>Nummern: %1</source>
         <translation>編號：%1</translation>
-    </message>
-    <message>
-        <source>andere Schreibweise</source>
-        <translation>寫法不同</translation>
     </message>
 </context>
 <context>

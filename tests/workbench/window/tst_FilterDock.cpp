@@ -1,6 +1,7 @@
 #include "WindowFixture.h"
 
 #include <workbench/review/FilterDock.h>
+#include <workbench/review/PatternText.h>
 #include <workbench/session/document/MappingDocument.h>
 #include <workbench/session/tasks/FilterWork.h>
 #include <workbench/session/tasks/OpenLines.h>
@@ -43,6 +44,8 @@ class tst_FilterDock : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void kindsBearTheWordsOfThePatternList_data();
+    void kindsBearTheWordsOfThePatternList();
     void cleanup();
 
     void reasonsWithNumbers();
@@ -354,6 +357,36 @@ void tst_FilterDock::givesWay()
     QVERIFY(!fixture.window->editor()->shownLines().isEmpty());
     QCOMPARE(fixture.window->status()->note(),
              "Der Filter ist aufgehoben: das Projekt hat keine Zeile darin");
+}
+
+void tst_FilterDock::kindsBearTheWordsOfThePatternList_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::newRow("German") << "de";
+    QTest::newRow("English") << "en";
+    QTest::newRow("Finnish") << "fi";
+}
+
+/// One thing has one word.
+void tst_FilterDock::kindsBearTheWordsOfThePatternList()
+{
+    QFETCH(QString, language);
+    const WindowFixture fixture;
+    WorkbenchSettings::Values values = fixture.settings->values();
+    values.language = language;
+    fixture.settings->setValues(values);
+    const auto text = [](const char *value) {
+        return FilterDock::valueText(VelkRelease::LineTrait::Difference, value);
+    };
+    const VelkRelease::ValueChange::Words words = PatternText::words();
+    QCOMPARE(text("nearNumber"), words.nearNumber);
+    QCOMPARE(text("otherNumber"), words.otherNumber);
+    QCOMPARE(text("wording"), words.wording);
+    QCOMPARE(text("notation"), words.notation);
+    QCOMPARE(text("added"), words.added);
+    QCOMPARE(text("missing"), words.missing);
+    QCOMPARE(text("incomparable"), PatternText::incomparable());
+    QVERIFY(!text("replacement").isEmpty() && text("numberMap") != text("replacement"));
 }
 
 QTEST_MAIN(tst_FilterDock)

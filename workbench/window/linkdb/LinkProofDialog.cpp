@@ -2,6 +2,7 @@
 
 #include <core/text/countText.h>
 #include <gui/application/PApplication.h>
+#include <workbench/review/PatternText.h>
 
 #include <QDialogButtonBox>
 #include <QHeaderView>
@@ -96,8 +97,7 @@ void LinkProofDialog::fill(const LinkProof &proof)
             places.append(placeName(place));
         add(kind, each.number, each.origins.first(), places.join(QStringLiteral(", ")));
     }
-    const ValueChange::Words words{tr("nahe Zahl"), tr("andere Zahl"), tr("anderer Text"),
-                                   tr("neu"),       tr("fehlt"),       tr("andere Schreibweise")};
+    const ValueChange::Words words = PatternText::words();
     kind = addKind(proof.hasCompared() ? tr("Teil weicht ab")
                                        : tr("Teil weicht ab (nicht verglichen)"),
                    proof.differing().size());
