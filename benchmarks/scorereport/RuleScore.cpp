@@ -243,7 +243,7 @@ private:
         m_score.referenceBest += referenceRight ? 1 : 0;
         m_score.referenceGone += gone && reference.second > 0 ? 1 : 0;
         const LineCandidatesC all = mapper.candidates(line.second, view);
-        addCandidates(all, *entry);
+        const bool isBest = addCandidates(all, *entry);
         if (!mapped) {
             ++m_score.open;
             const Open proposed = right ? Open::Right : Open::Wrong;
@@ -252,10 +252,12 @@ private:
         }
         if (right == gone || (gone && found))
             m_score.misses << QStringLiteral("%1:%2 -> %3:%4, %5 (%6), %7")
-                                  .arg(line.first, QString::number(line.second), assigned.first,
-                                       QString::number(assigned.second), all.explanation,
-                                       QString::number(all.noSuccessor, 'f', 2),
-                                       expected(*entry, mapping));
+                                      .arg(line.first, QString::number(line.second), assigned.first,
+                                           QString::number(assigned.second), all.explanation,
+                                           QString::number(all.noSuccessor, 'f', 2),
+                                           expected(*entry, mapping)) +
+                                  (isBest ? ", best" : "") + (referenceRight ? ", reference" : "") +
+                                  (isAlike(line, all, *entry) ? ", alike" : "");
     }
 
     /// Where the line went, and whether that is among the targets at all.
@@ -266,12 +268,29 @@ private:
             targets << tableName(target.getTargetPath());
         QStringList texts;
         for (const auto &[table, line] : entry.places)
-            texts << QStringLiteral("%1:%2%3").arg(table, QString::number(line),
-                                                   targets.contains(table) ? "" : ", no target");
+            texts << QStringLiteral("%1:%2%3").arg(
+                table, QString::number(line),
+                targets.contains(table) ? QString() : ", no target but " + targets.join(' '));
         return texts.isEmpty() ? QStringLiteral("gone") : texts.join("; ");
     }
 
-    void addCandidates(const LineCandidatesC &all, const TruthFile::Entry &entry)
+    /// Whether the best candidate is another row that has what the right one has in all variables
+    /// that the old table has as well: only the order of lines can tell.
+    [[nodiscard]] bool isAlike(const TruthFile::Place &line, const LineCandidatesC &all,
+                               const TruthFile::Entry &entry) const
+    {
+        if (all.candidates.isEmpty())
+            return false;
+        const LineCandidateC &best = all.candidates.first();
+        const TruthFile::Place place(tableName(best.targetPath), best.lineId.value(0));
+        const std::vector<std::string> &names = m_set.olds.find(line.first)->names;
+        return std::ranges::any_of(entry.places, [&](const TruthFile::Place &right) {
+            return right != place && m_set.valuesAt(right, names) == m_set.valuesAt(place, names);
+        });
+    }
+
+    /// Whether the best one is right.
+    bool addCandidates(const LineCandidatesC &all, const TruthFile::Entry &entry)
     {
         bool best = false;
         bool any = false;
@@ -285,6 +304,7 @@ private:
         }
         m_score.best += best ? 1 : 0;
         m_score.five += any ? 1 : 0;
+        return best;
     }
 
     const SampleSet &m_set;

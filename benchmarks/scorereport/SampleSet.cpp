@@ -4,6 +4,8 @@
 #include <QDirIterator>
 #include <QFile>
 
+#include <algorithm>
+
 namespace {
 
 using Line = std::vector<std::string>;
@@ -120,4 +122,24 @@ void SampleSet::removeFirstColumns()
 bool SampleSet::write(const QString &oldFolder, const QString &newFolder) const
 {
     return writeTables(oldFolder, olds) && writeTables(newFolder, news);
+}
+
+std::map<std::string, std::string> SampleSet::valuesAt(const TruthFile::Place &place,
+                                                       const std::vector<std::string> &names) const
+{
+    std::map<std::string, std::string> values;
+    const auto table = news.find(place.first);
+    if (table == news.end() || place.second < 1 || size_t(place.second) > table->lines.size())
+        return values;
+    for (const std::string &name : names) {
+        const auto column = std::find(table->names.begin(), table->names.end(), name);
+        if (column == table->names.end())
+            continue;
+        const std::string &text =
+            table->lines[size_t(place.second) - 1][size_t(column - table->names.begin())];
+        bool isNumber = false;
+        const double number = QByteArray::fromStdString(text).trimmed().toDouble(&isNumber);
+        values[name] = isNumber ? QByteArray::number(number, 'g', 10).toStdString() : text;
+    }
+    return values;
 }

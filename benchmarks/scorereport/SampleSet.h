@@ -6,6 +6,7 @@
 #include <QMap>
 #include <QString>
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -31,6 +32,9 @@ struct SampleSet
     [[nodiscard]] bool read(const QString &oldFolder, const QString &newFolder,
                             const QString &truthFile);
     void removeFirstColumns();
+    /// Cells of a new line in the columns of these names, by name; none without such a line.
+    [[nodiscard]] std::map<std::string, std::string>
+    valuesAt(const TruthFile::Place &place, const std::vector<std::string> &names) const;
     /// Writes both releases as trees of CSV files.
     [[nodiscard]] bool write(const QString &oldFolder, const QString &newFolder) const;
 };

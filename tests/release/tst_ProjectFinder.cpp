@@ -275,6 +275,15 @@ void tst_ProjectFinder::findsWithRoom_data()
     QTest::newRow("the half of a column")
         << two << Release{{"new/b/x.prj", "size,s;M1,3;M2,5;M3,1;N4,1;N5,1"}} << none
         << QStringList();
+    QTest::newRow("a third of a column gone with the lines")
+        << QByteArray("size,s;M1,3;M2,5;M3,7;M4,9;M5,11;M6,13")
+        << Release{{"new/b/x.prj", "size,s;N1,3;N2,5;N4,9;N5,11"}} << none
+        << QStringList{"new/b/x.prj"};
+    QTest::newRow("one with half of the values, before one with nearly half of them")
+        << QByteArray("size,s;M1,3;M2,5;M3,7;M4,9;M5,11;M6,13;M7,15;M8,17;M9,19;M10,21")
+        << Release{{"new/b/x.prj", "size,s;N1,3;N2,5;N3,7;N4,9;N5,11;N6,13;N7,15;N8,17;N9,19"},
+                   {"new/c/y.prj", "size,s;,3;,5;,7;,9;,11;,13;,15;,17;,19;,21"}}
+        << none << QStringList{"new/c/y.prj"};
     QTest::newRow("the best ones first")
         << two
         << Release{{"new/b/x.prj", "size,s;N1,3;N2,5;N3,7;N4,9;N5,1"},
@@ -293,6 +302,11 @@ void tst_ProjectFinder::findsWithRoom_data()
                    {"new/b/y.prj", "size,s;M1,3;M2,5;M3,7"},
                    {"new/b/z.prj", two}}
         << std::vector<int>{0, 0, 5} << QStringList{"new/b/y.prj"};
+    QTest::newRow("one that has lines, and one as good in the same folder")
+        << two
+        << Release{{"new/b/y.prj", "size,s;M1,3;M2,5;M3,7"},
+                   {"new/a/x.prj", "size,s;N1,3;N2,5;M3,9;N4,7;N5,11"}}
+        << none << QStringList{"new/a/x.prj"};
     QTest::newRow("became another project")
         << two << Release{{"new/b/x.prj", half}} << std::vector<int>{5} << QStringList();
     QTest::newRow("room for half of the lines")
@@ -326,7 +340,8 @@ void tst_ProjectFinder::findsWithRoom()
     const auto hasRoom = [&](int table) {
         return 2 * room[size_t(table)] >= cells.rowCount();
     };
-    for (const int table : ProjectFinder(index).findWithRoom("old/a/bolt.prj", cells, hasRoom))
+    for (const int table :
+         ProjectFinder(index).findWithRoom("old/a/bolt.prj", cells, hasRoom, true))
         found << index.path(table);
     QTEST(found, "found");
 }

@@ -19,18 +19,19 @@ namespace {
 /// A project and its targets by their texts.
 struct Tables
 {
-    Tables(const QByteArray &sourceText, const QByteArrayList &targetTexts)
+    Tables(const QByteArray &sourceText, const QByteArrayList &targetTexts, bool areNear = false)
         : source(cellsOf(sourceText, names))
+        , isNear(areNear)
     {
         for (const QByteArray &text : targetTexts)
             targets.push_back(cellsOf(text, names));
     }
     [[nodiscard]] RuleProposals proposals() const
     {
-        std::vector<const LineCells *> pointers;
+        std::vector<RuleProposals::Target> all;
         for (const LineCells &target : targets)
-            pointers.push_back(&target);
-        return {source, pointers};
+            all.push_back({&target, isNear});
+        return {source, all};
     }
     /// "a>b c>d".
     [[nodiscard]] QString renames(int target = 0) const
@@ -59,6 +60,7 @@ struct Tables
 
     VariableNames names;
     LineCells source;
+    bool isNear;
     std::vector<LineCells> targets;
 };
 
@@ -71,6 +73,8 @@ class tst_RuleProposals : public QObject
 private Q_SLOTS:
     void renames_data();
     void renames();
+    void renamesNearby_data();
+    void renamesNearby();
     void split_data();
     void split();
     void splitOfRenamedVariables();
@@ -114,9 +118,15 @@ void tst_RuleProposals::renames_data()
     QTest::newRow("by the values, another one reworded")
         << QByteArray("d,s;1,11;2,12;3,13;4,14") << QByteArray("d,ss;a,11;b,12;c,13;d,14")
         << "s>ss";
-    QTest::newRow("by the values, one of ten of another kept")
+    QTest::newRow("by the values, some of another kept")
         << QByteArray("d,s;1,11;2,12;3,13;4,14;5,15;6,16")
-        << QByteArray("d,ss;1,16;b,12;c,13;d,14;e,15;f,11") << "";
+        << QByteArray("d,ss;1,16;b,12;c,13;d,14;e,15;f,11") << "s>ss";
+    QTest::newRow("by the values, most of another kept")
+        << QByteArray("d,s;1,11;2,12;3,13;4,14;5,15;6,16")
+        << QByteArray("d,ss;1,16;2,12;3,13;4,14;5,11;f,15") << "";
+    QTest::newRow("some lines equal by chance")
+        << QByteArray("d,s;1,11;2,12;3,13;4,14;5,15;6,16;8,18;12,22")
+        << QByteArray("d,ss;2,11;4,12;6,13;8,14;10,15;12,16;16,18;24,22") << "s>ss";
     QTest::newRow("nothing is gone")
         << QByteArray("a,s;1,5;2,6;3,7") << QByteArray("a,s,t;1,5,5;2,6,6;3,7,7") << "";
     QTest::newRow("no lines") << QByteArray("a,s") << QByteArray("a,w") << "";
@@ -127,6 +137,32 @@ void tst_RuleProposals::renames()
     QFETCH(QByteArray, source);
     QFETCH(QByteArray, target);
     const Tables tables(source, {target});
+    QTEST(tables.renames(), "renames");
+}
+
+void tst_RuleProposals::renamesNearby_data()
+{
+    QTest::addColumn<QByteArray>("source");
+    QTest::addColumn<QByteArray>("target");
+    QTest::addColumn<bool>("isNear");
+    QTest::addColumn<QString>("renames");
+    const QByteArray source = "s;11;12;13;14;15;16";
+    const QByteArray most = "t,ss;a,11;b,12;c,13;d,14;e,17";
+    QTest::newRow("two thirds of the values") << source << most << true << "s>ss";
+    QTest::newRow("two thirds of the values, elsewhere") << source << most << false << "";
+    QTest::newRow("half of the values")
+        << source << QByteArray("t,ss;a,11;b,12;c,13;d,18;e,17") << true << "";
+    QTest::newRow("two columns alike")
+        << source << QByteArray("t,ss;11,11;12,12;13,13;14,14;19,17") << true << "";
+}
+
+/// In the folder of the project less has to be as it was.
+void tst_RuleProposals::renamesNearby()
+{
+    QFETCH(QByteArray, source);
+    QFETCH(QByteArray, target);
+    QFETCH(bool, isNear);
+    const Tables tables(source, {target}, isNear);
     QTEST(tables.renames(), "renames");
 }
 

@@ -48,11 +48,13 @@ using Candidates = std::vector<Candidate>;
 class Search
 {
 public:
-    Search(const ReleaseIndex &index, const QString &projectPath, const LineCells &cells)
+    Search(const ReleaseIndex &index, const QString &projectPath, const LineCells &cells,
+           bool isFolderKept = true)
         : m_index(index)
         , m_path(projectPath)
         , m_name(foldedName(projectPath))
         , m_cells(cells)
+        , m_isFolderKept(isFolderKept)
         , m_allRows(size_t(cells.rowCount()))
     {
         std::iota(m_allRows.begin(), m_allRows.end(), 0);
@@ -120,13 +122,20 @@ private:
     void addSimilar(Candidates &candidates);
     [[nodiscard]] double chanceOf(const Candidate &candidate) const;
     void addParts(Candidates &candidates);
-    [[nodiscard]] std::vector<int> byColumns(const ProjectFinder::HasRoom &hasRoom) const;
+    [[nodiscard]] std::vector<int> byColumns(const ProjectFinder::HasRoom &hasRoom,
+                                             double leastScore) const;
+    /// Whether a table lies in the folder of the project, if that tells anything.
+    [[nodiscard]] bool isNear(int table) const
+    {
+        return m_isFolderKept && folderInCatalog(m_index.path(table)) == folderInCatalog(m_path);
+    }
     void addOnlyHolders(Candidates &candidates);
 
     const ReleaseIndex &m_index;
     const QString m_path;
     const QString m_name;
     const LineCells &m_cells;
+    const bool m_isFolderKept;
     std::vector<int> m_allRows;
     std::vector<int> m_rest;
     std::vector<int> m_found;
@@ -225,11 +234,12 @@ Candidates Search::related(bool named, const ProjectFinder::HasRoom &hasRoom) co
 std::optional<Candidate> Search::renamedCandidate(const Candidate &former) const
 {
     const LineCells &target = m_index.table(former.table);
-    const bool isNear = folderInCatalog(m_index.path(former.table)) == folderInCatalog(m_path);
+    const bool isNear = this->isNear(former.table);
     if ((former.match.commonCount() == 0 && !isNear) ||
         former.match.commonCount() == int(m_cells.variables().size()))
         return std::nullopt;
-    const auto lines = std::make_shared<const LineCells>(RuleProposals::renamed(m_cells, target));
+    const auto lines =
+        std::make_shared<const LineCells>(RuleProposals::renamed(m_cells, {&target, isNear}));
     Candidate renamed{former.table, former.likeness, TableMatch(*lines, target), 0, lines};
     const bool isTaken = isNear ? renamed.match.hasVariables() : renamed.match.isRelated();
     return isTaken ? std::optional(std::move(renamed)) : std::nullopt;
@@ -289,10 +299,21 @@ std::vector<int> Search::runWithRoom(const ProjectFinder::HasRoom &hasRoom)
     Candidates candidates = related(false, hasRoom);
     addSimilar(candidates);
     addParts(candidates);
-    return 2 * m_rest.size() > m_allRows.size() ? byColumns(hasRoom) : m_found;
+    if (2 * m_rest.size() > m_allRows.size())
+        return byColumns(hasRoom, 0);
+    if (std::ranges::any_of(m_found, [this](int table) { return isNear(table); }))
+        return m_found;
+    // Standard sizes stand in tables of other folders as well.
+    double best = 0;
+    for (const Candidate &found : candidates) {
+        if (std::ranges::count(m_found, found.table))
+            best = std::max(best, found.match.columnShares().ofValues);
+    }
+    std::vector<int> columns = byColumns(hasRoom, best * AsGood);
+    return !columns.empty() && isNear(columns.front()) ? columns : m_found;
 }
 
-std::vector<int> Search::byColumns(const ProjectFinder::HasRoom &hasRoom) const
+std::vector<int> Search::byColumns(const ProjectFinder::HasRoom &hasRoom, double leastScore) const
 {
     const QString folder = folderInCatalog(m_path);
     std::vector<int> tables = m_index.holders(m_cells, m_allRows, Compared);
@@ -310,22 +331,22 @@ std::vector<int> Search::byColumns(const ProjectFinder::HasRoom &hasRoom) const
                 continue;
             found = std::move(*renamed);
         }
-        found.score = found.match.columnShare();
-        if (found.score >= LeastColumns)
+        const TableMatch::ColumnShares shares = found.match.columnShares();
+        found.score = shares.ofValues;
+        if (shares.ofColumns >= LeastColumns && found.score >= leastScore)
             candidates.push_back(std::move(found));
     }
     std::ranges::sort(candidates, {}, &Candidate::rank);
-    const double least = candidates.empty() ? 0 : candidates.front().score * AsGood;
+    const double best = candidates.empty() ? 0 : candidates.front().score;
+    const double least =
+        best < LeastColumns ? best * AsGood : std::max(best * AsGood, LeastColumns);
     std::erase_if(candidates, [least](const Candidate &c) { return c.score < least; });
-    const auto isNear = [&](const Candidate &c) {
-        return folderInCatalog(m_index.path(c.table)) == folder;
-    };
-    if (std::ranges::any_of(candidates, isNear))
-        std::erase_if(candidates, [&](const Candidate &c) { return !isNear(c); });
-    std::vector<int> best;
+    if (std::ranges::any_of(candidates, [this](const Candidate &c) { return isNear(c.table); }))
+        std::erase_if(candidates, [this](const Candidate &c) { return !isNear(c.table); });
+    std::vector<int> found;
     for (size_t i = 0; i < candidates.size() && i < MaxSimilar; ++i)
-        best.push_back(candidates[i].table);
-    return best;
+        found.push_back(candidates[i].table);
+    return found;
 }
 
 void Search::addOnlyHolders(Candidates &candidates)
@@ -359,9 +380,9 @@ std::vector<int> ProjectFinder::find(const QString &projectPath, const LineCells
 }
 
 std::vector<int> ProjectFinder::findWithRoom(const QString &projectPath, const LineCells &cells,
-                                             const HasRoom &hasRoom) const
+                                             const HasRoom &hasRoom, bool isFolderKept) const
 {
-    return Search(m_index, projectPath, cells).runWithRoom(hasRoom);
+    return Search(m_index, projectPath, cells, isFolderKept).runWithRoom(hasRoom);
 }
 
 } // namespace VelkRelease

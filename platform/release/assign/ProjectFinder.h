@@ -41,9 +41,11 @@ public:
     /// For a project that has none of these, or only tables without room: those of kind 3 that have
     /// room, if they hold half of the lines together; else tables with room that have the values of
     /// its columns, though not in the same lines. Where some columns were reworded or given in
-    /// another unit, hardly any line is as it was.
+    /// another unit, hardly any line is as it was. Of those that have as much of the columns, the
+    /// ones in the folder of the project are given, if \a isFolderKept: other projects stayed
+    /// there.
     [[nodiscard]] std::vector<int> findWithRoom(const QString &projectPath, const LineCells &cells,
-                                                const HasRoom &hasRoom) const;
+                                                const HasRoom &hasRoom, bool isFolderKept) const;
 
 private:
     const ReleaseIndex &m_index;

@@ -12,8 +12,12 @@ QString pathInCatalog(const QString &projectPath)
 
 QString folderInCatalog(const QString &projectPath)
 {
-    const QString path = pathInCatalog(projectPath);
-    return path.left(path.lastIndexOf('/') + 1);
+    return folderOf(pathInCatalog(projectPath));
+}
+
+QString folderOf(const QString &pathInCatalog)
+{
+    return pathInCatalog.left(pathInCatalog.lastIndexOf('/') + 1);
 }
 
 QString foldedName(QStringView projectPath)

@@ -13,6 +13,8 @@ namespace VelkRelease {
 [[nodiscard]] VELKRELEASE_EXPORT QString pathInCatalog(const QString &projectPath);
 /// The folder of a project below its catalog, with the slash at its end; empty for the catalog.
 [[nodiscard]] VELKRELEASE_EXPORT QString folderInCatalog(const QString &projectPath);
+/// The same of a path that is without its catalog already.
+[[nodiscard]] VELKRELEASE_EXPORT QString folderOf(const QString &pathInCatalog);
 /// The file name without extension, in lower case and without anything but letters and digits:
 /// "Bolts/DIN_931-A.prj" gives "din931a".
 [[nodiscard]] VELKRELEASE_EXPORT QString foldedName(QStringView projectPath);

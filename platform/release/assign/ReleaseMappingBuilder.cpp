@@ -185,8 +185,8 @@ std::vector<std::vector<int>> ReleaseMappingBuilder::Work::findTables() const
             return room.isThere(i, table);
         };
         const ReadProject &source = m_sources[size_t(i)];
-        std::vector<int> better =
-            ProjectFinder(m_index).findWithRoom(source.project.path, source.cells, hasRoom);
+        std::vector<int> better = ProjectFinder(m_index).findWithRoom(
+            source.project.path, source.cells, hasRoom, room.isFolderKept(i));
         if (better.empty())
             return;
         for (const int table : tables) {
@@ -230,11 +230,12 @@ void ReleaseMappingBuilder::Work::addTargets(PrjMappingC &mapping,
 void ReleaseMappingBuilder::Work::proposeRules(const ReadProject &source, PrjMappingC &mapping,
                                                const std::vector<int> &tables) const
 {
-    std::vector<const LineCells *> cells;
-    cells.reserve(tables.size());
+    const QString folder = folderInCatalog(source.project.path);
+    std::vector<RuleProposals::Target> targets;
+    targets.reserve(tables.size());
     for (const int table : tables)
-        cells.push_back(&m_index.table(table));
-    const RuleProposals proposals(source.cells, cells);
+        targets.push_back({&m_index.table(table), folderInCatalog(m_index.path(table)) == folder});
+    const RuleProposals proposals(source.cells, targets);
     const RuleProposals::Split split = proposals.split();
     const QStringList conditions = conditionsOf(source, split);
     for (int target = 0; target < int(tables.size()); ++target) {

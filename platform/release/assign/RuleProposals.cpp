@@ -1,5 +1,6 @@
 #include "RuleProposals.h"
 
+#include "ColumnPairs.h"
 #include "LineCells.h"
 
 #include <algorithm>
@@ -18,6 +19,8 @@ constexpr int EnoughPairs = 3;
 /// Share of them, and of values and lines in general, that has to agree.
 constexpr double Agreeing = 0.9;
 constexpr double MostLines = 0.8;
+/// The share where both tables lie in one folder, which tells that they belong together.
+constexpr double TwoThirds = 2.0 / 3;
 /// A variable by which a project was split has few values.
 constexpr int MostValues = 12;
 /// Ways to part the values among the targets that are tried.
@@ -25,92 +28,6 @@ constexpr double MostPartings = 20'000;
 constexpr double MostWork = 5e7;
 /// How much better, in lines, the best way has to be than the next one.
 constexpr double ClearShare = 0.02;
-
-using ColumnPair = std::pair<int, int>;
-
-int columnOf(const LineCells &cells, int variable)
-{
-    const auto &variables = cells.variables();
-    const auto found = std::lower_bound(variables.begin(), variables.end(), variable);
-    return found != variables.end() && *found == variable ? int(found - variables.begin()) : -1;
-}
-
-std::vector<ColumnPair> commonColumns(const LineCells &source, const LineCells &target)
-{
-    std::vector<ColumnPair> pairs;
-    for (size_t column = 0; column < source.variables().size(); ++column) {
-        const int other = columnOf(target, source.variables()[column]);
-        if (other >= 0)
-            pairs.emplace_back(int(column), other);
-    }
-    return pairs;
-}
-
-std::vector<int> ownColumns(const LineCells &cells, const LineCells &other)
-{
-    std::vector<int> columns;
-    for (size_t column = 0; column < cells.variables().size(); ++column) {
-        if (columnOf(other, cells.variables()[column]) < 0)
-            columns.push_back(int(column));
-    }
-    return columns;
-}
-
-/// Hash of a line over some columns, each under the number given for it; 0 without any value.
-quint64 keyOf(const LineCells &cells, int row, const std::vector<int> &columns)
-{
-    quint64 key = 0;
-    quint64 place = 0;
-    for (const int column : columns) {
-        ++place;
-        const quint64 value = cells.cell(row, column);
-        if (value == 0)
-            continue;
-        quint64 mixed = (value + place * 0x9e3779b97f4a7c15U) * 0xbf58476d1ce4e5b9U;
-        mixed ^= mixed >> 29U;
-        key += mixed * 0x94d049bb133111ebU;
-    }
-    return key;
-}
-
-std::vector<int> columnsIn(const std::vector<ColumnPair> &pairs, int ColumnPair::*side)
-{
-    std::vector<int> columns;
-    columns.reserve(pairs.size());
-    for (const ColumnPair &pair : pairs)
-        columns.push_back(pair.*side);
-    return columns;
-}
-
-/// Rows by key; -1 for a key that several rows have. Rows without value are left out.
-std::unordered_map<quint64, int> uniqueRows(const LineCells &cells, const std::vector<int> &columns)
-{
-    std::unordered_map<quint64, int> rows;
-    for (int row = 0; row < cells.rowCount(); ++row) {
-        const quint64 key = keyOf(cells, row, columns);
-        if (key == 0)
-            continue;
-        const auto [found, isNew] = rows.try_emplace(key, row);
-        if (!isNew)
-            found->second = -1;
-    }
-    return rows;
-}
-
-/// Rows of the source with the row that is equal in these columns, if it is the only one.
-std::vector<std::pair<int, int>> equalRows(const LineCells &source, const LineCells &target,
-                                           const std::vector<ColumnPair> &columns)
-{
-    std::vector<std::pair<int, int>> pairs;
-    const auto targets = uniqueRows(target, columnsIn(columns, &ColumnPair::second));
-    const std::vector<int> own = columnsIn(columns, &ColumnPair::first);
-    for (int row = 0; row < source.rowCount(); ++row) {
-        const auto found = targets.find(keyOf(source, row, own));
-        if (found != targets.end() && found->second >= 0)
-            pairs.emplace_back(row, found->second);
-    }
-    return pairs;
-}
 
 /// Share of the pairs in which both columns have the same value, 0 if there is but one value.
 double agreement(const LineCells &source, const LineCells &target,
@@ -153,14 +70,14 @@ int countStrange(const LineCells &cells, int column, const LineCells &other, int
     }));
 }
 
-/// The columns without those of which the target has hardly any value of the source: what was
-/// reworded does not tell equal lines.
+/// The columns without those in which many lines have a value that the target lacks: what changed
+/// does not tell equal lines.
 std::vector<ColumnPair> keptColumns(const LineCells &source, const LineCells &target,
                                     std::vector<ColumnPair> columns)
 {
     std::erase_if(columns, [&](const ColumnPair &pair) {
         const auto count = double(source.sortedValues(pair.first).size());
-        return countStrange(source, pair.first, target, pair.second) > Agreeing * count;
+        return countStrange(source, pair.first, target, pair.second) > (1 - MostLines) * count;
     });
     return columns;
 }
@@ -213,50 +130,66 @@ int countHeld(const LineCells &source, const LineCells &target,
 
 } // namespace
 
-RuleProposals::RuleProposals(const LineCells &source, const std::vector<const LineCells *> &targets)
+RuleProposals::RuleProposals(const LineCells &source, const std::vector<Target> &targets)
     : m_source(source)
     , m_targets(targets)
 {
-    for (const LineCells *target : m_targets)
-        m_renames.push_back(findRenames(*target));
+    for (const Target &target : m_targets)
+        m_renames.push_back(findRenames(target));
 }
 
-std::vector<RuleProposals::Rename> RuleProposals::findRenames(const LineCells &target) const
+std::vector<RuleProposals::Rename> RuleProposals::findRenames(const Target &table) const
 {
+    const LineCells &target = *table.cells;
     const std::vector<int> old = ownColumns(m_source, target);
     const std::vector<int> now = ownColumns(target, m_source);
     if (old.empty() || now.empty())
         return {};
+    const int fewer = std::min(m_source.rowCount(), target.rowCount());
+    const auto findBy = [&](const auto &scoreOf, std::vector<ColumnPair> all, double least,
+                            double leastHeld) {
+        std::vector<PairCandidate> candidates;
+        for (const int from : old) {
+            for (const int to : now) {
+                const double score = scoreOf(ColumnPair(from, to));
+                if (score >= least)
+                    candidates.push_back({{from, to}, score});
+            }
+        }
+        std::vector<Rename> renames;
+        for (const ColumnPair &columns : clearOnes(candidates)) {
+            all.push_back(columns);
+            renames.push_back({m_source.variables()[size_t(columns.first)],
+                               target.variables()[size_t(columns.second)]});
+        }
+        if (renames.empty() || countHeld(m_source, target, all) < leastHeld * fewer)
+            renames.clear();
+        return renames;
+    };
     const std::vector<ColumnPair> common = commonColumns(m_source, target);
     const auto pairs = equalRows(m_source, target, common);
     const bool aligned = int(pairs.size()) >= EnoughPairs;
-    std::vector<PairCandidate> candidates;
-    for (const int from : old) {
-        for (const int to : now) {
-            const ColumnPair columns(from, to);
-            const double score = aligned ? agreement(m_source, target, pairs, columns)
-                                         : likeness(m_source, target, columns);
-            if (score >= Agreeing)
-                candidates.push_back({columns, score});
-        }
-    }
-    std::vector<ColumnPair> all = aligned ? common : keptColumns(m_source, target, common);
     std::vector<Rename> renames;
-    for (const ColumnPair &columns : clearOnes(candidates)) {
-        all.push_back(columns);
-        renames.push_back({m_source.variables()[size_t(columns.first)],
-                           target.variables()[size_t(columns.second)]});
+    if (aligned) {
+        const auto scoreOf = [&](const ColumnPair &columns) {
+            return agreement(m_source, target, pairs, columns);
+        };
+        renames = findBy(scoreOf, common, Agreeing, MostLines);
     }
-    const int fewer = std::min(m_source.rowCount(), target.rowCount());
-    if (renames.empty() || countHeld(m_source, target, all) < MostLines * fewer)
-        return {};
-    return renames;
+    // Where most lines are equal in the rest, they tell; few of them may be so by chance.
+    if (!renames.empty() || (aligned && countHeld(m_source, target, common) >= MostLines * fewer))
+        return renames;
+    const auto scoreOf = [&](const ColumnPair &columns) {
+        return likeness(m_source, target, columns);
+    };
+    return findBy(scoreOf, keptColumns(m_source, target, common),
+                  table.isNear ? TwoThirds : Agreeing, table.isNear ? TwoThirds : MostLines);
 }
 
-LineCells RuleProposals::renamed(const LineCells &source, const LineCells &target)
+LineCells RuleProposals::renamed(const LineCells &source, const Target &target)
 {
     std::vector<std::pair<int, int>> names;
-    const RuleProposals proposals(source, {&target});
+    const RuleProposals proposals(source, {target});
     for (const Rename &rename : proposals.renames(0))
         names.emplace_back(rename.source, rename.target);
     return source.renamed(names);
@@ -295,16 +228,17 @@ RuleProposals::Parting RuleProposals::part(int column) const
     std::vector<std::vector<std::vector<bool>>> holders(count,
                                                         std::vector<std::vector<bool>>(targets));
     for (size_t t = 0; t < targets; ++t) {
-        std::vector<ColumnPair> columns = commonColumns(m_source, *m_targets[t]);
+        std::vector<ColumnPair> columns = commonColumns(m_source, *m_targets[t].cells);
         for (const Rename &rename : m_renames[t])
             columns.emplace_back(columnOf(m_source, rename.source),
-                                 columnOf(*m_targets[t], rename.target));
-        columns = unchangedColumns(m_source, *m_targets[t], columns);
+                                 columnOf(*m_targets[t].cells, rename.target));
+        columns = unchangedColumns(m_source, *m_targets[t].cells, columns);
         std::unordered_map<quint64, std::vector<int>> rows;
-        for (int row = 0; row < m_targets[t]->rowCount(); ++row)
-            rows[keyOf(*m_targets[t], row, columnsIn(columns, &ColumnPair::second))].push_back(row);
+        for (int row = 0; row < m_targets[t].cells->rowCount(); ++row)
+            rows[keyOf(*m_targets[t].cells, row, columnsIn(columns, &ColumnPair::second))]
+                .push_back(row);
         for (auto &value : holders)
-            value[t].resize(size_t(m_targets[t]->rowCount()));
+            value[t].resize(size_t(m_targets[t].cells->rowCount()));
         const std::vector<int> own = columnsIn(columns, &ColumnPair::first);
         for (int row = 0; row < m_source.rowCount(); ++row) {
             const quint64 key = keyOf(m_source, row, own);
@@ -320,7 +254,7 @@ RuleProposals::Parting RuleProposals::part(int column) const
     const auto scoreOf = [&](const std::vector<int> &chosen) {
         double score = 0;
         for (size_t t = 0; t < targets; ++t) {
-            std::vector<bool> covered(size_t(m_targets[t]->rowCount()));
+            std::vector<bool> covered(size_t(m_targets[t].cells->rowCount()));
             bool used = false;
             for (size_t value = 0; value < count; ++value) {
                 if (chosen[value] != int(t))
@@ -355,8 +289,8 @@ RuleProposals::Parting RuleProposals::part(int column) const
             break;
     }
     double all = m_source.rowCount();
-    for (const LineCells *target : m_targets)
-        all += target->rowCount();
+    for (const Target &target : m_targets)
+        all += target.cells->rowCount();
     parting.isClear = parting.score >= MostLines * all &&
                       parting.score - second >= std::max(1.0, ClearShare * all);
     return parting;
@@ -371,8 +305,9 @@ RuleProposals::Split RuleProposals::split() const
     for (size_t column = 0; column < m_source.variables().size(); ++column) {
         const int variable = m_source.variables()[column];
         const bool stays =
-            std::any_of(m_targets.begin(), m_targets.end(),
-                        [&](const LineCells *target) { return columnOf(*target, variable) >= 0; });
+            std::any_of(m_targets.begin(), m_targets.end(), [&](const Target &target) {
+                return columnOf(*target.cells, variable) >= 0;
+            });
         const bool renamed =
             std::any_of(m_renames.begin(), m_renames.end(), [&](const std::vector<Rename> &all) {
                 return std::any_of(all.begin(), all.end(),

@@ -30,8 +30,14 @@ public:
         std::vector<std::vector<int>> rows;
     };
 
-    /// All must stay where they are.
-    RuleProposals(const LineCells &source, const std::vector<const LineCells *> &targets);
+    struct Target
+    {
+        const LineCells *cells;
+        bool isNear = false; ///< In the folder of the project.
+    };
+
+    /// All tables must stay where they are.
+    RuleProposals(const LineCells &source, const std::vector<Target> &targets);
 
     /// Variables of the source that the target lacks, each with one that the source lacks: they
     /// have the same values in the lines that are equal in all other variables that both have. If
@@ -43,7 +49,7 @@ public:
         return m_renames[size_t(target)];
     }
     /// The lines of \a source with those variables under their names in \a target.
-    [[nodiscard]] static LineCells renamed(const LineCells &source, const LineCells &target);
+    [[nodiscard]] static LineCells renamed(const LineCells &source, const Target &target);
     /// A variable that no target has, and each value of which belongs to one target: that one holds
     /// the lines with the value, compared in what did not change in most lines. Nothing if values
     /// would fit another target nearly as well.
@@ -52,11 +58,11 @@ public:
 private:
     struct Parting;
 
-    [[nodiscard]] std::vector<Rename> findRenames(const LineCells &target) const;
+    [[nodiscard]] std::vector<Rename> findRenames(const Target &target) const;
     [[nodiscard]] Parting part(int column) const;
 
     const LineCells &m_source;
-    const std::vector<const LineCells *> m_targets;
+    const std::vector<Target> m_targets;
     std::vector<std::vector<Rename>> m_renames;
 };
 

@@ -14,7 +14,7 @@ namespace {
 /// A variable with fewer values says little about which table it is.
 constexpr size_t SeveralValues = 3;
 /// Share of a variable's values that is most of them.
-constexpr double MostOfColumn = 0.8;
+constexpr double MostOfColumn = 2.0 / 3;
 
 quint64 sumOver(const LineCells &cells, int row, const std::vector<int> &columns)
 {
@@ -257,22 +257,25 @@ bool TableMatch::hasVariables() const
     return isRelated() || (commonCount() > 0 && commonCount() == int(m_source->variables().size()));
 }
 
-double TableMatch::columnShare() const
+TableMatch::ColumnShares TableMatch::columnShares() const
 {
     double sum = 0;
-    double best = 0;
+    double kept = 0;
+    bool any = false;
     for (size_t i = 0; i < m_sourceColumns.size(); ++i) {
         const std::vector<quint32> mine = m_source->sortedValues(m_sourceColumns[i]);
         const std::vector<quint32> theirs = m_target->sortedValues(m_targetColumns[i]);
         std::vector<quint32> both;
         std::ranges::set_intersection(mine, theirs, std::back_inserter(both));
         const double share = ratio(double(both.size()), double(mine.size()));
+        const bool isKept = share >= MostOfColumn;
         sum += share;
+        kept += isKept ? 1 : share;
         both.erase(std::unique(both.begin(), both.end()), both.end());
-        if (both.size() >= SeveralValues)
-            best = std::max(best, share);
+        any = any || (isKept && both.size() >= SeveralValues);
     }
-    return best >= MostOfColumn ? ratio(sum, double(m_source->variables().size())) : 0;
+    const auto count = double(m_source->variables().size());
+    return {ratio(sum, count), any ? ratio(kept, count) : 0};
 }
 
 double TableMatch::heldShare(int sourceRow) const

@@ -63,10 +63,15 @@ public:
     [[nodiscard]] double score(const std::vector<int> &sourceRows) const;
     /// Whether the target has all variables of the source, or else half of them, two at least.
     [[nodiscard]] bool hasVariables() const;
-    /// Share of the values of the source that the target has in the same variables, whatever the
-    /// lines: the mean over all variables of the source. 0 unless most of those are there of one
-    /// variable with several values.
-    [[nodiscard]] double columnShare() const;
+    /// Share of the values that the target has in the same variables, whatever the lines.
+    struct ColumnShares
+    {
+        double ofValues = 0; ///< Of all values of the source, the mean over all its variables.
+        /// The same, if variables of which most values are there count as whole: lines may be gone.
+        /// 0 unless one of these has several values.
+        double ofColumns = 0;
+    };
+    [[nodiscard]] ColumnShares columnShares() const;
     /// Whether any line has an equal line or its key in the target.
     [[nodiscard]] bool anyFound() const;
 

@@ -17,6 +17,11 @@ TableRoom::TableRoom(const std::vector<TargetOwners::Table> &sources,
     for (int source = 0; source < int(found.size()); ++source) {
         const std::vector<int> &tables = found[size_t(source)];
         int rest = m_sources[size_t(source)].cells->rowCount();
+        if (!tables.empty() && hasName(source, tables.front())) {
+            const QString folder = folderOf(m_sources[size_t(source)].place);
+            const bool stayed = folderOf(m_targets[size_t(tables.front())].place) == folder;
+            m_stayed[folder] += stayed ? 1 : -1;
+        }
         for (const int table : tables) {
             const bool named = hasName(source, table);
             if (!named && table != tables.front())
@@ -51,6 +56,11 @@ bool TableRoom::isThere(int source, int target) const
             room -= owner.lines;
     }
     return 2 * room >= project.cells->rowCount();
+}
+
+bool TableRoom::isFolderKept(int source) const
+{
+    return m_stayed.value(folderOf(m_sources[size_t(source)].place)) >= 0;
 }
 
 bool TableRoom::hasName(int source, int target) const

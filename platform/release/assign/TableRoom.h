@@ -4,6 +4,8 @@
 
 #include "TargetOwners.h"
 
+#include <QHash>
+
 #include <vector>
 
 namespace VelkRelease {
@@ -26,6 +28,9 @@ public:
     /// Whether a table has room for half of the project's lines beside those of the projects whose
     /// names are nearer to its name.
     [[nodiscard]] bool isThere(int source, int target) const;
+    /// Whether most of the projects in the folder of this one that were found by their names are
+    /// still there; true without any.
+    [[nodiscard]] bool isFolderKept(int source) const;
 
 private:
     struct Owner
@@ -39,6 +44,8 @@ private:
     const std::vector<TargetOwners::Table> &m_sources;
     const std::vector<TargetOwners::Table> &m_targets;
     std::vector<std::vector<Owner>> m_owners; ///< By table.
+    QHash<QString, int>
+        m_stayed; ///< By folder: projects that stayed in it, without those that left.
 };
 
 } // namespace VelkRelease

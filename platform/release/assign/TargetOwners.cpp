@@ -56,7 +56,9 @@ bool TargetOwners::isNamesake(int source, int target) const
 bool TargetOwners::holdsMost(int source, int target) const
 {
     const LineCells &cells = *m_targets[size_t(target)].cells;
-    const LineCells lines = RuleProposals::renamed(*m_sources[size_t(source)].cells, cells);
+    const Table &project = m_sources[size_t(source)];
+    const bool isNear = folderOf(project.place) == folderOf(m_targets[size_t(target)].place);
+    const LineCells lines = RuleProposals::renamed(*project.cells, {&cells, isNear});
     const TableMatch match(lines, cells);
     int held = 0;
     for (int row = 0; row < lines.rowCount(); ++row)
