@@ -70,6 +70,31 @@ private Q_SLOTS:
         QTRY_VERIFY(model->index(0, 0).data().toString().startsWith("Zeile 7"));
         QTEST(model->index(0, 0).data().toString().section(' ', 2), "designation");
     }
+
+    /// It has lines to decide on, of which none can be shown.
+    void goesToAProjectThatIsGone()
+    {
+        WindowFixture fixture;
+        CatalogRoots roots = WindowFixture::roots();
+        const QString copy = fixture.directory.filePath("catalogs");
+        QVERIFY(copyWithTitles(roots.source, copy));
+        roots.source = copy;
+        QDir screws(copy + "/standardparts/screws");
+        for (const QString &file : screws.entryList({"din933.*"}, QDir::Files))
+            QVERIFY(screws.remove(file));
+        QVERIFY(fixture.window->desk()->open({.file = fixture.mappingFile(), .roots = roots}));
+        fixture.press(Qt::Key_K, Qt::ControlModifier);
+        auto *const dialog = fixture.window->findChild<LocatorDialog *>();
+        QVERIFY(dialog);
+        QTest::keyClicks(dialog->findChild<QLineEdit *>("locatorInput"), "din933 scr");
+        const auto *const model = dialog->findChild<LocatorModel *>();
+        QTRY_COMPARE(model->index(0, 0).data().toString(), QString("din933.prj"));
+        QTest::keyClick(dialog->findChild<QLineEdit *>("locatorInput"), Qt::Key_Return);
+        const EditorArea *const editor = fixture.window->editor();
+        QTRY_COMPARE(editor->currentPath(), din933);
+        QVERIFY(!editor->sourceTable().isValid());
+        QTRY_COMPARE(fixture.window->focusWidget()->objectName(), QString("treeView"));
+    }
 };
 
 QTEST_MAIN(tst_LocatorDesk)

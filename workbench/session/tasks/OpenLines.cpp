@@ -92,6 +92,16 @@ QString simplified(const QString &text)
 
 } // namespace
 
+int OpenLines::Shown::firstOf(const std::vector<int> &lines) const
+{
+    int first = rows;
+    for (const int line : lines) {
+        if (const int row = rowOf(line); row >= 0)
+            first = std::min(first, row);
+    }
+    return lineAt(first < rows ? first : 0);
+}
+
 OpenLines::OpenLines(MappingDocument *document, QObject *parent)
     : QObject(parent)
     , m_document(document)

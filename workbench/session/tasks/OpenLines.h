@@ -46,6 +46,9 @@ public:
         bool isFiltered = false; ///< rows are left out: the search stays within
         std::function<int(int row)> lineAt;
         std::function<int(int line)> rowOf; ///< -1: no row
+
+        /// The line of the first row that has one of these, else of the first row; there is one.
+        [[nodiscard]] int firstOf(const std::vector<int> &lines) const;
     };
     struct Found
     {

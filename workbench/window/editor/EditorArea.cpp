@@ -177,15 +177,9 @@ bool EditorArea::showProject(const QString &sourcePath)
     paintLater();
     if (!selectProject(sourcePath))
         return false;
-    const OpenLines::Shown rows = shown();
-    int row = rows.rows;
-    for (const int line : OpenLines::linesOf(m_editor->currentProject(),
-                                             OpenLines::Kinds(OpenLines::NeedDecision))) {
-        if (const int place = rows.rowOf(line); place >= 0)
-            row = std::min(row, place);
-    }
-    if (rows.rows > 0)
-        selectLine(rows.lineAt(row < rows.rows ? row : 0));
+    if (const OpenLines::Shown rows = shown(); rows.rows > 0)
+        selectLine(rows.firstOf(OpenLines::linesOf(m_editor->currentProject(),
+                                                   OpenLines::Kinds(OpenLines::NeedDecision))));
     focusLines();
     return true;
 }
