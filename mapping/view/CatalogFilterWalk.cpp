@@ -62,9 +62,9 @@ void CatalogFilterWalk::enter(const CatalogStructureNodeI &directory)
 
 void CatalogFilterWalk::leave()
 {
-    Level left = std::move(m_levels.back());
+    const Level left = std::move(m_levels.back());
     m_levels.pop_back();
-    m_decided.insert(left.node, std::move(left.decisions));
+    m_decided.insert(left.node, left.decisions);
     if (m_levels.empty())
         m_isAccepted = left.isAccepted;
     else
