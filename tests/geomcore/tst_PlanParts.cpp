@@ -2,6 +2,7 @@
 #include <geomcore/mapper/CellNumbering.h>
 #include <geomcore/plan/CandidateLists.h>
 #include <geomcore/plan/LineChoice.h>
+#include <geomcore/plan/nextBestDoubt.h>
 #include <geomcore/plan/PlaceEvidence.h>
 #include <geomcore/plan/SoftAssignment.h>
 #include <geomcore/plan/SparseAssignment.h>
@@ -102,6 +103,8 @@ private Q_SLOTS:
     void lonePairsStandForThemselves();
     void whatIsAlikeDoesNotCross_data();
     void whatIsAlikeDoesNotCross();
+    void doubtOfTheNextBest_data();
+    void doubtOfTheNextBest();
 };
 
 void tst_PlanParts::packedCellsAreTheSame_data()
@@ -483,6 +486,50 @@ void tst_PlanParts::lonePairsStandForThemselves()
         if (!pairs.empty())
             QCOMPARE(pairs.front().probability, odds / (1 + odds));
     }
+}
+
+void tst_PlanParts::doubtOfTheNextBest_data()
+{
+    QTest::addColumn<double>("own");
+    QTest::addColumn<double>("next");
+    QTest::addColumn<double>("taken");
+    QTest::addColumn<double>("already");
+    QTest::addColumn<double>("least");
+    QTest::addColumn<double>("most");
+    QTest::newRow("far from its own") << 16.0 << -12.0 << 0.0 << 0.0 << 0.0 << 0.01;
+    QTest::newRow("it looks like a partner") << 16.0 << 6.0 << 0.0 << 0.0 << 6.5 << 9.0;
+    QTest::newRow("the same with a doubt before") << 11.0 << 1.0 << 0.0 << 5.0 << 6.5 << 9.0;
+    QTest::newRow("it is that of another line") << 16.0 << 6.0 << 0.9 << 0.0 << 0.0 << 0.0;
+    QTest::newRow("what is behind its own is not known") << 30.0 << 6.0 << 0.0 << 0.0 << 0.0 << 0.0;
+    QTest::newRow("partners are hardly heavier") << 7.0 << 6.0 << 0.0 << 0.0 << 4.0 << 6.5;
+}
+
+/// Of 50 lines with a partner each; each has another row, which is also that of another line or
+/// not.
+void tst_PlanParts::doubtOfTheNextBest()
+{
+    QFETCH(double, own);
+    QFETCH(double, next);
+    QFETCH(double, taken);
+    QFETCH(double, already);
+    QFETCH(double, least);
+    QFETCH(double, most);
+    constexpr int Lines = 50;
+    EdgeLists edges(2 * size_t(Lines));
+    for (size_t block = 0; block < edges.blockCount(); ++block) {
+        edges.refill(block, [&](size_t line, EdgeLists::Block &out) {
+            const int node = int(line);
+            if (node < Lines) {
+                out.add({0, node, node, own, 1});
+                out.add({0, node + Lines, node + Lines, next, 0});
+            } else {
+                out.add({0, node, node, 40, taken});
+            }
+        });
+    }
+    const std::vector<float> standsFor(edges.size(), 1);
+    const double doubt = nextBestDoubt(edges, 2 * Lines, standsFor, already);
+    QVERIFY2(doubt >= least && doubt <= most, QByteArray::number(doubt).constData());
 }
 
 QTEST_APPLESS_MAIN(tst_PlanParts)

@@ -57,6 +57,7 @@ private Q_SLOTS:
     void agreedReplacements();
     void agreedReplacementIsTold();
     void goneLinesHaveNoProposal();
+    void goneLinesBesideLikeOnes();
     void equalLinesOfAllTargets();
     void equalLineThatIsTaken();
     void likeLinesKeepTheirOrder();
@@ -328,6 +329,33 @@ void tst_PrjMapperCandidates::goneLinesHaveNoProposal()
     for (int line = 1; line <= 20; ++line) {
         const QString expected =
             line % 5 == 0 ? QStringLiteral("none") : QStringLiteral("0:%1").arg(line - line / 5);
+        QCOMPARE(fixture.proposal(line), expected);
+    }
+}
+
+/// For each line the new table has another one that looks like it, whether its own is gone or not.
+void tst_PrjMapperCandidates::goneLinesBesideLikeOnes()
+{
+    QByteArray source = "model,crop:n,focal:n,n:n\n";
+    QByteArray target = source;
+    QByteArray others;
+    for (int i = 1; i <= 44; ++i) {
+        const QByteArray focal = QByteArray::number(20 + i * 7 % 41);
+        const QByteArray model = focal + "mm f/" + QByteArray::number(i * 5 % 11) + " ED";
+        source += model + ",1.5," + focal + ',' + QByteArray::number(i % 3) + '\n';
+        if (i % 8 != 0)
+            target += "Nikkor " + model + ",1.53," + focal + ',' + QByteArray::number(i % 3) + '\n';
+        others +=
+            "Nikkor " + model + " VR,1," + focal + ',' + QByteArray::number((i + 1) % 3) + '\n';
+    }
+    const TestCatalog catalog;
+    catalog.write("old/a.prj", source);
+    catalog.write("new/a.prj", target + others);
+    MapperFixture fixture(catalog, {"new/a.prj"});
+    fixture.start();
+    for (int line = 1; line <= 44; ++line) {
+        const QString expected =
+            line % 8 == 0 ? QStringLiteral("none") : QStringLiteral("0:%1").arg(line - line / 8);
         QCOMPARE(fixture.proposal(line), expected);
     }
 }

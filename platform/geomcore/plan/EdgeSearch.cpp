@@ -9,9 +9,6 @@ namespace {
 
 /// Candidates of a line, of all targets together.
 constexpr size_t KeptEdges = 12;
-/// Candidates that are so far behind the best one of their line, or behind having none, are not
-/// looked at further: what is learned later hardly moves a weight so far.
-constexpr double FarBehind = 25;
 /// Rows around the places that neighbours suggest are candidates.
 constexpr int AroundPlace = 2;
 /// While a part is compared, the values of one so far behind are fetched, and their tokens once

@@ -17,6 +17,9 @@ public:
     /// Lines with a candidate that is so probable are looked for only just where their neighbours
     /// put them.
     static constexpr double Certain = 0.9999;
+    /// Candidates that are so far behind the best one of their line, or behind having none, are not
+    /// looked at further: what is learned later hardly moves a weight so far.
+    static constexpr double FarBehind = 25;
     [[nodiscard]] static bool isFound(std::span<const PlanEdge> edges);
 
     /// Where rows are looked up.

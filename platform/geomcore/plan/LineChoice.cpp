@@ -96,6 +96,7 @@ std::vector<int> chosenEdges(const EdgeLists &edges, int nodeCount,
             continue;
         const PlanEdge &edge = edges[line][size_t(chosen[line])];
         choice.explained += edge.weight;
+        ++choice.pairs;
         taken[size_t(edge.node)] = 1;
     }
     const std::vector<int> left =

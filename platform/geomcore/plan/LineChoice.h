@@ -16,6 +16,7 @@ struct VELKGEOMCORE_EXPORT LineChoice
 
     /// Sum of the weights of the assigned pairs.
     double explained = 0;
+    size_t pairs = 0; ///< As many.
     /// By line.
     std::vector<double> noSuccessor;
     /// By line: its first candidate is its own in the assignment, and not just left over.

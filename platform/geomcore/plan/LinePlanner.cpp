@@ -138,6 +138,7 @@ void LinePlanner::learnInRounds()
         [this](size_t line, size_t otherLine, const PlanEdge &row, const PlanEdge &otherRow) {
             return areAlike(line, otherLine, row, otherRow);
         });
+    m_choice.explained += m_doubt * double(m_choice.pairs);
 }
 
 LinePlanner::Line LinePlanner::line(size_t line) const
@@ -214,7 +215,7 @@ void LinePlanner::findPlaces(bool first)
 double LinePlanner::prior(size_t target) const
 {
     const auto rows = double(m_tables.targets[target].openRows.size());
-    return std::log((1 - m_gone) * m_shares[target] / (m_gone * rows));
+    return std::log((1 - m_gone) * m_shares[target] / (m_gone * rows)) - m_doubt;
 }
 
 void LinePlanner::makeEdges(bool ofAll)

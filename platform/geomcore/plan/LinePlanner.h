@@ -126,6 +126,7 @@ private:
     std::vector<PlaceEvidence> m_places; ///< By target.
     std::vector<char> m_keepsOrder;      ///< By target, as they said last.
     double m_gone;
+    double m_doubt = 0;           ///< See nextBestDoubt().
     std::vector<double> m_shares; ///< By target: how many of the lines that have a successor.
     EdgeLists m_edges;
     /// What the edges have added to m_changes; after the last round the candidates say it.

@@ -1,9 +1,12 @@
 // The part of LinePlanner that learns from the pairs that it made likely.
 #include "LinePlanner.h"
 
+#include "nextBestDoubt.h"
+
 #include <core/parallel/WorkerPool.h>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace Plan {
@@ -171,6 +174,9 @@ void LinePlanner::learn(bool isLast)
     if (!isLast)
         m_evidence = std::make_unique<PairEvidence>(m_tables, m_rates, m_changes);
     learnTargets(perTarget);
+    if (!isLast)
+        m_doubt = nextBestDoubt(m_edges, m_nodeCount, m_standsFor,
+                                m_doubt - std::log((1 - m_gone) / m_gone));
     m_gone = (gone + VariableRates::Strength * AssumedGone) /
              (double(m_edges.size()) + VariableRates::Strength);
 }
