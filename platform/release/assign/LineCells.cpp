@@ -96,6 +96,7 @@ LineCells LineCells::renamed(const std::vector<std::pair<int, int>> &names) cons
         for (const auto &[variable, column] : columns)
             other.m_cells.push_back(cell(row, column));
     }
+    other.hashRows();
     return other;
 }
 
@@ -112,6 +113,7 @@ void LineCells::readCells(const VKTab::TableData &table, const std::vector<int> 
             m_cells.push_back(cellHash(cell, fields[column], table.isMissing(cell)));
         }
     }
+    hashRows();
 }
 
 std::vector<quint32> LineCells::sortedValues(int column) const
@@ -131,12 +133,13 @@ quint64 LineCells::valueHash(int row, int column) const
     return hash ? mixed((quint64(m_variables[size_t(column)]) << 32 | hash) + 1) : 0;
 }
 
-quint64 LineCells::rowHash(int row) const
+void LineCells::hashRows()
 {
-    quint64 sum = 0;
-    for (int column = 0; column < int(m_variables.size()); ++column)
-        sum += valueHash(row, column);
-    return sum;
+    m_rowHashes.assign(size_t(m_rowCount), 0);
+    for (int row = 0; row < m_rowCount; ++row) {
+        for (int column = 0; column < int(m_variables.size()); ++column)
+            m_rowHashes[size_t(row)] += valueHash(row, column);
+    }
 }
 
 quint64 LineCells::tableHash() const

@@ -16,8 +16,8 @@ namespace VelkRelease {
 class VariableNames;
 
 /// What the lines of a table say, without the table: for each cell a hash of its value, at four
-/// bytes a cell. Numbers are hashed by value, as lines are compared. Hidden and internal variables
-/// and computed ones without a column are left out.
+/// bytes a cell, and one for each line. Numbers are hashed by value, as lines are compared. Hidden
+/// and internal variables and computed ones without a column are left out.
 class VELKRELEASE_EXPORT LineCells
 {
 public:
@@ -44,8 +44,8 @@ public:
     /// Hash of a variable's value, 0 for "no value". The hash of a line over some of its variables
     /// is the sum of these.
     [[nodiscard]] quint64 valueHash(int row, int column) const;
-    /// Over all variables; 0 if the line has no value.
-    [[nodiscard]] quint64 rowHash(int row) const;
+    /// Over all variables; 0 if the line has no value. Kept, for each table is compared with many.
+    [[nodiscard]] quint64 rowHash(int row) const { return m_rowHashes[size_t(row)]; }
     /// Over all lines, whatever their order.
     [[nodiscard]] quint64 tableHash() const;
     /// Number of variables in which the line has a value.
@@ -53,11 +53,13 @@ public:
 
 private:
     void readCells(const VKTab::TableData &table, const std::vector<int> &columns);
+    void hashRows();
 
     int m_rowCount = 0;
     std::vector<int> m_variables;
     std::vector<int> m_keyColumns;
     std::vector<quint32> m_cells;
+    std::vector<quint64> m_rowHashes;
 };
 
 } // namespace VelkRelease

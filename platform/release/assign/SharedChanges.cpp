@@ -4,6 +4,7 @@
 
 #include <core/parallel/WorkerPool.h>
 
+#include <algorithm>
 #include <map>
 #include <set>
 #include <utility>
@@ -51,8 +52,14 @@ void countCases(const KnownLines &lines, Shown &shown, const std::set<OldValue> 
 {
     if (!lines.match || wanted.empty())
         return;
+    std::vector<size_t> places; // of variables with such values
+    for (size_t place = 0; place < lines.match->sourceColumns().size(); ++place) {
+        const auto first = wanted.lower_bound({lines.variable(place), 0});
+        if (first != wanted.end() && first->first == lines.variable(place))
+            places.push_back(place);
+    }
     const auto count = [&](int row) {
-        for (size_t place = 0; place < lines.match->sourceColumns().size(); ++place) {
+        for (const size_t place : places) {
             const OldValue value = oldValue(lines, row, place);
             if (wanted.contains(value))
                 ++shown.cases[value];
@@ -66,34 +73,32 @@ void countCases(const KnownLines &lines, Shown &shown, const std::set<OldValue> 
         count(pair.sourceRow);
 }
 
-int casesOf(const Shown &shown, const OldValue &value)
+/// A change that several projects show, with what all of them say of it.
+struct Counted
 {
-    const auto found = shown.cases.find(value);
-    return found == shown.cases.end() ? 0 : found->second;
-}
-
-/// What is kept of a change, if most lines that could have changed so did.
-void addCounted(const std::vector<Shown> &projects, const OldAndNew &change,
-                std::vector<SharedChanges::Change> &changes)
-{
-    SharedChanges::Change result;
-    result.variable = change.first.first;
+    OldAndNew values;
     SharedCount count;
-    for (size_t i = projects.size(); i-- > 0;) {
-        const auto found = projects[i].changes.find(change);
-        const bool shows = found != projects[i].changes.end();
-        count.add(shows ? found->second.first : 0, casesOf(projects[i], change.first));
-        if (!shows)
-            continue;
-        result.project = int(i);
-        result.sourceRow = found->second.second->sourceRow;
-        result.targetRow = found->second.second->targetRow;
+    SharedChanges::Change change; ///< Where it stands first.
+};
+
+/// \a all is in the order of the values.
+void addCounts(const Shown &shown, int project, std::vector<Counted> &all)
+{
+    auto known = all.begin();
+    for (const auto &[value, cases] : shown.cases) {
+        known = std::ranges::lower_bound(known, all.end(), value, {},
+                                         [](const Counted &at) { return at.values.first; });
+        for (; known != all.end() && known->values.first == value; ++known) {
+            const auto found = shown.changes.find(known->values);
+            const bool shows = found != shown.changes.end();
+            known->count.add(shows ? found->second.first : 0, cases);
+            if (!shows)
+                continue;
+            known->change.project = project;
+            known->change.sourceRow = found->second.second->sourceRow;
+            known->change.targetRow = found->second.second->targetRow;
+        }
     }
-    if (!count.isMost())
-        return;
-    result.supports = count.supports();
-    result.cases = count.cases();
-    changes.push_back(result);
 }
 
 } // namespace
@@ -108,17 +113,28 @@ std::vector<SharedChanges::Change> SharedChanges::of(const std::vector<KnownLine
         for (const auto &[change, lines] : project.changes)
             ++counts[change];
     }
-    std::erase_if(counts,
-                  [](const auto &entry) { return entry.second < SharedCount::LeastProjects; });
+    std::vector<Counted> all;
     std::set<OldValue> wanted;
-    for (const auto &[change, count] : counts)
-        wanted.insert(change.first);
+    for (const auto &[values, count] : counts) {
+        if (count < SharedCount::LeastProjects)
+            continue;
+        all.push_back({values, {}, {}});
+        wanted.insert(values.first);
+    }
     WorkerPool::instance().run(int(projects.size()), [&](int i) {
         countCases(projects[size_t(i)], shown[size_t(i)], wanted);
     });
+    for (size_t i = projects.size(); i-- > 0;) // the first one that shows it comes last
+        addCounts(shown[i], int(i), all);
     std::vector<Change> changes;
-    for (const auto &[change, count] : counts)
-        addCounted(shown, change, changes);
+    for (Counted &counted : all) {
+        if (!counted.count.isMost()) // most lines that could have changed so did not
+            continue;
+        counted.change.variable = counted.values.first.first;
+        counted.change.supports = counted.count.supports();
+        counted.change.cases = counted.count.cases();
+        changes.push_back(counted.change);
+    }
     return changes;
 }
 

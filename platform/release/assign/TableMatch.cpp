@@ -18,6 +18,8 @@ constexpr double MostOfColumn = 2.0 / 3;
 
 quint64 sumOver(const LineCells &cells, int row, const std::vector<int> &columns)
 {
+    if (columns.size() == cells.variables().size())
+        return cells.rowHash(row);
     quint64 sum = 0;
     for (const int column : columns)
         sum += cells.valueHash(row, column);
@@ -29,40 +31,56 @@ int valuesIn(const LineCells &cells, int row, const std::vector<int> &columns)
     return int(std::ranges::count_if(columns, [&](int c) { return cells.cell(row, c) != 0; }));
 }
 
-/// Sums that are well mixed already, so that their lower bits choose the place.
-class SumSet
+/// Something for each of some sums, which are well mixed already, so that their lower bits choose
+/// the place.
+template<class Value>
+class SumTable
 {
 public:
-    explicit SumSet(size_t count)
-        : m_slots(std::bit_ceil(std::max<size_t>(2 * count, 2)), 0)
+    /// For so many different ones.
+    explicit SumTable(size_t count)
+        : m_slots(std::bit_ceil(std::max<size_t>(2 * count, 2)))
     {
     }
 
-    void insert(quint64 sum)
+    /// The one that is there already, or a new one.
+    Value &add(quint64 sum)
     {
-        if (sum == 0)
-            m_hasZero = true;
-        else
-            m_slots[place(sum)] = sum;
+        Slot &slot = m_slots[place(keyOf(sum))];
+        slot.key = keyOf(sum);
+        return slot.value;
     }
-    [[nodiscard]] bool contains(quint64 sum) const
+    /// Null for a sum that is not there.
+    [[nodiscard]] Value *find(quint64 sum)
     {
-        return sum == 0 ? m_hasZero : m_slots[place(sum)] == sum;
+        Slot &slot = m_slots[place(keyOf(sum))];
+        return slot.key == 0 ? nullptr : &slot.value;
     }
 
 private:
-    [[nodiscard]] size_t place(quint64 sum) const
+    struct Slot
+    {
+        quint64 key = 0; ///< 0: free.
+        [[no_unique_address]] Value value;
+    };
+    /// 0 is one of very many sums.
+    [[nodiscard]] static quint64 keyOf(quint64 sum) { return sum == 0 ? 1 : sum; }
+    [[nodiscard]] size_t place(quint64 key) const
     {
         const size_t mask = m_slots.size() - 1;
-        size_t slot = size_t(sum) & mask;
-        while (m_slots[slot] != 0 && m_slots[slot] != sum)
+        size_t slot = size_t(key) & mask;
+        while (m_slots[slot].key != 0 && m_slots[slot].key != key)
             slot = (slot + 1) & mask;
         return slot;
     }
 
-    std::vector<quint64> m_slots; ///< A power of two, at most half of them taken.
-    bool m_hasZero = false;
+    std::vector<Slot> m_slots; ///< A power of two, at most half of them taken.
 };
+
+struct Nothing
+{
+};
+using SumSet = SumTable<Nothing>;
 
 /// For each row of the source whether the target has a row that is equal on these columns.
 std::vector<bool> equalRows(const LineCells &source, const std::vector<int> &sourceColumns,
@@ -70,11 +88,11 @@ std::vector<bool> equalRows(const LineCells &source, const std::vector<int> &sou
 {
     SumSet sums(size_t(target.rowCount()));
     for (int row = 0; row < target.rowCount(); ++row)
-        sums.insert(sumOver(target, row, targetColumns));
+        sums.add(sumOver(target, row, targetColumns));
     std::vector<bool> equal(size_t(source.rowCount()), false);
     for (int row = 0; row < source.rowCount(); ++row) {
         const quint64 sum = sumOver(source, row, sourceColumns);
-        equal[size_t(row)] = sum != 0 && sums.contains(sum);
+        equal[size_t(row)] = sum != 0 && sums.find(sum);
     }
     return equal;
 }
@@ -142,7 +160,7 @@ void TableMatch::findNearLines()
     for (int row = 0; row < m_target->rowCount(); ++row) {
         const quint64 sum = sumOver(*m_target, row, m_targetColumns);
         for (size_t i = 0; i < count; ++i)
-            sums.insert(sumWithout(sum, m_target->valueHash(row, m_targetColumns[i]), i));
+            sums.add(sumWithout(sum, m_target->valueHash(row, m_targetColumns[i]), i));
     }
     for (int row = 0; row < m_source->rowCount(); ++row) {
         if (isEqual(row))
@@ -152,7 +170,7 @@ void TableMatch::findNearLines()
         int &most = m_equalValues[size_t(row)];
         for (size_t i = 0; i < count && most < values; ++i) {
             const quint64 left = m_source->valueHash(row, m_sourceColumns[i]);
-            if (sums.contains(sumWithout(sum, left, i)))
+            if (sums.find(sumWithout(sum, left, i)))
                 most = std::max(most, values - (left != 0));
         }
     }
@@ -171,35 +189,49 @@ std::vector<TableMatch::NearPair> TableMatch::nearPairs() const
         int source = None;
         int target = None;
     };
-    std::unordered_map<quint64, Rows> rows; // by sums without one variable
-    const auto add = [&rows](const LineCells &cells, const std::vector<int> &columns,
-                             int Rows::*which) {
-        for (int row = 0; row < cells.rowCount(); ++row) {
-            if (valuesIn(cells, row, columns) < 3) // two have to be the same
-                continue;
-            const quint64 sum = sumOver(cells, row, columns);
-            for (size_t i = 0; i < columns.size(); ++i) {
-                const quint64 left = cells.valueHash(row, columns[i]);
-                if (left == 0)
-                    continue;
-                int &known = rows[sumWithout(sum, left, i)].*which;
-                known = known == None ? row : Several;
-            }
+    const auto forEachSum = [](const LineCells &cells, int row, const std::vector<int> &columns,
+                               const auto &take) {
+        if (valuesIn(cells, row, columns) < 3) // two have to be the same
+            return;
+        const quint64 sum = sumOver(cells, row, columns);
+        for (size_t i = 0; i < columns.size(); ++i) {
+            const quint64 left = cells.valueHash(row, columns[i]);
+            if (left != 0)
+                take(i, sumWithout(sum, left, i));
         }
     };
-    add(*m_source, m_sourceColumns, &Rows::source);
-    add(*m_target, m_targetColumns, &Rows::target);
+    // By sums without one variable, those of the lines that are looked for.
+    SumTable<Rows> rows(size_t(std::ranges::count(m_equal, false)) * count);
+    const auto note = [](int &known, int row) {
+        known = known == None ? row : Several;
+    };
+    for (const bool equal : {false, true}) {
+        for (int row = 0; row < m_source->rowCount(); ++row) {
+            if (isEqual(row) != equal)
+                continue;
+            forEachSum(*m_source, row, m_sourceColumns, [&](size_t, quint64 sum) {
+                if (!equal)
+                    note(rows.add(sum).source, row);
+                else if (Rows *const known = rows.find(sum))
+                    note(known->source, row);
+            });
+        }
+    }
+    for (int row = 0; row < m_target->rowCount(); ++row) {
+        forEachSum(*m_target, row, m_targetColumns, [&](size_t, quint64 sum) {
+            if (Rows *const known = rows.find(sum))
+                note(known->target, row);
+        });
+    }
     for (int row = 0; row < m_source->rowCount(); ++row) {
         if (isEqual(row))
             continue;
-        const quint64 sum = sumOver(*m_source, row, m_sourceColumns);
         const size_t before = pairs.size();
-        for (size_t i = 0; i < count; ++i) {
-            const quint64 left = m_source->valueHash(row, m_sourceColumns[i]);
-            const auto found = left == 0 ? rows.end() : rows.find(sumWithout(sum, left, i));
-            if (found != rows.end() && found->second.source == row && found->second.target >= 0)
-                pairs.push_back({row, found->second.target, i});
-        }
+        forEachSum(*m_source, row, m_sourceColumns, [&](size_t place, quint64 sum) {
+            const Rows *const found = rows.find(sum);
+            if (found && found->source == row && found->target >= 0)
+                pairs.push_back({row, found->target, place});
+        });
         if (pairs.size() > before + 1) // which of them is not known
             pairs.resize(before);
     }
