@@ -148,7 +148,7 @@ void CatalogGenerator::appendLine(std::string &out, int project, std::uint32_t l
     const int last = m_shape.ranges ? m_shape.variables - 2 : m_shape.variables - 1;
     // Numbers stand in column 2 (the length) and in the even columns from 4 on.
     int changedColumn = -1;
-    if (changed)
+    if (changed && !m_shape.millimetres)
         changedColumn = 2 + 2 * int(random(project, line, ChangedColumn) % std::uint64_t(last / 2));
     out += 'A';
     appendPadded(out, line, 8);
@@ -157,7 +157,10 @@ void CatalogGenerator::appendLine(std::string &out, int project, std::uint32_t l
         std::uint64_t value = random(project, line, column);
         if (column == changedColumn)
             value += 7;
-        appendCell(out, column, value);
+        if (changed && m_shape.millimetres && column == 4)
+            appendMillimetres(out, value);
+        else
+            appendCell(out, column, value);
     }
     out += '\n';
 }
@@ -182,6 +185,14 @@ void CatalogGenerator::appendCell(std::string &out, int column, std::uint64_t ra
         out += '.';
         appendPadded(out, random / 1000 % 100, 2);
     }
+}
+
+void CatalogGenerator::appendMillimetres(std::string &out, std::uint64_t random)
+{
+    const std::uint64_t thousandths = (random % 1000 * 100 + random / 1000 % 100) * 254;
+    out += std::to_string(thousandths / 1000);
+    out += '.';
+    appendPadded(out, thousandths % 1000, 3);
 }
 
 std::string CatalogGenerator::descriptor(const std::string &name, const std::string &date) const

@@ -14,6 +14,9 @@ struct CatalogShape
     int lines = 10000;  ///< old lines of each project
     int variables = 10; ///< columns of each table, at least 4; the first is the key
     double changed = 0.01;
+    /// Changed lines have their first number of two decimals, in the fifth column, in millimetres
+    /// instead of inches; else another number.
+    bool millimetres = false;
     double dropped = 0.005;
     double added = 0.005;
     /// Lines that stand elsewhere in the new release, moved in blocks of up to 50.
@@ -58,6 +61,8 @@ private:
     void appendHeader(std::string &out) const;
     void appendLine(std::string &out, int project, std::uint32_t line, bool changed) const;
     void appendCell(std::string &out, int column, std::uint64_t random) const;
+    /// A number of two decimals times 25.4.
+    static void appendMillimetres(std::string &out, std::uint64_t random);
     std::string descriptor(const std::string &name, const std::string &date) const;
     std::uint64_t random(int project, std::uint64_t line, int purpose) const;
 

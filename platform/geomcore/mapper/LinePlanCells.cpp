@@ -17,9 +17,10 @@ namespace {
 
 /// Rows of a target's table from which it is learned how often values occur.
 constexpr int MaxSampled = 20'000;
-/// So many open lines and rows are many: their variables are numbered in two passes, unless they
-/// are a small part of the tables.
+/// So many open lines and rows are many: their variables are numbered in several passes, unless
+/// they are a small part of the tables.
 constexpr size_t ManyLines = 20'000;
+constexpr int Passes = 3;
 
 /// Rows so far ahead are fetched while others are split: where few are open, they are far apart.
 constexpr size_t RowsAhead = 8;
@@ -83,7 +84,7 @@ int LinePlan::variablesAtOnce() const
     }
     const int variables = m_tables.variableCount;
     const bool isMuch = lines >= ManyLines && lines > all / 4;
-    return std::max(1, isMuch ? (variables + 1) / 2 : variables);
+    return std::max(1, isMuch ? (variables + Passes - 1) / Passes : variables);
 }
 
 void LinePlan::fillTargets(const LearnedValues &learned)
