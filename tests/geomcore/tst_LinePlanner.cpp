@@ -5,6 +5,7 @@
 #include <QTest>
 
 #include <limits>
+#include <map>
 #include <memory>
 #include <numeric>
 #include <random>
@@ -95,6 +96,8 @@ private Q_SLOTS:
     void keyAloneIsNotFarAhead();
     void partOfManyLinesTeachesAll();
     void ofTheUnlikelyOnlyTheBestIsKept();
+    void linesAlikeDoNotCross_data();
+    void linesAlikeDoNotCross();
 };
 
 void tst_LinePlanner::valuesKeepTheirNumbers()
@@ -352,6 +355,58 @@ void tst_LinePlanner::ofTheUnlikelyOnlyTheBestIsKept()
     QCOMPARE(gone.candidates.size(), size_t(1));
     QVERIFY(gone.candidates.front().probability < 1e-9);
     QVERIFY(gone.noSuccessor > 0.999);
+}
+
+void tst_LinePlanner::linesAlikeDoNotCross_data()
+{
+    QTest::addColumn<int>("per");  // lines of a value
+    QTest::addColumn<int>("more"); // rows of it beside these
+    QTest::addColumn<bool>("hasOther");
+    QTest::newRow("one column") << 2 << 1 << false;
+    QTest::newRow("values missing in another one") << 4 << 0 << true;
+    QTest::newRow("new rows as well") << 6 << 2 << true;
+}
+
+/// Few values, each in several lines and in several rows, some of which are gone: the places of
+/// crossed lines would confirm each other.
+void tst_LinePlanner::linesAlikeDoNotCross()
+{
+    QFETCH(int, per);
+    QFETCH(int, more);
+    QFETCH(bool, hasOther);
+    std::mt19937 random(3);
+    int crossed = 0;
+    for (int table = 0; table < 20; ++table) {
+        Table lines;
+        Table rows;
+        for (int value = 0; value < 14; ++value) {
+            const std::string text = std::to_string(value) + ".5";
+            for (int i = 0; i < per + more; ++i) {
+                const std::string other = hasOther ? std::to_string(random() % 3) : "1";
+                if (i < per)
+                    lines.push_back({text, other});
+                if (random() % 5 != 0)
+                    rows.push_back({text, random() % 10 == 0 ? "" : other});
+            }
+        }
+        PlanTables tables;
+        fill(tables, lines, rows, 0);
+        LinePlanner planner(tables);
+        planner.run();
+        std::map<std::vector<std::string>, int> last; // row of the line alike before
+        for (size_t line = 0; line < lines.size(); ++line) {
+            const LinePlanner::Line found = planner.line(line);
+            if (found.candidates.empty() || found.candidates.front().probability < 0.5)
+                continue;
+            const int row = found.candidates.front().row;
+            std::vector<std::string> alike = lines[line];
+            alike.insert(alike.end(), rows[size_t(row)].begin(), rows[size_t(row)].end());
+            const auto [before, isFirst] = last.emplace(alike, row);
+            crossed += !isFirst && before->second > row ? 1 : 0;
+            before->second = row;
+        }
+    }
+    QCOMPARE(crossed, 0);
 }
 
 QTEST_APPLESS_MAIN(tst_LinePlanner)

@@ -1,5 +1,6 @@
 #include "LinePlanner.h"
 
+#include "CellChange.h"
 #include "giveBack.h"
 #include "SoftAssignment.h"
 
@@ -192,6 +193,30 @@ void LinePlanner::takeSample()
     }
 }
 
+/// Lines that differ in nothing have rows that differ in nothing in the order of the table: which
+/// of them is whose is not known, and crossed ones would show places that confirm each other.
+void LinePlanner::uncross(const PlanTarget &target, std::vector<std::pair<size_t, int>> &pairs)
+{
+    std::vector<std::pair<std::uint64_t, size_t>> alike; // values and place of each pair
+    for (size_t i = 0; i < pairs.size(); ++i) {
+        std::uint64_t key = 0;
+        for (size_t place = 0; place < target.variables.size(); ++place)
+            key = keyOf(key, place, std::uint64_t(target.lines.at(pairs[i].first, place)),
+                        std::uint64_t(target.rows.at(size_t(pairs[i].second), place)));
+        alike.emplace_back(key, i);
+    }
+    std::sort(alike.begin(), alike.end());
+    std::vector<int> rows;
+    for (size_t first = 0; first < alike.size(); first += rows.size()) {
+        rows.clear();
+        for (size_t i = first; i < alike.size() && alike[i].first == alike[first].first; ++i)
+            rows.push_back(pairs[alike[i].second].second);
+        std::sort(rows.begin(), rows.end());
+        for (size_t i = 0; i < rows.size(); ++i)
+            pairs[alike[first + i].second].second = rows[i];
+    }
+}
+
 void LinePlanner::findPlaces(bool first)
 {
     m_places.clear();
@@ -199,13 +224,17 @@ void LinePlanner::findPlaces(bool first)
     for (size_t t = 0; t < m_tables.targets.size(); ++t) {
         const PlanTarget &target = m_tables.targets[t];
         std::vector<int> partners = target.settled;
+        std::vector<std::pair<size_t, int>> likely;
         for (size_t line = 0; line < m_edges.size() && !first; ++line) {
             for (const PlanEdge &edge : std::as_const(m_edges)[line]) {
                 const bool same = m_tables.targets[size_t(edge.target)].table == target.table;
                 if (same && edge.probability >= Confident)
-                    partners[size_t(m_tables.openLines[line])] = target.openRows[size_t(edge.row)];
+                    likely.emplace_back(line, edge.row);
             }
         }
+        uncross(target, likely);
+        for (const auto &[line, row] : likely)
+            partners[size_t(m_tables.openLines[line])] = target.openRows[size_t(row)];
         m_places.emplace_back(std::move(partners), target.rowCount);
         m_places.back().learn();
         m_keepsOrder.push_back(m_places.back().keepsOrder() ? 1 : 0);

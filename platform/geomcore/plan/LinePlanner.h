@@ -66,6 +66,7 @@ private:
     /// From another beginning; keeps the result if it explains the tables better.
     void learnAgain(bool beginsByKeys, double gone);
     void findPlaces(bool first);
+    static void uncross(const PlanTarget &target, std::vector<std::pair<size_t, int>> &pairs);
     /// Of all lines or of those that stand for them.
     void makeEdges(bool ofAll);
     /// Of very many lines a part is enough to learn from.
