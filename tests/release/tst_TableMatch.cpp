@@ -114,6 +114,7 @@ void tst_TableMatch::nearPairs_data()
     row("two new lines like it", "a,b,c;1,2,3", "a,b,c;1,2,4;1,2,5", "");
     row("two old lines like it", "a,b,c;1,2,3;1,2,4", "a,b,c;1,2,5", "");
     row("one of two old lines stays", "a,b,c;1,2,3;1,2,4", "a,b,c;1,2,4;1,2,5", "");
+    row("the new line is that of another", "a,b,c;1,2,3;1,2,4", "a,b,c;1,2,4", "");
     row("like one in another variable too", "a,b,c;1,2,3", "a,b,c;1,2,4;1,5,3", "");
     row("only common variables", "a,b,c,x;1,2,3,7", "a,b,c,y;1,2,4,8", "0-0:2");
 }
