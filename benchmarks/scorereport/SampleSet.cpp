@@ -131,15 +131,15 @@ std::map<std::string, std::string> SampleSet::valuesAt(const TruthFile::Place &p
     const auto table = news.find(place.first);
     if (table == news.end() || place.second < 1 || size_t(place.second) > table->lines.size())
         return values;
-    for (const std::string &name : names) {
-        const auto column = std::find(table->names.begin(), table->names.end(), name);
-        if (column == table->names.end())
+    for (const std::string &column : names) {
+        const auto found = std::find(table->names.begin(), table->names.end(), column);
+        if (found == table->names.end())
             continue;
         const std::string &text =
-            table->lines[size_t(place.second) - 1][size_t(column - table->names.begin())];
+            table->lines[size_t(place.second) - 1][size_t(found - table->names.begin())];
         bool isNumber = false;
         const double number = QByteArray::fromStdString(text).trimmed().toDouble(&isNumber);
-        values[name] = isNumber ? QByteArray::number(number, 'g', 10).toStdString() : text;
+        values[column] = isNumber ? QByteArray::number(number, 'g', 10).toStdString() : text;
     }
     return values;
 }
