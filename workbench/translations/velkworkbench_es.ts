@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>%1 ohne Zeile im neuen Stand</source>
-        <translation>%1 sin línea en la nueva versión</translation>
+        <translation>%1 sin fila en la nueva versión</translation>
     </message>
     <message>
         <source>%1 damals als ausgelaufen bestätigt</source>
@@ -206,8 +206,8 @@
     <message numerus="yes">
         <source>Aus %1 übernommen: %2 von %Ln bestätigten Zeile(n), %3 sicher zugeordnet, %4 vorgeschlagen.</source>
         <translation>
-            <numerusform>Adoptadas de %1: %2 de %Ln línea confirmada, %3 asignadas con certeza, %4 propuestas.</numerusform>
-            <numerusform>Adoptadas de %1: %2 de %Ln líneas confirmadas, %3 asignadas con certeza, %4 propuestas.</numerusform>
+            <numerusform>Adoptadas de %1: %2 de %Ln fila confirmada, %3 asignadas con certeza, %4 propuestas.</numerusform>
+            <numerusform>Adoptadas de %1: %2 de %Ln filas confirmadas, %3 asignadas con certeza, %4 propuestas.</numerusform>
         </translation>
     </message>
 </context>
@@ -531,8 +531,8 @@ Ajena: %2</translation>
     <message numerus="yes">
         <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%Ln línea</numerusform>
-            <numerusform>%Ln líneas</numerusform>
+            <numerusform>%Ln fila</numerusform>
+            <numerusform>%Ln filas</numerusform>
         </translation>
     </message>
     <message>
@@ -549,7 +549,7 @@ Ajena: %2</translation>
     </message>
     <message>
         <source>Markierte Zeilen</source>
-        <translation>Líneas seleccionadas</translation>
+        <translation>Filas seleccionadas</translation>
     </message>
 </context>
 <context>
@@ -853,8 +853,8 @@ Abra «%1» y elija «%2» para volver a ver todos los proyectos.</translation>
     <message numerus="yes">
         <source>%Ln Zeile(n)</source>
         <translation>
-            <numerusform>%Ln línea</numerusform>
-            <numerusform>%Ln líneas</numerusform>
+            <numerusform>%Ln fila</numerusform>
+            <numerusform>%Ln filas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -885,7 +885,7 @@ Abra «%1» y elija «%2» para volver a ver todos los proyectos.</translation>
     </message>
     <message>
         <source>Zeilen</source>
-        <translation>Líneas</translation>
+        <translation>Filas</translation>
     </message>
     <message>
         <source>Filter au&amp;fheben</source>
@@ -2372,11 +2372,11 @@ Abra «%1» y elija «%2» para volver a ver todos los proyectos.</translation>
     </message>
     <message>
         <source>Alte Zeile</source>
-        <translation>Línea antigua</translation>
+        <translation>Fila antigua</translation>
     </message>
     <message>
         <source>Neue Zeile</source>
-        <translation>Línea nueva</translation>
+        <translation>Fila nueva</translation>
     </message>
     <message>
         <source>Weitere Unterschiede</source>
@@ -2613,7 +2613,7 @@ Abra «%1» y elija «%2» para volver a ver todos los proyectos.</translation>
     </message>
     <message>
         <source>je Zeile eine oder mehrere davon</source>
-        <translation>una o varias de ellas en cada línea</translation>
+        <translation>una o varias de ellas en cada fila</translation>
     </message>
 </context>
 <context>
@@ -4004,8 +4004,8 @@ Fila: %2
     <message numerus="yes">
         <source>&lt;a href=&quot;next&quot;&gt;%Ln Zeile(n)&lt;/a&gt;</source>
         <translation>
-            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln línea&lt;/a&gt;</numerusform>
-            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln líneas&lt;/a&gt;</numerusform>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln fila&lt;/a&gt;</numerusform>
+            <numerusform>&lt;a href=&quot;next&quot;&gt;%Ln filas&lt;/a&gt;</numerusform>
         </translation>
     </message>
     <message>
@@ -4171,7 +4171,7 @@ Fila: %2
     </message>
     <message>
         <source>Zeilen</source>
-        <translation>Líneas</translation>
+        <translation>Filas</translation>
     </message>
 </context>
 <context>

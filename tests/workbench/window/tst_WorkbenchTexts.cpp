@@ -94,6 +94,17 @@ private Q_SLOTS:
         QTest::newRow("French") << "translations/*_fr.ts" << false
                                 << "modeleur|du programme\\.|supprimée du programme|"
                                    "affectations? de variable";
+        // Of the workbench; a line of a text is none of a table.
+        QTest::newRow("Spanish of the workbench")
+            << "workbench/translations/velkworkbench_es.ts" << false
+            << "caducad|mapeo de variables|asignaci(ón|ones) de variable|"
+               "(?<!por )(?<!sin )(?<!servidor, )línea(?!s ilegibles| de un script| de JavaScript)";
+        QTest::newRow("Polish of the workbench")
+            << "workbench/translations/velkworkbench_pl.ts" << false
+            << "pocztą|modelarz|przypisani\\w+ zmienn";
+        QTest::newRow("French of the workbench")
+            << "workbench/translations/velkworkbench_fr.ts" << false
+            << "modeleur|du programme\\.|supprimée du programme|affectations? de variable";
     }
     void wordsAreThoseOfTheGlossary()
     {
