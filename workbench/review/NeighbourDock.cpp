@@ -2,6 +2,8 @@
 
 #include "NeighbourModel.h"
 
+#include <gui/views/WrappingDelegate.h>
+
 #include <QEvent>
 #include <QHeaderView>
 #include <QLabel>
@@ -24,9 +26,14 @@ NeighbourDock::NeighbourDock(NeighbourWork *work, QWidget *parent)
     m_list->setObjectName("NeighbourList");
     m_list->setModel(m_model);
     m_list->setRootIsDecorated(false);
-    m_list->setUniformRowHeights(true);
     m_list->setAllColumnsShowFocus(true);
-    m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    // Whatever the width: all of it can be read.
+    m_list->header()->setStretchLastSection(false);
+    m_list->header()->setSectionResizeMode(QHeaderView::Stretch);
+    for (int column = 0; column < NeighbourModel::ColumnCount; ++column)
+        new WrappingDelegate(m_list, column);
+    m_list->header()->setMinimumSectionSize(40);
+    content->setMinimumWidth(30 * fontMetrics().averageCharWidth());
     layout->addWidget(m_sum);
     layout->addWidget(m_list);
     setWidget(content);

@@ -12,9 +12,11 @@
 
 #include <QAbstractItemModelTester>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QListWidget>
 #include <QSet>
 #include <QSpinBox>
+#include <QTreeView>
 
 namespace {
 
@@ -329,6 +331,17 @@ void tst_ReviewSamples::neighboursAreMendedInOneStep()
                  ->text()
                  .endsWith(QString("%1 Fundstelle%2").arg(before + 1).arg(before == 0 ? "" : "n")),
              qPrintable(fixture.window->findChild<QLabel *>("NeighbourSum")->text()));
+    // Also in a narrow list all of it can be read.
+    QDockWidget *const dock = fixture.window->neighbours()->dock();
+    fixture.window->resizeDocks({dock}, {10}, Qt::Horizontal);
+    QTRY_COMPARE(list->header()->length(), list->viewport()->width());
+    for (int column = 0; column < list->model()->columnCount(); ++column) {
+        const QModelIndex index = list->model()->index(row, column);
+        const int wanted = list->fontMetrics().horizontalAdvance(index.data().toString());
+        list->scrollTo(index);
+        const QRect place = list->visualRect(index);
+        QVERIFY(place.height() / list->fontMetrics().height() * place.width() >= wanted);
+    }
     list->setFocus();
     list->setCurrentIndex(list->model()->index(row, 0));
     fixture.press(Qt::Key_Return);
