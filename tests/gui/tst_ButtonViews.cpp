@@ -3,6 +3,7 @@
 
 #include <QSignalSpy>
 #include <QStandardItemModel>
+#include <QStyleOptionHeaderV2>
 #include <QTableView>
 #include <QTest>
 #include <QToolTip>
@@ -55,6 +56,34 @@ private Q_SLOTS:
         QTest::mouseClick(header->viewport(), Qt::RightButton, {}, button.center());
         QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, QPoint(300, 5));
         QCOMPARE(spy.size(), 1);
+    }
+
+    void headerTextsThatDoNotFit()
+    {
+        struct Header : PButtonHeaderView
+        {
+            using PButtonHeaderView::PButtonHeaderView;
+            QString shown(int section) const
+            {
+                QStyleOptionHeaderV2 option;
+                initStyleOption(&option);
+                initStyleOptionForIndex(&option, section);
+                return option.text;
+            }
+        };
+        QTableView view;
+        QStandardItemModel model(1, 3);
+        const QString label = "Variablenzuordnung";
+        model.setHorizontalHeaderLabels({"", label, label});
+        auto *const header = new Header(QSize(24, 24), Qt::Horizontal, &view);
+        view.setHorizontalHeader(header);
+        view.setModel(&model);
+        const int wanted = header->fontMetrics().horizontalAdvance(label);
+        header->resizeSection(1, wanted + 20);
+        QCOMPARE(header->shown(1), label);
+        header->resizeSection(1, wanted / 2);
+        QVERIFY2(header->shown(1).endsWith(u'…'), qPrintable(header->shown(1)));
+        QVERIFY(header->fontMetrics().horizontalAdvance(header->shown(1)) <= wanted / 2);
     }
 
     void headerButtonTellsItsToolTip()

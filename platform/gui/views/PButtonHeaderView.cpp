@@ -87,6 +87,17 @@ void PButtonHeaderView::setHovered(int section)
     viewport()->update();
 }
 
+/// Qt's own header cuts a text that does not fit, whatever the mode.
+void PButtonHeaderView::initStyleOptionForIndex(QStyleOptionHeader *option, int section) const
+{
+    QHeaderView::initStyleOptionForIndex(option, section);
+    if (orientation() != Qt::Horizontal)
+        return;
+    const int margins = 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
+    option->text = option->fontMetrics.elidedText(option->text, textElideMode(),
+                                                  sectionSize(section) - margins);
+}
+
 void PButtonHeaderView::paintSection(QPainter *painter, const QRect &rect, int section) const
 {
     painter->save();

@@ -35,6 +35,7 @@ Q_SIGNALS:
     void buttonClicked(int section);
 
 protected:
+    void initStyleOptionForIndex(QStyleOptionHeader *option, int section) const override;
     void paintSection(QPainter *painter, const QRect &rect, int section) const override;
     QSize sectionSizeFromContents(int section) const override;
     void mousePressEvent(QMouseEvent *event) override;
