@@ -78,8 +78,10 @@ std::vector<GeneratedProject> CatalogGenerator::write(const std::filesystem::pat
             (isNew ? files.newCsv : files.oldCsv) = base / (name + ".csv");
             writeFile(base / (name + ".csv"), isNew ? newTable(project) : oldTable(project));
             writeFile(base / (name + ".json"), descriptor(name, date));
-            writeFile(base / (name + ".prj"),
-                      "[PROJECT]\nNAME=" + name + "\nDATE=" + date + "\nSACHM=" + name + ".json\n");
+            std::string head = "[PROJECT]\nNAME=";
+            head.append(name).append("\nDATE=").append(date);
+            head.append("\nSACHM=").append(name).append(".json\n");
+            writeFile(base / (name + ".prj"), head);
         }
         result.push_back(std::move(files));
     }
